@@ -1,0 +1,36 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Warnings, sanitizers, compiler cache and the strict Qt defines, each as one interface target.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+        ${CCACHE_PROGRAM})
+endif()
+
+add_library(tally_flags INTERFACE)
+target_compile_options(tally_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+# gcc 12 needs this to let ccache share precompiled headers.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(tally_flags INTERFACE -fpch-preprocess)
+endif()
+# Line tables are enough for a back trace and halve the size of what is linked.
+string(REPLACE "-g" "-g1" CMAKE_CXX_FLAGS_DEBUG "${CMAKE_CXX_FLAGS_DEBUG}")
+
+if(TALLY_SANITIZE)
+    target_compile_options(tally_flags INTERFACE
+        -fsanitize=${TALLY_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(tally_flags INTERFACE -fsanitize=${TALLY_SANITIZE})
+endif()
+
+add_library(tally_qt_flags INTERFACE)
+target_link_libraries(tally_qt_flags INTERFACE tally_flags)
+target_compile_definitions(tally_qt_flags INTERFACE
+    QT_NO_CAST_FROM_ASCII
+    QT_NO_CAST_TO_ASCII
+    QT_NO_CAST_FROM_BYTEARRAY
+    QT_NO_URL_CAST_FROM_STRING
+    QT_NO_KEYWORDS
+    QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_STRICT_ITERATORS
+    QT_DISABLE_DEPRECATED_BEFORE=0x060400)

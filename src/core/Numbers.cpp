@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Numbers.h"
+
+#include "core/Fault.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace tally {
+
+namespace {
+
+// Halves to even without relying on the rounding mode of the machine.
+double roundHalfEven(double value) {
+    const double below = std::floor(value);
+    const double part = value - below;
+    if (part < 0.5)
+        return below;
+    if (part > 0.5)
+        return below + 1;
+    return std::fmod(below, 2.0) == 0.0 ? below : below + 1;
+}
+
+template <typename Whole>
+Whole toWhole(double value) {
+    const double rounded = roundHalfEven(value);
+    if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max()))
+        throw fault::overflow();
+    return static_cast<Whole>(rounded);
+}
+
+bool isBlank(char c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// The text without blanks up to its first character that cannot belong to a number.
+std::string numberPart(std::string_view text, std::size_t& used) {
+    std::string part;
+    bool point = false;
+    bool exponent = false;
+    bool digits = false;
+    for (used = 0; used < text.size(); ++used) {
+        char c = text[used];
+        if (isBlank(c))
+            continue;
+        const char last = part.empty() ? '\0' : part.back();
+        if (isDigit(c)) {
+            digits = true;
+        } else if (c == '.' && !point && !exponent) {
+            point = true;
+        } else if ((c == 'e' || c == 'E' || c == 'd' || c == 'D') && digits && !exponent) {
+            exponent = true;
+            c = 'e';
+        } else if (!((c == '+' || c == '-') && (part.empty() || last == 'e'))) {
+            break;
+        }
+        part += c;
+    }
+    return part;
+}
+
+double parse(std::string_view part) {
+    if (!part.empty() && part.front() == '+')
+        part.remove_prefix(1);
+    double value = 0;
+    std::from_chars(part.data(), part.data() + part.size(), value);
+    return value;
+}
+
+// Digits of a value without exponent, as many as it takes to read it back.
+template <typename Real>
+std::string digitsOf(Real value) {
+    std::array<char, 512> buffer{};
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed);
+    return {buffer.data(), end.ptr};
+}
+
+// Adds one to the last digit of a run of digits (a point is passed over).
+void addOne(std::string& digits) {
+    for (auto i = digits.size(); i-- > 0;) {
+        if (digits[i] == '.')
+            continue;
+        if (digits[i] != '9') {
+            ++digits[i];
+            return;
+        }
+        digits[i] = '0';
+    }
+    digits.insert(digits.begin(), '1');
+}
+
+// Cuts "123.456" to a number of decimals, halves away from zero.
+std::string roundDigits(std::string digits, std::size_t decimals) {
+    auto point = digits.find('.');
+    if (point == std::string::npos) {
+        point = digits.size();
+        digits += '.';
+    }
+    digits.append(decimals + 1, '0');
+    const auto keep = point + 1 + decimals;
+    const bool up = digits[keep] >= '5';
+    digits.resize(keep);
+    if (up)
+        addOne(digits);
+    if (decimals == 0)
+        digits.pop_back();
+    return digits;
+}
+
+void groupThousands(std::string& whole) {
+    for (auto i = static_cast<std::ptrdiff_t>(whole.size()) - 3; i > 0; i -= 3)
+        whole.insert(static_cast<std::size_t>(i), ",");
+}
+
+template <typename Real>
+std::string formatReal(Real value, std::string_view pattern) {
+    constexpr std::string_view places = "#0,.";
+    const auto first = pattern.find_first_of(places);
+    if (first == std::string_view::npos)
+        return std::string(pattern);
+    const auto last = pattern.find_last_of(places);
+    const auto run = pattern.substr(first, last - first + 1);
+    const auto point = run.find('.');
+    const auto wholePlaces = run.substr(0, point);
+    const auto decimals = point == std::string_view::npos ? 0 : run.size() - point - 1;
+
+    std::string digits = roundDigits(digitsOf(std::fabs(value)), decimals);
+    const auto split = std::min(digits.find('.'), digits.size());
+    std::string whole = digits.substr(0, split);
+    const auto least = static_cast<std::size_t>(std::count(wholePlaces.begin(), wholePlaces.end(), '0'));
+    if (whole == "0" && least == 0)
+        whole.clear();
+    if (whole.size() < least)
+        whole.insert(0, least - whole.size(), '0');
+    if (wholePlaces.find(',') != std::string_view::npos)
+        groupThousands(whole);
+    const bool zero = digits.find_first_not_of("0.") == std::string::npos;
+    return std::string(pattern.substr(0, first)) + (value < 0 && !zero ? "-" : "") + whole +
+           digits.substr(split) + std::string(pattern.substr(last + 1));
+}
+
+} // namespace
+
+std::int16_t toInt16(double value) {
+    return toWhole<std::int16_t>(value);
+}
+
+std::int32_t toInt32(double value) {
+    return toWhole<std::int32_t>(value);
+}
+
+std::int16_t textToInt16(std::string_view text) {
+    std::size_t used = 0;
+    const std::string part = numberPart(text, used);
+    if (used != text.size() || part.find_first_of("0123456789") == std::string::npos)
+        throw fault::typeMismatch();
+    return toInt16(parse(part));
+}
+
+std::int16_t addInt16(std::int16_t a, std::int16_t b) {
+    return toInt16(static_cast<double>(a) + static_cast<double>(b));
+}
+
+double Int(double value) {
+    return std::floor(value);
+}
+
+double Val(std::string_view text) {
+    std::size_t used = 0;
+    return parse(numberPart(text, used));
+}
+
+std::string plain(double value) {
+    return value == 0 ? "0" : digitsOf(value);
+}
+
+std::string plain(float value) {
+    return value == 0 ? "0" : digitsOf(value);
+}
+
+std::string plainTenths(std::int32_t tenths) {
+    return plain(static_cast<double>(tenths) / 10.0);
+}
+
+std::string Str(double value) {
+    return value < 0 ? plain(value) : " " + plain(value);
+}
+
+std::string Format(double value, std::string_view pattern) {
+    return formatReal(value, pattern);
+}
+
+std::string Format(float value, std::string_view pattern) {
+    return formatReal(value, pattern);
+}
+
+} // namespace tally

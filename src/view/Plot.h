@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace tally {
+
+// One line of a plot: point k has x = k and y = values[k], in units (amperes, volts, kilowatts).
+struct PlotSeries {
+    std::string legend; // UTF-8
+    std::vector<float> values;
+    std::vector<std::pair<int, int>> forced; // runs of points that were forced, first and last
+};
+
+// Everything a plot shows, worked out; a form only paints it.
+struct Plot {
+    std::string title;  // title block (UTF-8), lines joined by CR LF
+    std::string yTitle; // "AMPS", "VOLTS", "KW"
+    double yMin = 0;
+    double yMax = 10;
+    int points = 0;                    // x runs from 0 to points - 1
+    std::array<std::string, 9> labels; // label i stands at point i * labelStep
+    int labelStep = 1;
+    std::vector<PlotSeries> series;
+    int firstEntry = 0;      // reading index of point 0 ...
+    int entriesPerPoint = 1; // ... and readings per point (3 in a Min/Max/Avg recording)
+    std::string displaying;  // what "Displaying " is followed by
+    std::string remark;      // status line, e.g. which file is shorter; may be empty
+};
+
+} // namespace tally

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Fault.h"
+#include "core/Files.h"
+
+#include <map>
+#include <optional>
+
+namespace tally::testing {
+
+// Files in memory that can be made to fail on purpose.
+class MemoryFiles : public Files {
+public:
+    std::map<std::string, std::string> contents;
+    std::optional<Fault> failRead;  // thrown by the next reads
+    std::optional<Fault> failWrite; // thrown by the next writes, which change nothing
+
+    bool exists(const std::string& path) const override { return contents.contains(path); }
+    std::string read(const std::string& path, std::uint64_t most) const override {
+        if (failRead)
+            throw *failRead;
+        const auto found = contents.find(path);
+        if (found == contents.end())
+            throw fault::fileNotFound();
+        return found->second.substr(0, most);
+    }
+    void write(const std::string& path, const std::string& bytes) override {
+        if (failWrite)
+            throw *failWrite;
+        contents[path] = bytes;
+    }
+};
+
+} // namespace tally::testing
