@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+
+namespace tally {
+
+// A text on the chart. Its upper left corner stands at x and y, parts of the frame: 0 left and top, 1 right
+// and bottom, so that it keeps its place at every size.
+struct ChartNote {
+    double x = 0;
+    double y = 0;
+    std::string text; // UTF-8, LF breaks a line
+
+    bool operator==(const ChartNote&) const = default;
+};
+
+} // namespace tally

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Files.h"
+#include "core/Prompt.h"
+#include "view/Plot.h"
+#include "view/forms/ChartNote.h"
+
+#include <string>
+#include <vector>
+
+class QPrinter;
+class QWidget;
+
+namespace tally {
+
+// A fixed-column text for the printer (UTF-8; CR, LF and CR LF break a line, FF begins a page).
+struct TextReport {
+    std::string title;   // name of the print job and first line of each page; may be empty
+    std::string heading; // repeated on each page above the text; may be empty
+    std::string text;
+    std::string user; // footer, left
+    std::string date; // footer, middle
+};
+
+// Prints a report in "Times New Roman", each field at its column. A printer that writes a PDF file writes it
+// through files, the whole of it or nothing. False with a message in why: the printer has gone, would not
+// begin, failed on the way, the disk is full.
+bool printText(const TextReport& report, QPrinter& printer, Files& files, std::string* why);
+// Prints the chart on one page.
+bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
+                std::string* why);
+// The bytes of the PDF that printText would write on A4.
+std::string pdfOfText(const TextReport& report);
+
+// Print dialog and preview for reports and charts. Failures are told through the prompt; false then, and when
+// the user cancelled.
+class Paper {
+public:
+    Paper(Prompt& prompt, Files& files, QWidget* parent) : prompt_(prompt), files_(files), parent_(parent) {}
+
+    bool printWithDialog(const TextReport& report);
+    bool printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes);
+    // True when it was also printed from the preview.
+    bool preview(const TextReport& report);
+    bool preview(const Plot& plot, const std::vector<ChartNote>& notes);
+
+private:
+    template <typename Print>
+    bool askAndPrint(QPrinter& printer, const Print& print);
+    template <typename Paint, typename Print>
+    bool previewAndPrint(QPrinter& printer, const Paint& paint, const Print& print);
+
+    Prompt& prompt_;
+    Files& files_;
+    QWidget* parent_;
+};
+
+} // namespace tally
