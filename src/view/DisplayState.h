@@ -24,8 +24,8 @@ struct DisplayState {
     bool onePage = false;
     bool userScale = false; // one-shot: the next data plot uses yMinimum
     std::int16_t yMinimum = 0;
-    int spanStart = 0; // absolute reading indexes of the marked span, both inclusive; whole triples
-    int spanEnd = 0;
+    int spanStart = 0; // absolute reading indexes of the marked span in the first file, both inclusive;
+    int spanEnd = 0;   // whole triples
     ReadingTime spanStartTime;
     ReadingTime spanEndTime;
     Statistic dataDisplayed = Statistic::average;
@@ -35,7 +35,11 @@ struct DisplayState {
     // Left by the last power plot.
     std::vector<float> power; // kilowatts; entry 0 is the reading at powerFirst
     int powerFirst = 0;
-    std::string energyText;  // "12,345 KWHR"; empty before any power plot
+    std::int16_t powerExtremeMin = 0; // of that plot, tenths of amps
+    std::int16_t powerExtremeMax = 0;
+    std::string energyText; // "12,345 KWHR"; empty before any power plot
+    std::string
+        powerSource; // files, voltage, power factor and times that it was made from, for the status bar
     bool powerDrawn = false; // since the files were opened
 };
 
