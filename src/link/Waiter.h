@@ -3,6 +3,9 @@
 
 #include "core/Clock.h"
 
+#include <cstdint>
+#include <limits>
+
 namespace tally {
 
 enum class Wake { data, due, cancelled };
@@ -12,9 +15,12 @@ enum class Wake { data, due, cancelled };
 // data.
 class Waiter : public Clock {
 public:
+    // A deadline that never comes.
+    static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
+
     // Sleeps until something happens, at most until `deadline` (milliseconds of now()). Looks for waiting
     // characters before it sleeps; lets a window breathe at least every 50 ms even while characters keep
-    // coming.
+    // coming. Wakes with `data` also when the line has closed itself, so that its session sees it.
     virtual Wake until(std::int64_t deadline) = 0;
     // Whether cancel was requested and not yet reset.
     virtual bool cancelRequested() const = 0;

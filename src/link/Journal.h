@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/ReadingTime.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tally {
+
+// What became of a reception.
+enum class JournalState {
+    receiving,   // a session of a running program writes to it
+    interrupted, // ended before the text was complete: cancelled, cable pulled, program gone
+    received,    // complete, but not judged or not accepted yet
+    accepted,    // the user's: waits to be saved
+    refused,     // the user said no to it
+    saved,       // stands in a file
+    dropped,     // the user gave it up
+};
+
+// Whether nobody has decided yet what becomes of it: such a reception is kept whatever its age.
+constexpr bool isUnsaved(JournalState state) {
+    return state == JournalState::interrupted || state == JournalState::received ||
+           state == JournalState::accepted;
+}
+
+// What is known before the first character.
+struct JournalHeader {
+    int commPort = 1;
+    int instrumentType = 0;
+    std::string settings;
+    ReadingTime pcTime;
+    std::string command = "download"; // or "recover"
+};
+
+// Where a session puts every character the moment it is read, before any judgement. Never throws: a place
+// that cannot be written is told once by its owner, and the session goes on.
+class JournalSink {
+public:
+    virtual ~JournalSink() = default;
+    virtual void begin(const JournalHeader& header) = 0;
+    virtual void append(std::string_view bytes) = 0;
+    // What follows came after a change to other port settings; the recording can only be in that part.
+    virtual void restart(const std::string& settings) = 0;
+    // Minutes by which the instrument's clock is ahead of the computer's.
+    virtual void clockDifference(std::int64_t minutes) = 0;
+    virtual void end(JournalState state) = 0;
+    // The reception begun last; empty when it is kept nowhere.
+    virtual std::string id() const = 0;
+};
+
+// A reception that is kept.
+struct JournalEntry {
+    std::string id;
+    JournalHeader header;
+    JournalState state = JournalState::interrupted;
+    std::uint64_t bytes = 0; // received at the last port settings
+    std::string model;       // three letters; empty when no recording began
+    std::string serial;      // bytes of the header
+};
+
+// The receptions that are kept: the last 20, and every unsaved one. Newest first.
+class Journal : public JournalSink {
+public:
+    static constexpr std::size_t keep = 20;
+    virtual std::vector<JournalEntry> list() const = 0;
+    // What was received at the last port settings, as it came. Throws File not found and file faults.
+    virtual std::string text(const std::string& id) const = 0;
+    // Writes down what became of a reception. Throws file faults.
+    virtual void mark(const std::string& id, JournalState state) = 0;
+    // Why receptions cannot be kept on disk, in words for the user; empty when they can.
+    virtual std::string problem() const = 0;
+};
+
+// A sink that keeps nothing.
+class NoJournal : public JournalSink {
+public:
+    void begin(const JournalHeader&) override {}
+    void append(std::string_view) override {}
+    void restart(const std::string&) override {}
+    void clockDifference(std::int64_t) override {}
+    void end(JournalState) override {}
+    std::string id() const override { return {}; }
+};
+
+} // namespace tally

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/InstrumentState.h"
+
+#include <string>
+
+namespace tally {
+
+// The connection prompt, laid out for a label of 45 columns: what to press and plug in what order, the
+// transfer switch, for the automatic type its initial settings (unless left out, as recover does), how to
+// quit. Lines are parted by CR LF.
+std::string connectionPrompt(const InstrumentState& instrument, bool autoLine = true);
+
+// The box that ends a download: back to standby or remove the cable.
+std::string removeCableText();
+
+// "COM3  in use" and how to cancel, for the status line of the main window.
+std::string portInUseText(int commPort);
+
+extern const char* const lowBatteryText;
+extern const char* const badPortText;    // a port that cannot be opened
+extern const char* const tryAnotherType; // the closing lines of messages about responses
+
+} // namespace tally

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Prompt.h"
+#include "link/InstrumentState.h"
+#include "link/Journal.h"
+#include "link/Line.h"
+#include "link/Panel.h"
+#include "link/Waiter.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tally {
+
+// What a session with an instrument works on, and the reading of its characters: each goes into the journal
+// the moment it is read, and what comes during a pause is kept for the next read.
+class Session {
+public:
+    Session(Line& sessionLine, Waiter& sessionWaiter, Prompt& sessionPrompt, Panel& sessionPanel,
+            InstrumentState& sessionInstrument, JournalSink& sessionJournal, int& callPoint)
+        : line(sessionLine),
+          waiter(sessionWaiter),
+          prompt(sessionPrompt),
+          panel(sessionPanel),
+          instrument(sessionInstrument),
+          journal(sessionJournal),
+          gErrorCallPoint(callPoint) {}
+
+    Line& line;
+    Waiter& waiter;
+    Prompt& prompt;
+    Panel& panel;
+    InstrumentState& instrument;
+    JournalSink& journal;
+    int& gErrorCallPoint; // where risky serial steps stand, for error reports
+
+    // Opens the selected port with the settings in force. Throws what Line::PortOpen throws.
+    void openPort();
+    // Closes the port and drops what was read from it but not used.
+    void closePort();
+    // One character, or nothing when none has come.
+    std::string Input();
+    // Waits for a character: due, cancelled, data, in this order when they coincide.
+    Wake until(std::int64_t deadline);
+    // Waits for the deadline alone; characters that come are kept. Gives due or cancelled.
+    Wake pause(std::int64_t deadline);
+    // The line closed itself under the session, and everything read from it was used.
+    bool lost() const { return kept_.empty() && !line.isOpen(); }
+
+private:
+    void drain();
+    std::string kept_;
+    std::size_t used_ = 0;
+};
+
+// Closes the port at the end of a procedure, however it ends.
+class PortGuard {
+public:
+    explicit PortGuard(Session& session) : session_(session) {}
+    ~PortGuard() { session_.closePort(); }
+    PortGuard(const PortGuard&) = delete;
+    PortGuard& operator=(const PortGuard&) = delete;
+
+private:
+    Session& session_;
+};
+
+} // namespace tally
