@@ -55,11 +55,11 @@ public:
 // A reception that is kept.
 struct JournalEntry {
     std::string id;
-    JournalHeader header;
+    JournalHeader header = {};
     JournalState state = JournalState::interrupted;
     std::uint64_t bytes = 0; // received at the last port settings
-    std::string model;       // three letters; empty when no recording began
-    std::string serial;      // bytes of the header
+    std::string model = {};  // three letters; empty when no recording began
+    std::string serial = {}; // bytes of the header
 };
 
 // The receptions that are kept: the last 20, and every unsaved one. Newest first.

@@ -15,10 +15,10 @@ namespace tally::testing {
 class MemoryJournal : public Journal {
 public:
     struct Reception {
-        JournalHeader header;
+        JournalHeader header = {};
         std::vector<std::string> parts = {""}; // one for each port settings
         JournalState state = JournalState::receiving;
-        std::optional<std::int64_t> clockDifference;
+        std::optional<std::int64_t> clockDifference = {};
     };
     std::vector<Reception> receptions;
     std::string trouble;

@@ -22,7 +22,7 @@ public:
     };
 
     explicit VirtualLine(VirtualWaiter& waiter) : waiter_(waiter) {
-        waiter_.dataWaiting = [this] { return !arrived_.empty() || lost_; };
+        waiter_.dataWaiting = [this] { return unread() > 0 || lost_; };
     }
 
     std::vector<Call> calls;
@@ -74,7 +74,7 @@ public:
                 return call.at;
         return -1;
     }
-    std::size_t unread() const { return arrived_.size(); }
+    std::size_t unread() const { return arrived_.size() - read_; }
 
     void CommPort(int number) override { note("CommPort " + std::to_string(number)); }
     void Settings(const std::string& settings) override {
@@ -99,16 +99,15 @@ public:
         lost_ = false;
         ended_ = false;
         arrived_.clear();
+        read_ = 0;
         if (open && onOpen)
             onOpen(settings_);
     }
     bool isOpen() const override { return open_; }
     std::string Input() override {
-        if (arrived_.empty())
+        if (unread() == 0)
             return {};
-        std::string first = arrived_.substr(0, 1);
-        arrived_.erase(0, 1);
-        return first;
+        return std::string(1, arrived_[read_++]);
     }
     void Output(std::string_view characters) override {
         note("Output");
@@ -124,6 +123,7 @@ private:
     VirtualWaiter& waiter_;
     std::string settings_;
     std::string arrived_;
+    std::size_t read_ = 0;
     bool open_ = false;
     bool lost_ = false;
     bool ended_ = false;
