@@ -27,11 +27,15 @@ ShownRange wholeFile(const Recordings& recordings, int slot);
 // the whole file from gDatastart on. Never beyond the last reading; whole triples.
 ShownRange shownRange(const Recordings& recordings, const DisplayState& state, int slot);
 
-// Whole triples around a reading range of a file, cut to the file; nothing when a end is outside the file or
-// the ends are turned round.
+// The same stretch of another file, interval by interval; may run beyond its last reading.
+ShownRange sameIntervals(const Recordings& recordings, const ShownRange& ofFirstFile, int slot);
+
+// Whole triples around a reading range of a file; nothing when an end is outside the file, the ends are
+// turned round or no whole triple is in it.
 std::optional<ShownRange> wholeTriples(const Recordings& recordings, int slot, int from, int to);
 
-// The time of the interval that an entry belongs to; all entries of a triple have the time of its first.
+// The time of the interval that an entry belongs to: the entries of a triple share the time of the last one,
+// since the newest end is what the file's time is about.
 ReadingTime intervalTime(const FileFacts& info, int entry);
 
 // The name part of a path ("a/b.dat" gives "b.dat").

@@ -4,6 +4,7 @@
 #include "core/Recordings.h"
 #include "view/DisplayState.h"
 #include "view/Plot.h"
+#include "view/ShownRange.h"
 
 #include <string_view>
 
@@ -22,6 +23,13 @@ void markSpanEnd(const Recordings& recordings, DisplayState& state, const Plot& 
 
 // Zoom: the next plot narrows the range to the marked span.
 void requestZoom(Recordings& recordings, DisplayState& state);
+
+// The range that a plot made now has: the marked span where a zoom was requested, else the displayed range.
+ShownRange rangeToDraw(const Recordings& recordings, const DisplayState& state);
+// Makes it the displayed range once it is drawn.
+void settleRange(Recordings& recordings, DisplayState& state, const ShownRange& drawn);
+// Span selected, zoom request and y scale hold for one plot only.
+void clearOneShots(DisplayState& state);
 
 // A reading range given as such (command line): marked and applied at once, as whole triples of the first
 // file. False, and nothing changed, when it is turned round or outside the file.

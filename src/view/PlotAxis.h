@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Recordings.h"
+#include "view/Plot.h"
+
+#include <cstdint>
+
+namespace tally {
+
+// Nine labels, one every Int(points / 8) points (at least 1), the first one moved back to a whole multiple of
+// the interval.
+void labelAxis(Plot& plot, const FileFacts& info);
+
+// The y axis of a data plot: 10% of room above the largest reading (never below 10.0) and below the smallest;
+// tenths.
+void scaleAxis(Plot& plot, std::int16_t smallest, std::int16_t largest);
+
+} // namespace tally

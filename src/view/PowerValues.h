@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Recordings.h"
+#include "view/ShownRange.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace tally {
+
+// Kilovolts and power factor, single precision.
+struct PowerScale {
+    float kilovolts;
+    float factor;
+};
+
+// Kilowatts over a range of the open files, with what is derived from their currents.
+struct PowerValues {
+    std::vector<float> kilowatts; // entry 0 is the first reading of the range
+    double sumAfterFirst = 0;     // of all kilowatts but the first
+    float smallest = 0;           // combined current, tenths of amps; with three files the mean times 1.732
+    float largest = 0;            // summed current, tenths of amps
+};
+
+// Throws Overflow when three currents sum beyond 16 bits or a kilowatt value beyond single precision.
+PowerValues powerValues(const Recordings& recordings, const ShownRange& range, const PowerScale& scale);
+
+} // namespace tally

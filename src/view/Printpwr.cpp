@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/Printpwr.h"
+
+#include "core/Fault.h"
+#include "core/ModeTable.h"
+#include "view/ShownRange.h"
+#include "view/TableText.h"
+
+namespace tally {
+
+namespace {
+
+constexpr TableLayout eightReadings = {
+    " Time     Date               Eight readings of average power in KW      ", 8, "  000.0", " 0000 "};
+constexpr TableLayout sixReadings = {
+    " Time     Date               Six readings of average power in KW        ", 6, "     000.0  ",
+    "      000  "};
+constexpr TableLayout tenReadings = {
+    " Time     Date               Ten readings of average power in KW        ", 10, "000.0", " 0000"};
+
+const TableLayout& layoutOf(char letter) {
+    if (letter == 'b' || letter == 'e')
+        return sixReadings;
+    return letter == 'c' || letter == 'f' ? tenReadings : eightReadings;
+}
+
+} // namespace
+
+std::string Printpwr(Recordings& recordings, const DisplayState& state) {
+    if (!recordings.isOpen(0))
+        throw fault::subscript();
+    const FileFacts& info = recordings.info(0);
+    const TableLayout& layout = layoutOf(info.modeLetter);
+    // The values belong to the range that the power plot was drawn over, whatever is displayed now.
+    tableText(recordings.gTable, state.power, layout, !info.low,
+              {intervalTime(info, state.powerFirst), modeRow(info.modeLetter).minutes * layout.perLine});
+    return std::string(layout.heading);
+}
+
+} // namespace tally
