@@ -94,6 +94,7 @@ private:
 
     void lookAgain();
     int pointAt(const QPointF& place) const;
+    int nearestPoint(const QPointF& place) const;
     void pressNote(const QPointF& place);
     void moveNote(const QPointF& place);
     void selectNote(int index);
@@ -110,7 +111,6 @@ private:
     bool marking_ = false; // spanEnded is being told
     Drag drag_ = Drag::none;
     int spanFrom_ = -1;
-    int note_ = -1; // the selected one
     QPointF last_;
 };
 

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "view/DisplayState.h"
-
 #include <QDialog>
 
 class QRadioButton;
 
 namespace tally {
+
+enum class Statistic;
 
 // "displaysel": which statistic the plot of several Min/Max/Avg files shows. exec() gives Accepted when the
 // command button was pressed; then chosen() is the answer.

@@ -6,6 +6,7 @@
 #include "view/Plot.h"
 #include "view/forms/ChartNote.h"
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -46,10 +47,11 @@ public:
     bool preview(const Plot& plot, const std::vector<ChartNote>& notes);
 
 private:
-    template <typename Print>
+    using Show = std::function<void(QPrinter&)>;
+    using Print = std::function<bool(QPrinter&, std::string* why)>;
+
     bool askAndPrint(QPrinter& printer, const Print& print);
-    template <typename Paint, typename Print>
-    bool previewAndPrint(QPrinter& printer, const Paint& paint, const Print& print);
+    bool previewAndPrint(QPrinter& printer, const Show& show, const Print& print);
 
     Prompt& prompt_;
     Files& files_;

@@ -73,8 +73,8 @@ private:
     int widest_ = 0;          // characters of the longest line
     int anchor_ = 0;
     int cursor_ = 0;
-    QWidget* head_;
-    FindBar* findBar_;
+    QWidget* head_ = nullptr;
+    FindBar* findBar_ = nullptr;
 };
 
 } // namespace tally

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/forms/Chart.h"
+
+#include "view/Span.h"
+#include "view/forms/ChartLook.h"
+#include "view/forms/PlotScene.h"
+#include "view/forms/QcpInclude.h"
+
+#include <QClipboard>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QLabel>
+
+#include <algorithm>
+#include <cmath>
+
+namespace tally {
+namespace {
+
+constexpr double zoomStep = 0.8;
+constexpr int smallestLetters = 12; // pixels
+
+} // namespace
+
+Chart::Chart(QWidget* parent) : QWidget(parent), scene_(std::make_unique<PlotScene>()) {
+    setObjectName(QStringLiteral("ChartFX1"));
+    setAccessibleName(tr("Chart"));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(360, 260);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    QString label = QString::fromStdString(std::string(onePageLabel));
+    onePage_ = new QLabel(label.remove(u'\r'), this);
+    onePage_->setObjectName(QStringLiteral("onePageLabel"));
+    onePage_->setAccessibleName(tr("One-page plot"));
+    onePage_->setAlignment(Qt::AlignCenter);
+    onePage_->setMargin(8);
+    onePage_->setStyleSheet(
+        QStringLiteral("background: #ffe680; color: #1a1a1a; border: 1px solid #8a6d00;"));
+    onePage_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    onePage_->hide();
+    lookAgain();
+}
+
+Chart::~Chart() = default;
+
+void Chart::lookAgain() {
+    const int pixels = std::max(QFontInfo(font()).pixelSize(), smallestLetters);
+    scene_->setLook(ChartLook::onScreen(palette(), pixels));
+    update();
+}
+
+void Chart::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange)
+        lookAgain();
+    QWidget::changeEvent(event);
+}
+
+const Plot& Chart::plot() const {
+    return scene_->plot();
+}
+
+void Chart::showPlot(const Plot& plot) {
+    endEdit(false);
+    const bool same = marking_ && plot.points == scene_->plot().points;
+    const auto across = scene_->across();
+    const auto up = scene_->up();
+    scene_->setPlot(plot);
+    if (same)
+        scene_->setView(across, up);
+    else
+        scene_->span.reset();
+    shown_ = true;
+    drag_ = Drag::none;
+    setAccessibleDescription(QString::fromStdString(plot.displaying));
+    update();
+}
+
+void Chart::clear() {
+    endEdit(false);
+    scene_->clear();
+    shown_ = false;
+    drag_ = Drag::none;
+    setOnePage(false);
+    setAccessibleDescription({});
+    update();
+}
+
+void Chart::setTimeOf(std::function<std::string(int)> timeOf) {
+    scene_->setTimeOf(std::move(timeOf));
+    update();
+}
+
+void Chart::setOnePage(bool on) {
+    onePage_->setVisible(on);
+    placeOnePage();
+}
+
+void Chart::placeOnePage() {
+    onePage_->adjustSize();
+    const QRectF frame = scene_->frame();
+    onePage_->move(int(frame.center().x()) - onePage_->width() / 2, int(frame.top()) + 8);
+}
+
+std::optional<std::pair<int, int>> Chart::span() const {
+    return scene_->span;
+}
+
+void Chart::markSpan(int first, int last) {
+    scene_->span = std::minmax(first, last);
+    update();
+}
+
+void Chart::clearSpan() {
+    scene_->span.reset();
+    update();
+}
+
+QImage Chart::picture() const {
+    const ChartLook look = scene_->look();
+    const int selected = std::exchange(scene_->selectedNote, -1);
+    scene_->setLook(ChartLook::onPaper(look.font.pixelSize()));
+    const double ratio = devicePixelRatioF();
+    QImage image(size() * ratio, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    {
+        QCPPainter painter(&image);
+        scene_->paint(painter, size(), false);
+    }
+    scene_->setLook(look);
+    scene_->selectedNote = selected;
+    return image;
+}
+
+void Chart::copyPicture() const {
+    QGuiApplication::clipboard()->setImage(picture());
+}
+
+void Chart::zoomIn() {
+    scene_->zoomAcross(zoomStep, (scene_->across().first + scene_->across().second) / 2);
+    update();
+}
+
+void Chart::zoomOut() {
+    scene_->zoomAcross(1 / zoomStep, (scene_->across().first + scene_->across().second) / 2);
+    update();
+}
+
+void Chart::resetView() {
+    scene_->resetView();
+    update();
+}
+
+void Chart::pan(double across, double up) {
+    scene_->pan(across, up);
+    update();
+}
+
+std::pair<double, double> Chart::visiblePoints() const {
+    return scene_->across();
+}
+
+QSize Chart::sizeHint() const {
+    return {1000, 620};
+}
+
+void Chart::paintEvent(QPaintEvent*) {
+    QCPPainter painter(this);
+    if (shown_)
+        scene_->paint(painter, size(), false);
+    else
+        painter.fillRect(rect(), scene_->look().paper);
+}
+
+void Chart::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    endEdit(true);
+    scene_->layOut(size());
+    placeOnePage();
+}
+
+} // namespace tally

@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/forms/PlotScene.h"
+
+#include "view/forms/NotePaint.h"
+#include "view/forms/SeriesPlottable.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tally {
+namespace {
+
+constexpr int margin = 10;          // pixels around the picture
+constexpr int labelCount = 9;       // along the x axis
+constexpr double fewestPoints = 4;  // that a zoomed picture spans
+constexpr double deepestZoom = 1e4; // of the y axis
+constexpr int leastLetters = 9;     // pixels, where a small picture has a long title
+
+// A range moved and cut so that it lies within the whole.
+std::pair<double, double> within(std::pair<double, double> range, std::pair<double, double> whole) {
+    const double length = std::min(range.second - range.first, whole.second - whole.first);
+    const double first = std::clamp(range.first, whole.first, whole.second - length);
+    return {first, first + length};
+}
+
+std::pair<double, double> zoomed(std::pair<double, double> range, double factor, double around,
+                                 std::pair<double, double> whole, double least) {
+    const double length = std::max((range.second - range.first) * factor, least);
+    const double before = (around - range.first) / (range.second - range.first);
+    const double first = around - before * length;
+    return within({first, first + length}, whole);
+}
+
+} // namespace
+
+PlotScene::PlotScene() : plotter_(std::make_unique<QCustomPlot>()), look_(ChartLook::onPaper()) {
+    series_ = new SeriesPlottable(plotter_->xAxis, plotter_->yAxis); // the plotter owns it
+    plotter_->setNotAntialiasedElements(QCP::aeAll);
+    plotter_->setLocale(QLocale::c());
+    plotter_->setBackground(QBrush(Qt::NoBrush));
+    for (QCPAxis* axis : {plotter_->xAxis2, plotter_->yAxis2}) { // the other two sides of the frame
+        axis->setVisible(true);
+        axis->setTicks(false);
+        axis->setTickLabels(false);
+    }
+    plotter_->xAxis->setSubTicks(false);
+    plotter_->yAxis->setNumberFormat(QStringLiteral("g"));
+    plotter_->yAxis->setNumberPrecision(9);
+    plotter_->yAxis->ticker()->setTickCount(7);
+    applyLook();
+}
+
+PlotScene::~PlotScene() = default;
+
+void PlotScene::setPlot(const Plot& plot) {
+    plot_ = plot;
+    series_->plot = &plot_;
+    title_.setText(QString::fromStdString(plot.title));
+    legend_.setPlot(plot);
+    plotter_->yAxis->setLabel(QString::fromStdString(plot.yTitle));
+    resetView();
+}
+
+void PlotScene::clear() {
+    setPlot({});
+    series_->plot = nullptr;
+    span.reset();
+    notes.clear();
+    selectedNote = -1;
+}
+
+void PlotScene::setLook(const ChartLook& look) {
+    look_ = look;
+    applyLook();
+}
+
+void PlotScene::applyLook() {
+    series_->look = look_;
+    for (QCPAxis* axis : {plotter_->xAxis, plotter_->yAxis, plotter_->xAxis2, plotter_->yAxis2}) {
+        axis->setBasePen(QPen(look_.frame, 1));
+        axis->setTickPen(QPen(look_.frame, 1));
+        axis->setSubTickPen(QPen(look_.frame, 1));
+        axis->setLabelColor(look_.text);
+        axis->setTickLabelColor(look_.text);
+        axis->setLabelFont(look_.font);
+        axis->setTickLabelFont(look_.font);
+        axis->grid()->setPen(QPen(look_.grid, 1));
+        axis->grid()->setZeroLinePen(QPen(look_.grid, 1));
+    }
+}
+
+std::pair<double, double> PlotScene::wholeAcross() const {
+    // The nine labels are in sight also where there are fewer points.
+    return {0, std::max({plot_.points - 1, (labelCount - 1) * plot_.labelStep, 1})};
+}
+
+std::pair<double, double> PlotScene::wholeUp() const {
+    const bool usable = std::isfinite(plot_.yMin) && std::isfinite(plot_.yMax);
+    if (!usable || std::abs(plot_.yMin) > 1e30 || std::abs(plot_.yMax) > 1e30)
+        return {0, 10};
+    // A scale that begins above the readings is shown all the same.
+    return plot_.yMin < plot_.yMax ? std::pair(plot_.yMin, plot_.yMax)
+                                   : std::pair(plot_.yMin, plot_.yMin + 10);
+}
+
+void PlotScene::resetView() {
+    across_ = wholeAcross();
+    up_ = wholeUp();
+}
+
+void PlotScene::setView(std::pair<double, double> across, std::pair<double, double> up) {
+    across_ = within(across, wholeAcross());
+    up_ = within(up, wholeUp());
+}
+
+void PlotScene::zoomAcross(double factor, double around) {
+    across_ = zoomed(across_, factor, around, wholeAcross(), fewestPoints);
+}
+
+void PlotScene::zoomUp(double factor, double around) {
+    const auto whole = wholeUp();
+    up_ = zoomed(up_, factor, around, whole, (whole.second - whole.first) / deepestZoom);
+}
+
+void PlotScene::pan(double across, double up) {
+    const double right = across * (across_.second - across_.first);
+    const double higher = up * (up_.second - up_.first);
+    across_ = within({across_.first + right, across_.second + right}, wholeAcross());
+    up_ = within({up_.first + higher, up_.second + higher}, wholeUp());
+}
+
+bool PlotScene::isWhole() const {
+    return across_ == wholeAcross() && up_ == wholeUp();
+}
+
+void PlotScene::placeLabels(int width) {
+    const bool whole = across_ == wholeAcross();
+    std::vector<std::pair<int, QString>> labels;
+    if (whole || !timeOf_) {
+        for (int i = 0; i < labelCount; ++i)
+            labels.emplace_back(i * plot_.labelStep, QString::fromStdString(plot_.labels[std::size_t(i)]));
+    } else {
+        const int step = std::max(int(std::ceil((across_.second - across_.first) / (labelCount - 1))), 1);
+        const int last = std::min(int(across_.second), plot_.points - 1);
+        for (int at = int(std::ceil(across_.first / step)) * step; at <= last; at += step)
+            labels.emplace_back(at, QString::fromStdString(timeOf_(at)));
+    }
+    int widest = 0;
+    const QFontMetrics metrics(look_.font);
+    for (const auto& label : labels)
+        widest = std::max(widest, metrics.horizontalAdvance(label.second));
+    const bool tight = widest + metrics.averageCharWidth() * 2 > width / labelCount;
+    QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
+    for (auto& [point, text] : labels) {
+        if (tight && text.contains(u' '))
+            text[text.lastIndexOf(u' ')] = u'\n'; // the hour below the day
+        if (!text.isEmpty())
+            ticker->addTick(point, text);
+    }
+    plotter_->xAxis->setTicker(ticker);
+    plotter_->axisRect()->setMinimumMargins(QMargins(0, 0, tight ? widest / 4 + 4 : widest / 2 + 4, 0));
+}
+
+void PlotScene::layOut(QSize size) {
+    const int width = std::max(size.width() - 2 * margin, 1);
+    QFont letters = look_.font;
+    int height = title_.layOut(width, letters);
+    while (height > size.height() * 2 / 5 && letters.pixelSize() > leastLetters) {
+        letters.setPixelSize(letters.pixelSize() - 1);
+        height = title_.layOut(width, letters);
+    }
+    legendTop_ = margin + height + (height > 0 ? 4 : 0);
+    const int legendHeight = legend_.layOut(width, look_.font);
+    const int top = legendTop_ + legendHeight + (legendHeight > 0 ? 4 : 0);
+    plotter_->xAxis->setRange(across_.first, across_.second);
+    plotter_->yAxis->setRange(up_.first, up_.second);
+    placeLabels(width);
+    plotter_->setViewport(QRect(QPoint(0, 0), size));
+    plotter_->plotLayout()->setMargins(QMargins(margin / 2, top, margin / 2, margin / 2));
+    for (const auto phase :
+         {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins, QCPLayoutElement::upLayout})
+        plotter_->plotLayout()->update(phase);
+    frame_ = plotter_->axisRect()->rect();
+}
+
+void PlotScene::paint(QCPPainter& painter, QSize size, bool vectors) {
+    layOut(size);
+    series_->span = span;
+    painter.setMode(QCPPainter::pmVectorized, vectors);
+    painter.setMode(QCPPainter::pmNonCosmetic, vectors);
+    painter.fillRect(QRect(QPoint(0, 0), size), look_.paper);
+    painter.setPen(look_.text);
+    title_.paint(painter, margin, margin);
+    legend_.paint(painter, margin, legendTop_, look_);
+    plotter_->toPainter(&painter, size.width(), size.height());
+    for (int index = 0; index < int(notes.size()); ++index)
+        paintNote(painter, notes[std::size_t(index)], frame_, look_, index == selectedNote);
+}
+
+double PlotScene::pointAtPixel(double x) const {
+    const double width = std::max(frame_.width(), 1.0);
+    return across_.first + (x - frame_.left()) / width * (across_.second - across_.first);
+}
+
+double PlotScene::valueAtPixel(double y) const {
+    const double height = std::max(frame_.height(), 1.0);
+    return up_.first + (frame_.bottom() - y) / height * (up_.second - up_.first);
+}
+
+} // namespace tally

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The header of QCustomPlot is written with the short keywords, which this project turns off.
+#define signals Q_SIGNALS
+#define slots Q_SLOTS
+#define emit
+#define foreach Q_FOREACH
+#include <qcustomplot.h>
+#undef signals
+#undef slots
+#undef emit
+#undef foreach
