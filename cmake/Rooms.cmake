@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A room is a static library of the .cpp files in its folder; it links only the rooms that it may see.
+# A room is a static library of the .cpp files in its folder, main.cpp excepted; it links only the rooms that it may see.
 
 # tally_room(NAME [LINK room...]): a logic room, plain C++ on the standard library.
 function(tally_room name)
     cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(tally_${name} STATIC ${sources})
     target_include_directories(tally_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     target_link_libraries(tally_${name} PRIVATE tally_flags)
@@ -17,6 +18,7 @@ endfunction()
 function(tally_qt_room name)
     cmake_parse_arguments(arg "" "" "LINK;QT" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
+    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
     add_library(tally_${name} STATIC ${sources})
     set_target_properties(tally_${name} PROPERTIES AUTOMOC ON)
     target_include_directories(tally_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)

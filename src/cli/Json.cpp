@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Json.h"
+
+#include "cli/Command.h"
+#include "core/Numbers.h"
+
+namespace tally {
+
+std::shared_ptr<bool> addJson(CLI::App& command) {
+    auto json = std::make_shared<bool>(false);
+    command.add_flag("--json", *json, "print one JSON document");
+    return json;
+}
+
+void outJson(const Json& document) {
+    // A byte that is no character becomes a replacement character rather than an error.
+    out(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+}
+
+double inUnits(std::int32_t tenths) {
+    return static_cast<double>(tenths) / 10.0;
+}
+
+double shortest(float value) {
+    return Val(plain(value));
+}
+
+} // namespace tally

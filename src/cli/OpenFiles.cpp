@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/OpenFiles.h"
+
+#include "core/Fault.h"
+#include "core/Fileopen.h"
+#include "view/Span.h"
+
+#include <charconv>
+
+namespace tally {
+
+namespace {
+
+int indexOf(const std::string& text, int whenEmpty) {
+    if (text.empty())
+        return whenEmpty;
+    int index = 0;
+    const auto end = text.data() + text.size();
+    const auto [stopped, error] = std::from_chars(text.data(), end, index);
+    if (error != std::errc() || stopped != end)
+        throw WrongUsage("'" + text + "' is no reading index");
+    return index;
+}
+
+void warnOfUnreadable(const FileFacts& info) {
+    if (info.unreadable > 0)
+        warn(info.path + ": " + std::to_string(info.unreadable) +
+             " item(s) could not be read as numbers; each counts with its leading number, or 0");
+}
+
+} // namespace
+
+std::shared_ptr<RangeOptions> addRange(CLI::App& command) {
+    auto range = std::make_shared<RangeOptions>();
+    command.add_option("--from", range->from, "index of the first reading, from 0");
+    command.add_option("--to", range->to, "index of the last reading, to count - 1");
+    return range;
+}
+
+std::shared_ptr<std::string> addFile(CLI::App& command) {
+    auto file = std::make_shared<std::string>();
+    command.add_option("FILE", *file, "a data file")->required();
+    return file;
+}
+
+std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command) {
+    auto files = std::make_shared<std::vector<std::string>>();
+    command.add_option("FILE", *files, "one to three data files of one mode")->required()->expected(1, 3);
+    return files;
+}
+
+OpenFiles openFiles(Services& services, const std::vector<std::string>& paths) {
+    OpenFiles open;
+    for (const std::string& path : paths) {
+        const OpenOutcome outcome = Fileopen(open.recordings, services.files(), path);
+        if (outcome != OpenOutcome::opened)
+            throw Refusal(openMessage(outcome) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
+        warnOfUnreadable(open.recordings.info(open.recordings.ginx));
+    }
+    open.recordings.ginx = 0;
+    open.recordings.gDatastart = 0;
+    open.recordings.gdataend = open.recordings.info(0).count - 1;
+    return open;
+}
+
+OpenFiles openFiles(Services& services, const std::vector<std::string>& paths, const RangeOptions& range) {
+    OpenFiles open = openFiles(services, paths);
+    if (!range.given())
+        return open;
+    const int last = open.recordings.info(0).count - 1;
+    const int from = indexOf(range.from, 0);
+    const int to = indexOf(range.to, last);
+    if (!applyRange(open.recordings, open.state, from, to))
+        throw WrongUsage("The range " + std::to_string(from) + " to " + std::to_string(to) +
+                         " is turned round or outside the file, which has the readings 0 to " +
+                         std::to_string(last));
+    return open;
+}
+
+void writeFile(Services& services, const std::string& path, const std::string& bytes) {
+    try {
+        services.files().write(path, bytes);
+    } catch (const Fault& fault) {
+        throw Refusal(std::string(fault.what()) + "\n" + path + " was not written.");
+    }
+}
+
+} // namespace tally

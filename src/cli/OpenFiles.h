@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "cli/Command.h"
+#include "core/Recordings.h"
+#include "view/DisplayState.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace tally {
+
+// The options --from and --to of a command, as they were typed.
+struct RangeOptions {
+    std::string from;
+    std::string to;
+    bool given() const { return !from.empty() || !to.empty(); }
+};
+
+// The files that a command names, opened, with the range applied.
+struct OpenFiles {
+    Recordings recordings;
+    DisplayState state;
+};
+
+// Adds --from and --to.
+std::shared_ptr<RangeOptions> addRange(CLI::App& command);
+// Adds the positional FILE, or FILE... (one to three).
+std::shared_ptr<std::string> addFile(CLI::App& command);
+std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command);
+
+// Opens files, the first one current. Items that were no numbers are warned of. Throws Refusal with the text
+// of what was refused.
+OpenFiles openFiles(Services& services, const std::vector<std::string>& paths);
+// The same with the range marked and applied. Throws WrongUsage for a bad range.
+OpenFiles openFiles(Services& services, const std::vector<std::string>& paths, const RangeOptions& range);
+
+// Writes a file as a whole. Throws Refusal that names the file and the cause.
+void writeFile(Services& services, const std::string& path, const std::string& bytes);
+
+} // namespace tally

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Json.h"
+#include "cli/PowerOptions.h"
+#include "view/PlotModel.h"
+#include "view/Span.h"
+#include "view/forms/ChartPicture.h"
+
+#include <QApplication>
+
+#include <charconv>
+
+namespace tally {
+
+namespace {
+
+struct Options {
+    std::shared_ptr<std::vector<std::string>> files;
+    std::shared_ptr<RangeOptions> range;
+    std::shared_ptr<PowerOptions> power;
+    std::shared_ptr<bool> json;
+    std::string to;
+    std::string show = "avg";
+    std::string yMin;
+    std::string size = "1200x700";
+    bool asPower = false;
+};
+
+QSize sizeOf(const std::string& text) {
+    int width = 0;
+    int height = 0;
+    const auto end = text.data() + text.size();
+    const auto [cross, badWidth] = std::from_chars(text.data(), end, width);
+    if (badWidth == std::errc() && cross != end && *cross == 'x') {
+        const auto [stopped, badHeight] = std::from_chars(cross + 1, end, height);
+        const auto fits = [](int pixels) { return pixels >= pictureLeast && pixels <= pictureMost; };
+        if (badHeight == std::errc() && stopped == end && fits(width) && fits(height))
+            return {width, height};
+    }
+    throw WrongUsage("--size: '" + text + "' is no size such as 1200x700 (each side " +
+                     std::to_string(pictureLeast) + " to " + std::to_string(pictureMost) + ")");
+}
+
+Statistic statisticOf(const std::string& name) {
+    return name == "max" ? Statistic::maximum : name == "min" ? Statistic::minimum : Statistic::average;
+}
+
+Json jsonOf(const Plot& plot, const DisplayState& state) {
+    Json series = Json::array();
+    for (const PlotSeries& one : plot.series)
+        series.push_back({{"legend", one.legend}, {"points", one.values.size()}});
+    return {{"title", plot.title},
+            {"ytitle", plot.yTitle},
+            {"ymin", plot.yMin},
+            {"ymax", plot.yMax},
+            {"labels", plot.labels},
+            {"series", series},
+            {"extremeMin", state.extremeMin},
+            {"extremeMax", state.extremeMax}};
+}
+
+Plot draw(Services& services, OpenFiles& open, const Options& options) {
+    if (!options.yMin.empty())
+        setScale(open.state, options.yMin);
+    open.state.dataDisplayed = statisticOf(options.show);
+    if (options.asPower)
+        return drawPower(services, open, *options.power);
+    if (options.range->given()) {
+        open.state.spanSelected = true;
+        requestZoom(open.recordings, open.state);
+    }
+    return DisplPlot(open.recordings, open.state, services.clock());
+}
+
+void writePicture(Services& services, const Plot& plot, const std::string& path, QSize size) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    char name[] = "tallyline-cli";
+    char* arguments[] = {name, nullptr};
+    int count = 1;
+    const QApplication application(count, arguments);
+    std::string why;
+    if (!exportPicture(plot, {}, path, size, services.files(), &why))
+        throw Refusal(why);
+}
+
+int run(Services& services, const Options& options) {
+    const QSize size = sizeOf(options.size);
+    if (options.to.empty() && !*options.json)
+        throw WrongUsage("Name the picture to write with -o, or ask for --json");
+    if (!options.to.empty() && !pictureKind(options.to))
+        throw WrongUsage("-o: '" + options.to + "' must end in .png, .pdf or .svg");
+    OpenFiles open = openFiles(services, *options.files, *options.range);
+    const Plot plot = draw(services, open, options);
+    if (!plot.remark.empty())
+        warn(plot.remark);
+    if (!options.to.empty())
+        writePicture(services, plot, options.to, size);
+    if (*options.json)
+        outJson(jsonOf(plot, open.state));
+    return 0;
+}
+
+} // namespace
+
+void addPlot(CLI::App& program, Services& services) {
+    auto options = std::make_shared<Options>();
+    CLI::App* command = addCommand(program, services, "plot", "draw one to three files as PNG, PDF or SVG",
+                                   [&services, options] { return run(services, *options); });
+    options->files = addFiles(*command);
+    options->range = addRange(*command);
+    options->power = addPowerOptions(*command);
+    options->json = addJson(*command);
+    command->add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
+    command->add_option("--show", options->show, "what several Min/Max/Avg files show")
+        ->check(CLI::IsMember({"avg", "max", "min"}));
+    command->add_option("--ymin", options->yMin, "least value of the y axis, a whole number");
+    command->add_flag("--power", options->asPower, "draw kilowatts");
+    command->add_option("--size", options->size, "width and height in pixels")->capture_default_str();
+}
+
+} // namespace tally

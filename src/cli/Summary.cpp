@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/OpenFiles.h"
+#include "view/PlotModel.h"
+#include "view/Printinfo.h"
+
+namespace tally {
+
+void addSummary(CLI::App& program, Services& services) {
+    struct Options {
+        std::shared_ptr<std::string> file;
+        std::shared_ptr<RangeOptions> range;
+    };
+    auto options = std::make_shared<Options>();
+    CLI::App* command =
+        addCommand(program, services, "summary", "the summary of a data file", [&services, options] {
+            OpenFiles open = openFiles(services, {*options->file}, *options->range);
+            // The extremes of the selected range are those that its plot finds.
+            DisplPlot(open.recordings, open.state, services.clock());
+            out(Printinfo(open.recordings, open.state));
+            return 0;
+        });
+    options->file = addFile(*command);
+    options->range = addRange(*command);
+}
+
+} // namespace tally
