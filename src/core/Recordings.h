@@ -12,20 +12,21 @@ namespace tally {
 
 // The facts of one open file, in the order of the columns that they stand in.
 struct FileFacts {
-    char modeLetter = 'a';     // 0: "a" to "l"
-    std::string serial;        // 1: four characters of the header (bytes)
-    ReadingTime start;         // 2: time of reading 0, the oldest
-    int count = 0;             // 3: number of readings
-    char typeLetter = ' ';     // 4: "V" marks a voltage recording
-    std::int16_t largest = 0;  // 5: tenths
-    std::int16_t smallest = 0; // 6: tenths
-    std::string path;          // 7: full path (UTF-8); empty marks the slot as free
-    bool low = false;          // 8: readings carry one decimal
-    ReadingTime headerTime;    // 9: as written in the file
-    bool forced = false;       // 10: readings were forced
-    std::string header;        // 11: the whole header text (bytes), after the repair of the older layout
-    char form = ' ';           // 12: first character after the header; "T" for the T form
-    int unreadable = 0;        // items that were no numbers, and a terminator in the middle
+    char modeLetter = 'a';        // 0: "a" to "l"
+    std::string serial;           // 1: four characters of the header (bytes)
+    ReadingTime start;            // 2: time of reading 0, the oldest
+    int count = 0;                // 3: number of readings
+    char typeLetter = ' ';        // 4: "V" marks a voltage recording
+    std::int16_t largest = 0;     // 5: tenths
+    std::int16_t smallest = 0;    // 6: tenths
+    std::string path;             // 7: full path (UTF-8); empty marks the slot as free
+    bool low = false;             // 8: readings carry one decimal
+    ReadingTime headerTime;       // 9: as written in the file
+    bool forced = false;          // 10: readings were forced
+    std::string header;           // 11: the whole header text (bytes), after the repair of the older layout
+    char form = ' ';              // 12: first character after the header; "T" for the T form
+    int unreadable = 0;           // items that were no numbers, and a terminator in the middle
+    bool notesUnreadable = false; // there is a notes file, but it could not be read
 
     char unit() const { return typeLetter == 'V' ? 'V' : 'A'; }
     const char* rangeWord() const { return low ? "LOW" : "HIGH"; }

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Recordings.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace tally {
+
+// What a data text says: `facts` without the path, `readings` in tenths, oldest first.
+struct Recording {
+    FileFacts facts;
+    std::vector<std::int16_t> readings;
+};
+
+// Why a data text is refused.
+enum class DataRefusal {
+    noHeader,   // no "H", "P" or "K", or its line does not end
+    badMode,    // a mode letter outside "a" to "l"
+    badTime,    // a header time that is no date
+    noReadings, // nothing after the header
+    outOfRange, // a value that does not fit 16-bit tenths
+    tooLong     // the part that was read holds neither all readings nor the terminator
+};
+
+// The header line of a data text.
+struct DataHeader {
+    std::string text;      // as kept: after the repair of the older layout, without its line end
+    char modeLetter = 'a'; // lower case; a blank reads as "a"
+    char typeLetter = ' ';
+    std::size_t end = 0; // where the line after the header begins
+};
+
+// How many bytes of a file are read at most; many times what the readings of one file take.
+inline constexpr std::size_t mostDataBytes = std::size_t{16} << 20;
+
+// Finds the header: skips to the first "H", "P" or "K". Does not look at the time.
+std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes);
+
+// Reads a whole data text (bytes as they stand in the file). `cutShort` says that the file goes on beyond
+// them.
+std::variant<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort = false);
+
+} // namespace tally

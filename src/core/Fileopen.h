@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Files.h"
+#include "core/Recordings.h"
+
+#include <string>
+#include <string_view>
+
+namespace tally {
+
+enum class OpenOutcome { opened, modeMixing, notVoltage, notFound, badFile, slotsFull };
+
+// The text of the message box; empty for opened.
+std::string_view openMessage(OpenOutcome outcome);
+
+// Reads a data file and its notes into the first free slot, makes it current and the whole file the range.
+// `voltageOnly` refuses current recordings. Refused, nothing has changed. The recent list and the menus are
+// the caller's.
+OpenOutcome Fileopen(Recordings& recordings, const Files& files, const std::string& path,
+                     bool voltageOnly = false);
+
+} // namespace tally
