@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands on files, run as a user's script runs them. The small recordings are written here, so that
+// every expected value can be worked out on paper.
+#include "support/Process.h"
+
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using testing::runProgram;
+using testing::TemporaryFolder;
+
+// Columns 1-3 model, 4 mode, 8-11 serial, 31-44 time, 45-52 "   Vbatt".
+std::string header(char mode, const std::string& time = "03-15-24 10:00", const std::string& model = "PQX") {
+    return model + mode + "   " + "1234" + std::string(19, ' ') + time + "   Vbatt 3E8\r";
+}
+
+// Newest first: in a file that is not of the T form reading 0 lies count + 1 intervals before the header
+// time.
+const std::string fourHigh = header('a') + "  40  30  20  10\x1a";
+const std::string fourLow = header('b') + " 40.5 30.5 20.5 10.5\x1a";
+
+struct FileCommands : ::testing::Test {
+    TemporaryFolder folder;
+    std::string high = folder.write("high.dat", fourHigh);
+    std::string low = folder.write("low.dat", fourLow);
+};
+
+TEST_F(FileCommands, InfoPrintsTheFactsAsJson) {
+    folder.write("high.not", "North, 12kV\r\nFeeder 7\r\n\r\n");
+    const auto run = runProgram("tallyline-cli", {"info", high, "--json"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.err, "");
+    for (const char* fact :
+         {R"("mode": "a")", R"("serial": "1234")", R"("start": "08:45  Mar 15, 24")", R"("count": 4)",
+          R"("type": "X")", R"("max": 40.0)", R"("min": 10.0)", R"("range": "HIGH")",
+          R"("headerTime": "10:00  Mar 15, 24")", R"("forced": 0)", R"("interval": 15)",
+          R"("whenFull": "Cont")", R"("unreadable": 0)", R"("North")", R"("12kV")", R"("Feeder 7")"})
+        EXPECT_NE(run.out.find(fact), std::string::npos) << fact << "\n" << run.out;
+}
+
+TEST_F(FileCommands, ReadingsPrintsIndexTimeAndValue) {
+    const auto run = runProgram("tallyline-cli", {"readings", low, "--from", "1", "--to", "2"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    // 10:00 less five intervals of 5 minutes is reading 0 at 09:35.
+    EXPECT_EQ(run.out, "1,09:40  Mar 15, 24,20.5\n2,09:45  Mar 15, 24,30.5\n");
+}
+
+TEST_F(FileCommands, SaveWritesTheRangeWithTheTimeOfItsNewestReading) {
+    const auto run =
+        runProgram("tallyline-cli", {"save", low, "-o", folder.path("out.dat"), "--from", "0", "--to", "1"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(TemporaryFolder::read(folder.path("out.dat")),
+              "\"\r\n\n\n" + header('b', "03-15-24 09:40") + " 20.5 10.5\x1a\"\r\n");
+}
+
+TEST_F(FileCommands, BadRangesAreWrongUsage) {
+    for (const auto& range : std::vector<std::vector<std::string>>{{"--from", "x"},
+                                                                   {"--from", "3", "--to", "1"},
+                                                                   {"--to", "4"},
+                                                                   {"--from", "-1"},
+                                                                   {"--from", "1.5"}}) {
+        std::vector<std::string> arguments = {"readings", high};
+        arguments.insert(arguments.end(), range.begin(), range.end());
+        const auto run = runProgram("tallyline-cli", arguments);
+        EXPECT_EQ(run.status, 2) << range[1];
+        EXPECT_EQ(run.out, "");
+        EXPECT_NE(run.err.find("Usage: tallyline-cli readings"), std::string::npos) << run.err;
+    }
+}
+
+TEST_F(FileCommands, RefusalsSayTheFixedWordsAndWriteNothing) {
+    const auto missing = runProgram("tallyline-cli", {"info", folder.path("none.dat")});
+    EXPECT_EQ(missing.status, 1);
+    EXPECT_EQ(missing.err, "File not found\n");
+    EXPECT_EQ(missing.out, "");
+    const auto damaged = runProgram("tallyline-cli", {"info", folder.write("bad.dat", "no recording")});
+    EXPECT_EQ(damaged.status, 1);
+    EXPECT_EQ(damaged.err, "Error in processing file\n");
+    const auto mixed = runProgram("tallyline-cli", {"plot", high, low, "--json"});
+    EXPECT_EQ(mixed.status, 1);
+    EXPECT_EQ(mixed.err.substr(0, mixed.err.find('\n')), "Mode mixing not allowed");
+    const auto nowhere = runProgram("tallyline-cli", {"save", high, "-o", folder.path("no/such/out.dat")});
+    EXPECT_EQ(nowhere.status, 1);
+    EXPECT_NE(nowhere.err.find("Path not found"), std::string::npos) << nowhere.err;
+}
+
+TEST_F(FileCommands, WrongCallsEndWithTwoAndAUsageLine) {
+    for (const auto& arguments :
+         std::vector<std::vector<std::string>>{{},
+                                               {"fly"},
+                                               {"info"},
+                                               {"info", high, "--colour"},
+                                               {"plot", high},
+                                               {"plot", high, "-o", "x.gif"},
+                                               {"plot", high, "-o", "x.png", "--size", "huge"},
+                                               {"plot", high, high, high, high, "--json"},
+                                               {"info", high, "--at", "yesterday"}}) {
+        const auto run = runProgram("tallyline-cli", arguments);
+        EXPECT_EQ(run.status, 2) << run.err;
+        EXPECT_NE(run.err.find("Usage: tallyline-cli"), std::string::npos) << run.err;
+    }
+}
+
+TEST_F(FileCommands, ItemsThatAreNoNumbersAreWarnedOf) {
+    const auto file = folder.write("odd.dat", header('a') + "  40 A30  20  10\x1a");
+    const auto run = runProgram("tallyline-cli", {"info", file, "--json"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out.find(R"("unreadable": 1)"), std::string::npos);
+    EXPECT_NE(run.err.find("1 item(s)"), std::string::npos) << run.err;
+}
+
+TEST_F(FileCommands, TableHasHeadingAndLines) {
+    const auto run = runProgram("tallyline-cli", {"table", high});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, " Time     Date                            Eight readings of average\r\n"
+                       "08:45  Mar 15, 24          010       020       030       040   \r\n");
+}
+
+TEST_F(FileCommands, PowerOfOneFile) {
+    const auto run = runProgram("tallyline-cli", {"power", high, "--volts", "10000", "--json"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    // 10, 20, 30, 40 A at 10 kV; the energy leaves out the first reading: 900 kW x 15 / 60.
+    EXPECT_NE(run.out.find(R"("energy": "225 KWHR")"), std::string::npos) << run.out;
+    for (const char* value : {"100.0,", "200.0,", "300.0,", "400.0"})
+        EXPECT_NE(run.out.find(value), std::string::npos) << value;
+    const auto volts = runProgram(
+        "tallyline-cli",
+        {"power", folder.write("v.dat", header('a', "03-15-24 10:00", "HVV") + "  40  30\x1a"), "--json"});
+    EXPECT_EQ(volts.status, 1);
+    EXPECT_EQ(volts.err, "Files must all be amps for power to plot\n");
+}
+
+TEST_F(FileCommands, PlotWritesPictures) {
+    for (const char* name : {"p.png", "p.pdf", "p.svg"}) {
+        const auto run = runProgram("tallyline-cli", {"plot", high, "-o", folder.path(name)});
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_GT(TemporaryFolder::read(folder.path(name)).size(), 1000U) << name;
+    }
+    EXPECT_EQ(TemporaryFolder::read(folder.path("p.png")).substr(1, 3), "PNG");
+    EXPECT_EQ(TemporaryFolder::read(folder.path("p.pdf")).substr(0, 5), "%PDF-");
+    const auto json = runProgram("tallyline-cli", {"plot", high, "--json", "--at", "03-20-24 09:00"});
+    EXPECT_NE(json.out.find(R"("ytitle": "AMPS")"), std::string::npos) << json.out;
+    EXPECT_NE(json.out.find("Date printed   Mar-20-24"), std::string::npos) << json.out;
+}
+
+TEST_F(FileCommands, NotesAreSetAndComeBack) {
+    const auto set =
+        runProgram("tallyline-cli", {"notes", high, "--location", "North yard", "--other", "spare"});
+    EXPECT_EQ(set.status, 0) << set.err;
+    EXPECT_EQ(TemporaryFolder::read(folder.path("high.not")), "North yard\r\n\r\n\r\nspare\r\n");
+    const auto shown = runProgram("tallyline-cli", {"notes", high});
+    EXPECT_EQ(shown.out, "Location: North yard\nCircuit: \nName: \nOther: spare\n");
+}
+
+TEST_F(FileCommands, ForceChangesTheRangeAndSavesTheWholeFile) {
+    const auto run = runProgram("tallyline-cli", {"force", low, "-o", folder.path("f.dat"), "--value", "7.5",
+                                                  "--from", "1", "--to", "2", "--which", "right"});
+    EXPECT_EQ(run.status, 0) << run.err;
+    const auto bytes = TemporaryFolder::read(folder.path("f.dat"));
+    EXPECT_NE(bytes.find(" 40.5  7.5 20.5 10.5\x1a"), std::string::npos) << bytes;
+    EXPECT_EQ(TemporaryFolder::read(low), fourLow);
+    const auto refused =
+        runProgram("tallyline-cli", {"force", low, "-o", folder.path("g.dat"), "--value", "100"});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.err,
+              "Error - New reading is outside the allowable range.\r\n  - Must be between 0 and 99.9\n");
+    EXPECT_EQ(TemporaryFolder::read(folder.path("g.dat")), "");
+}
+
+} // namespace
+} // namespace tally
