@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Files.h"
-#include "link/ResponseTimer.h"
+#include "link/DownloadReception.h"
 #include "link/Runspec.h"
 #include "link/Session.h"
 
@@ -32,6 +32,9 @@ public:
     std::optional<PendingDownload> DownLoadProc();
 
 private:
+    void showProcessing(const std::string& text);
+    std::optional<PendingDownload> judge(ReceivedDownload& received);
+
     Session& session_;
     std::int64_t waitFor_;
     RunFlags flags_;

@@ -48,6 +48,8 @@ public:
     // Minutes by which the instrument's clock is ahead of the computer's.
     virtual void clockDifference(std::int64_t minutes) = 0;
     virtual void end(JournalState state) = 0;
+    // The reception is the user's, in this form: what is saved later.
+    virtual void accepted(std::string_view text) = 0;
     // The reception begun last; empty when it is kept nowhere.
     virtual std::string id() const = 0;
 };
@@ -67,7 +69,8 @@ class Journal : public JournalSink {
 public:
     static constexpr std::size_t keep = 20;
     virtual std::vector<JournalEntry> list() const = 0;
-    // What was received at the last port settings, as it came. Throws File not found and file faults.
+    // The accepted text, else what was received at the last port settings as it came. Throws File not found
+    // and file faults.
     virtual std::string text(const std::string& id) const = 0;
     // Writes down what became of a reception. Throws file faults.
     virtual void mark(const std::string& id, JournalState state) = 0;
@@ -83,6 +86,7 @@ public:
     void restart(const std::string&) override {}
     void clockDifference(std::int64_t) override {}
     void end(JournalState) override {}
+    void accepted(std::string_view) override {}
     std::string id() const override { return {}; }
 };
 

@@ -28,6 +28,9 @@ public:
     // Stops without a word in the log, as the time-out does.
     void disable() { running_ = false; }
 
+    // What every tick writes into the log first.
+    void logTick();
+
     // Takes the automatic type to its other settings and resets the interface; the timer then runs anew for
     // the full interval. `reason` begins the status text: "No response." or "Bad header.". Gives cancelled
     // when the user cancelled during the reset. Throws what opening a port throws.

@@ -8,6 +8,7 @@
 #include "link/Panel.h"
 #include "link/Waiter.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -43,13 +44,17 @@ public:
     std::string Input();
     // Waits for a character: due, cancelled, data, in this order when they coincide.
     Wake until(std::int64_t deadline);
-    // Waits for the deadline alone; characters that come are kept. Gives due or cancelled.
+    // Waits for the deadline alone; characters that come are kept. Gives due or cancelled; due at once when
+    // the line has closed itself.
     Wake pause(std::int64_t deadline);
     // The line closed itself under the session, and everything read from it was used.
-    bool lost() const { return kept_.empty() && !line.isOpen(); }
+    bool lost() const { return !unused() && !line.isOpen(); }
 
 private:
-    void drain();
+    bool unused() const { return used_ < kept_.size(); }
+    // Reads into the journal and the store, up to `most` characters kept.
+    void drain(std::size_t most);
+
     std::string kept_;
     std::size_t used_ = 0;
 };

@@ -3,39 +3,30 @@
 
 #include "core/Fault.h"
 #include "link/Session.h"
+#include "link/StatusHeader.h"
 
+#include <cstdint>
 #include <optional>
-#include <string>
 
 namespace tally {
 
-// The fields of a status header.
-struct StatusFields {
-    std::string type;   // model code, upper case
-    std::string serial; // four characters (bytes)
-    std::string state;  // "Running", "Stopped", or empty for no mode letter
-    std::string mode;   // "Average", "Min/Max/Avg ", or what is wrong with the mode character
-    std::optional<int> interval;
-    std::string whenFull; // "Cont", "Stop" or empty
-    std::string timeOn;   // "hh:mm  MMM dd, yy"; as it came when it is no time
-    std::optional<double> vbatt;
-    bool lowBattery = false;
-
-    // The text of the result label (UTF-8).
-    std::string text() const;
-};
-
-// Reads a status header (bytes, from the family initial on). Throws Subscript for a mode letter after "m".
-StatusFields readStatusHeader(const std::string& line1, bool lowBattery);
-
-// The status check: one check after the other while the user wants another. Gives the fields of the last one
-// that succeeded. The port is closed when it returns.
+// The status check: one check after the other while the user wants another.
 class StatusCheckSession {
 public:
-    explicit StatusCheckSession(Session& session, std::int64_t waitFor = Waiter::never);
+    // `waitFor` bounds the wait for the header (milliseconds); without it there is no bound.
+    explicit StatusCheckSession(Session& session, std::int64_t waitFor = Waiter::never)
+        : session_(session), waitFor_(waitFor) {}
+
+    // What comes before the form: a port that is still open is closed, and told.
+    void mnuItemStatusCheck_Click();
+
+    // Gives the fields of the check that ended it, or nothing when that failed or was cancelled. The port is
+    // closed when it returns.
     std::optional<StatusFields> StatusCheck();
 
 private:
+    std::optional<StatusFields> checkOnce();
+
     Session& session_;
     std::int64_t waitFor_;
 };

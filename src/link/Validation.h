@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Prompt.h"
-#include "link/Runspec.h"
-
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -29,13 +26,5 @@ struct ValidationCounts {
 // Scans the data section; with `change999sTo000` rewrites the readings "999" in place. Throws Overflow, and
 // then leaves the text as it was, when a counter leaves 16 bits.
 ValidationCounts validate(std::string& gText, bool change999sTo000);
-
-// The error message without its question; empty when clean.
-std::string errorReport(const ValidationCounts& counts);
-// The message about readings of 999; empty when there were none.
-std::string report999(const ValidationCounts& counts, bool changed);
-
-// Plants the faults asked for, scans, reports and asks; whether the text is kept.
-bool judgeDownload(std::string& gText, const RunFlags& flags, Prompt& prompt);
 
 } // namespace tally

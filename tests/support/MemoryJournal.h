@@ -17,6 +17,7 @@ public:
     struct Reception {
         JournalHeader header = {};
         std::vector<std::string> parts = {""}; // one for each port settings
+        std::string accepted;
         JournalState state = JournalState::receiving;
         std::optional<std::int64_t> clockDifference = {};
     };
@@ -28,6 +29,10 @@ public:
     void restart(const std::string&) override { receptions.back().parts.emplace_back(); }
     void clockDifference(std::int64_t minutes) override { receptions.back().clockDifference = minutes; }
     void end(JournalState state) override { receptions.back().state = state; }
+    void accepted(std::string_view text) override {
+        receptions.back().accepted = text;
+        receptions.back().state = JournalState::accepted;
+    }
     std::string id() const override { return std::to_string(receptions.size()); }
 
     std::vector<JournalEntry> list() const override {
@@ -40,7 +45,9 @@ public:
         std::reverse(entries.begin(), entries.end());
         return entries;
     }
-    std::string text(const std::string& id) const override { return at(id).parts.back(); }
+    std::string text(const std::string& id) const override {
+        return at(id).accepted.empty() ? at(id).parts.back() : at(id).accepted;
+    }
     void mark(const std::string& id, JournalState state) override { at(id).state = state; }
     std::string problem() const override { return trouble; }
 

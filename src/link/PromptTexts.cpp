@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/PromptTexts.h"
+
+namespace tally {
+
+const char* const lowBatteryText = "    LOW INSTRUMENT BATTERY    ";
+
+const char* const badPortText = "Communication port not valid.\r\n"
+                                "Try selecting a different COM port";
+
+const char* const tryAnotherType = "Check that the instrument is connected or try selecting some other\r\n"
+                                   " instrument type (using Options > Instrument Selection).";
+
+std::string connectionPrompt(const InstrumentState& instrument, bool autoLine) {
+    std::string text = instrument.gCableFirst ? "   Insert the cable into the instrument.     \r\n"
+                                                "             Then Press 'OK'.                \r\n"
+                                              : "   Press 'OK'.                               \r\n"
+                                                "   Then insert the cable into the instrument.\r\n";
+    text += "                                             \r\n"
+            "   (If the interface has a transfer switch,  \r\n"
+            "    make sure it's set to 'TRANSFER'.)       \r\n"
+            "                                             \r\n";
+    if (autoLine && instrument.instSelection == 11)
+        text += "Auto select: Initial port settings = " + instrument.portSettings + "\r\n";
+    return text + "     Hit 'Cancel' or use ESC key to quit     ";
+}
+
+std::string removeCableText() {
+    return "       RETURN THE SWITCH TO 'STANDBY'   \r\n"
+           "           OR REMOVE THE CABLE NOW       ";
+}
+
+std::string portInUseText(int commPort) {
+    return "COM" + std::to_string(commPort) + "  in use\r\n Cancel or Escape to quit";
+}
+
+} // namespace tally

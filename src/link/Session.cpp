@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/Session.h"
+
+namespace tally {
+
+namespace {
+
+// Enough to keep the journal's writes few, little enough to look at timers and cancel often.
+constexpr std::size_t mostKept = 1024;
+
+} // namespace
+
+void Session::openPort() {
+    line.CommPort(instrument.gCommPort);
+    line.Settings(instrument.portSettings);
+    line.InputLen(1);
+    line.EOFEnable(true);
+    line.PortOpen(true);
+}
+
+void Session::closePort() {
+    if (line.isOpen())
+        line.PortOpen(false);
+    kept_.clear();
+    used_ = 0;
+}
+
+void Session::drain(std::size_t most) {
+    const std::size_t before = kept_.size();
+    for (std::string next; kept_.size() < most && !(next = line.Input()).empty();)
+        kept_ += next;
+    if (kept_.size() > before)
+        journal.append(std::string_view(kept_).substr(before));
+}
+
+std::string Session::Input() {
+    if (!unused()) {
+        kept_.clear();
+        used_ = 0;
+        drain(mostKept);
+    }
+    return unused() ? std::string(1, kept_[used_++]) : std::string();
+}
+
+Wake Session::until(std::int64_t deadline) {
+    if (!unused())
+        return waiter.until(deadline);
+    if (waiter.now() >= deadline)
+        return Wake::due;
+    return waiter.cancelRequested() ? Wake::cancelled : Wake::data;
+}
+
+Wake Session::pause(std::int64_t deadline) {
+    for (;;) {
+        const Wake wake = waiter.until(deadline);
+        if (wake != Wake::data)
+            return wake;
+        drain(kept_.size() + mostKept);
+        if (!line.isOpen())
+            return Wake::due;
+    }
+}
+
+} // namespace tally
