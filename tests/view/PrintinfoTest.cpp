@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/Printinfo.h"
+
+#include "core/Fault.h"
+#include "support/SampleFile.h"
+
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using testing::addFile;
+
+class Summary : public ::testing::Test {
+protected:
+    Recordings recordings;
+    DisplayState state;
+};
+
+TEST_F(Summary, NoCurrentFileIsASubscriptFault) {
+    EXPECT_THROW(Printinfo(recordings, state), Fault);
+}
+
+TEST_F(Summary, OfAnAverageFile) {
+    addFile(recordings, "/x/a.dat", {35, 1200, 125}, {.letter = 'd'});
+    recordings.gNotes[0] = {"Elm St", "12", "Ann", "x"};
+    EXPECT_EQ(Printinfo(recordings, state),
+              "Average          Values                     \r\n"
+              "    File:     /x/a.dat             Ser. A123\r\n"
+              "     Mode:  Stop  15 min interval                    Range  LOW\r\n"
+              "    Entire File:  Start:  14:00  Mar 15, 24    End:  14:30  Mar 15, 24\r\n"
+              "                       Min: 3.5     Max: 120\r\n"
+              "Loc:    Elm St\r\n"
+              "Name: Ann\r\n"
+              "Circ:    12\r\n"
+              "Other: x\r\n");
+}
+
+TEST_F(Summary, OfATripleFileInTheHighRange) {
+    addFile(recordings, "g.dat", {10, 20, 0, 30, 40, 10}, {.letter = 'h', .low = false});
+    const std::string text = Printinfo(recordings, state);
+    EXPECT_TRUE(text.starts_with("Min/Max/Avg      Values                     \r\n"));
+    EXPECT_NE(text.find("     Mode:  Cont  5 min interval                    Range  HIGH\r\n"),
+              std::string::npos);
+    EXPECT_NE(text.find("End:  14:05  Mar 15, 24\r\n"), std::string::npos);
+}
+
+TEST_F(Summary, EnergyLineOnlyAfterAPowerPlot) {
+    addFile(recordings, "a.dat", {10});
+    EXPECT_EQ(Printinfo(recordings, state).find("Total Energy"), std::string::npos);
+    state.energyText = "12,345 KWHR";
+    EXPECT_NE(Printinfo(recordings, state)
+                  .find("Max: 1\r\n                   Total Energy In Displayed Area  12,345 KWHR\r\nLoc:"),
+              std::string::npos);
+}
+
+TEST_F(Summary, SelectedBlockOnlyWhileASpanIsApplied) {
+    addFile(recordings, "a.dat", testing::ramp(20));
+    recordings.gDatastart = 2;
+    recordings.gdataend = 6;
+    state.extremeMin = 2;
+    state.extremeMax = 12345;
+    EXPECT_EQ(Printinfo(recordings, state).find("Selected"), std::string::npos);
+    state.spanApplied = true;
+    EXPECT_NE(
+        Printinfo(recordings, state)
+            .find("           Selected:       Start  14:30  Mar 15, 24                   Finish  15:30  "
+                  "Mar 15, 24\r\n"
+                  "                                   Min      0.2           "
+                  "                                 max       1234.5\r\n"),
+        std::string::npos);
+}
+
+TEST_F(Summary, LastSelectedTripleHasTheTimeOfItsInterval) {
+    addFile(recordings, "g.dat", testing::ramp(30), {.letter = 'g'});
+    recordings.gDatastart = 6;
+    recordings.gdataend = 14;
+    state.spanApplied = true;
+    EXPECT_NE(Printinfo(recordings, state)
+                  .find("Start  14:30  Mar 15, 24                   Finish  15:00  Mar 15, 24\r\n"),
+              std::string::npos);
+}
+
+TEST_F(Summary, CurrentFileIsTheOneSummedUp) {
+    addFile(recordings, "a.dat", {10});
+    addFile(recordings, "b.dat", {20});
+    recordings.ginx = 0;
+    EXPECT_NE(Printinfo(recordings, state).find("    File:     a.dat             Ser. A123"),
+              std::string::npos);
+    recordings.ginx = 1;
+    EXPECT_NE(Printinfo(recordings, state).find("    File:     b.dat             Ser. A123"),
+              std::string::npos);
+}
+
+// The blanks and the full stops differ on purpose.
+TEST_F(Summary, TextsWithNoFile) {
+    EXPECT_EQ(noFileForSummary, "Error - No file available. Need to open a file.");
+    EXPECT_EQ(noFileForPrintSummary, "Error - No file available.  Need to open a file.");
+}
+
+} // namespace
+} // namespace tally
