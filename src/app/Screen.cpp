@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Screen.h"
+
+#include "app/StartPage.h"
+#include "app/forms/Words.h"
+#include "view/forms/Chart.h"
+#include "view/forms/ChartToolBar.h"
+#include "view/forms/TextView.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+namespace tally {
+
+namespace {
+
+// One line of buttons with the name of what is shown at its right end, and the view below.
+QLabel* layOut(QWidget* page, QToolBar* bar, QWidget* view, const QString& labelName) {
+    auto* down = new QVBoxLayout(page);
+    down->setContentsMargins(0, 0, 0, 0);
+    down->setSpacing(0);
+    auto* gap = new QWidget(bar);
+    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar->addWidget(gap);
+    auto* label = new QLabel(bar);
+    label->setObjectName(labelName);
+    label->setContentsMargins(8, 0, 8, 0);
+    bar->addWidget(label);
+    down->addWidget(bar);
+    down->addWidget(view, 1);
+    return label;
+}
+
+} // namespace
+
+Screen::Screen(QWidget* parent) : QStackedWidget(parent), start_(new StartPage(this)) {
+    setObjectName(QStringLiteral("Screen"));
+    addWidget(start_);
+}
+
+Chart& Screen::chart() {
+    if (!chart_)
+        makeChart();
+    return *chart_;
+}
+
+ChartToolBar& Screen::chartBar() {
+    chart();
+    return *chartBar_;
+}
+
+TextView& Screen::text() {
+    if (!text_)
+        makeText();
+    return *text_;
+}
+
+void Screen::makeChart() {
+    chartPage_ = new QWidget(this);
+    chart_ = new Chart(chartPage_);
+    chart_->setObjectName(QStringLiteral("ChartFX1"));
+    chartBar_ = new ChartToolBar(chartPage_);
+    chartLabel_ = layOut(chartPage_, chartBar_, chart_, QStringLiteral("displayingChart"));
+    addWidget(chartPage_);
+    Q_EMIT chartMade();
+}
+
+void Screen::makeText() {
+    textPage_ = new QWidget(this);
+    text_ = new TextView(textPage_);
+    text_->setObjectName(QStringLiteral("TextView"));
+    auto* bar = new QToolBar(textPage_);
+    bar->setObjectName(QStringLiteral("TextToolBar"));
+    bar->setAccessibleName(QStringLiteral("Text"));
+    connect(addTextButton(bar, "textPrint", "Print", "Print this text"), &QAction::triggered, this,
+            &Screen::printText);
+    connect(addTextButton(bar, "textPreview", "Preview", "See the pages before they are printed"),
+            &QAction::triggered, this, &Screen::previewText);
+    connect(addTextButton(bar, "textCopy", "Copy", "Copy the selection, or everything"), &QAction::triggered,
+            text_, [this] { text_->copy(); });
+    connect(addTextButton(bar, "textFind", "Find", "Search this text (Ctrl+F)"), &QAction::triggered, text_,
+            [this] { text_->showFindBar(); });
+    textLabel_ = layOut(textPage_, bar, text_, QStringLiteral("displayingText"));
+    addWidget(textPage_);
+}
+
+QAction* Screen::addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip) {
+    QAction* action = bar->addAction(QString::fromLatin1(caption));
+    action->setObjectName(QString::fromLatin1(name));
+    action->setToolTip(QString::fromLatin1(tip));
+    action->setStatusTip(QString::fromLatin1(tip));
+    return action;
+}
+
+Screen::Page Screen::page() const {
+    if (chartPage_ && currentWidget() == chartPage_)
+        return Page::chart;
+    return textPage_ && currentWidget() == textPage_ ? Page::text : Page::start;
+}
+
+void Screen::setDisplaying(QLabel* label, const std::string& name) {
+    displaying_ = name;
+    label->setText(QStringLiteral("Displaying ") + words(name));
+}
+
+void Screen::showPlot(const Plot& plot, bool onePage) {
+    chart().showPlot(plot);
+    chart_->setOnePage(onePage);
+    chartBar_->setOnePage(onePage);
+    chartBar_->setHasPlot(true);
+    setDisplaying(chartLabel_, plot.displaying);
+    setCurrentWidget(chartPage_);
+    chart_->setFocus();
+}
+
+void Screen::showText(const std::string& heading, const std::string& text, const std::string& displaying) {
+    this->text().setText(words(heading), words(text));
+    setDisplaying(textLabel_, displaying);
+    setCurrentWidget(textPage_);
+    text_->setFocus();
+}
+
+void Screen::reset() {
+    if (chart_) {
+        chart_->clear();
+        chart_->setOnePage(false);
+        chartBar_->setOnePage(false);
+        chartBar_->setHasPlot(false);
+    }
+    if (text_)
+        text_->setText({}, {});
+    displaying_.clear();
+    setCurrentWidget(start_);
+}
+
+} // namespace tally

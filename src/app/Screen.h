@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "view/Plot.h"
+
+#include <QStackedWidget>
+#include <string>
+
+class QAction;
+class QLabel;
+class QToolBar;
+
+namespace tally {
+
+class Chart;
+class ChartToolBar;
+class StartPage;
+class TextView;
+
+// The middle of the main window: the start page, the chart with its buttons, or a text with its buttons.
+// Chart and text view are made when they are first needed.
+class Screen : public QStackedWidget {
+    Q_OBJECT
+
+public:
+    explicit Screen(QWidget* parent = nullptr);
+
+    StartPage& start() { return *start_; }
+    Chart& chart();
+    ChartToolBar& chartBar();
+    TextView& text();
+
+    enum class Page { start, chart, text };
+    Page page() const;
+
+    // `displaying` is the name that follows "Displaying ".
+    void showPlot(const Plot& plot, bool onePage);
+    void showText(const std::string& heading, const std::string& text, const std::string& displaying);
+    // Takes chart and text away and shows the start page.
+    void reset();
+    const std::string& displaying() const { return displaying_; }
+
+Q_SIGNALS:
+    void chartMade(); // its signals can be connected
+    void printText();
+    void previewText();
+
+private:
+    void makeChart();
+    void makeText();
+    void setDisplaying(QLabel* label, const std::string& name);
+    QAction* addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip);
+
+    StartPage* start_;
+    QWidget* chartPage_ = nullptr;
+    QWidget* textPage_ = nullptr;
+    Chart* chart_ = nullptr;
+    ChartToolBar* chartBar_ = nullptr;
+    TextView* text_ = nullptr;
+    QLabel* chartLabel_ = nullptr;
+    QLabel* textLabel_ = nullptr;
+    std::string displaying_;
+};
+
+} // namespace tally

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/StatusPanels.h"
+
+#include <QLabel>
+#include <QStatusBar>
+
+namespace tally {
+
+namespace {
+
+QLabel* panel(const QString& name, const QString& accessible, int characters) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setAccessibleName(accessible);
+    label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * characters);
+    return label;
+}
+
+} // namespace
+
+StatusPanels::StatusPanels(QStatusBar& bar)
+    : remark_(panel(QStringLiteral("PanelRemark"), QStringLiteral("Remark"), 0)),
+      time_(panel(QStringLiteral("PanelTime"), QStringLiteral("Time under the pointer"), 22)),
+      value_(panel(QStringLiteral("PanelValue"), QStringLiteral("Value under the pointer"), 14)) {
+    // A long remark must not widen the window.
+    remark_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar.addWidget(remark_, 1);
+    bar.addPermanentWidget(time_);
+    bar.addPermanentWidget(value_);
+}
+
+void StatusPanels::remark(const QString& text) {
+    remark_->setText(text);
+    remark_->setToolTip(text);
+}
+
+void StatusPanels::pointer(const QString& time, const QString& value) {
+    time_->setText(time);
+    value_->setText(value);
+}
+
+} // namespace tally

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "view/forms/Paper.h"
+
+namespace tally {
+
+class TLY;
+
+// Everything that goes to a printer.
+class TLY_Paper {
+public:
+    explicit TLY_Paper(TLY& window);
+
+    void mnuItemPrintSum_Click();
+    void mnuItemPrintTable_Click();
+    void mnuItemPrintpwrSum_Click();
+    void mnuItemPrintPwrTable_Click();
+
+    // What is shown: the chart or the text.
+    void printShown();
+    void previewShown();
+
+private:
+    TextReport report(const std::string& title, const std::string& heading, const std::string& text) const;
+    TextReport shownText() const;
+    Paper paper() const;
+
+    TLY& window_;
+};
+
+} // namespace tally

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "view/Power.h"
+
+#include <string>
+
+namespace tally {
+
+class TLY;
+
+inline constexpr std::string_view powerTableName = "power table";
+
+// The power views and what they are worked out from.
+class TLY_Power {
+public:
+    explicit TLY_Power(TLY& window) : window_(window) {}
+
+    void mnuItemViewPower_Click();
+    void mnuItemViewPwrTable_Click();
+    void mnuItemViewpwrsummry_Click();
+    void mnuItemPF_Click();
+
+    // The power plot over the displayed range with the voltage in force.
+    void redraw();
+    // Draws the power plot first when none was drawn since the files were opened; false when that ended
+    // without one.
+    bool ensureDrawn();
+
+private:
+    bool drawn(PowerRefusal refusal, const Plot& plot);
+
+    TLY& window_;
+};
+
+} // namespace tally

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The main window as a window: title, place, drops, shortcuts, closing.
+#include "app/Menus.h"
+#include "app/NoticeBar.h"
+#include "app/Screen.h"
+#include "app/StartPage.h"
+#include "app/TLY.h"
+#include "app/TLY_Edit.h"
+#include "app/TLY_File.h"
+#include "app/TLY_Help.h"
+#include "app/TLY_Paper.h"
+#include "app/TLY_View.h"
+#include "app/forms/Words.h"
+#include "view/ShownRange.h"
+#include "view/forms/Chart.h"
+#include "view/forms/TextView.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMimeData>
+#include <QTimer>
+
+namespace tally {
+
+namespace {
+
+constexpr const char* section = "Window";
+constexpr const char* key = "geometry";
+
+std::vector<std::string> dataFiles(const QMimeData& data) {
+    std::vector<std::string> paths;
+    for (const QUrl& url : data.urls())
+        if (url.isLocalFile())
+            paths.push_back(url.toLocalFile().toStdString());
+    return paths;
+}
+
+} // namespace
+
+void TLY::addShortcuts() {
+    const auto add = [this](const char* name, const QKeySequence& keys, auto run) {
+        auto* action = new QAction(this);
+        action->setObjectName(QString::fromLatin1(name));
+        action->setShortcut(keys);
+        addAction(action);
+        connect(action, &QAction::triggered, this, run);
+    };
+    add("printShown", QKeySequence::Print, [this] { dispatcher_.run([this] { paper_->printShown(); }); });
+    add("copyShown", QKeySequence::Copy, [this] { file_->copyShown(); });
+    add("undoForced", QKeySequence::Undo, [this] { dispatcher_.run([this] { edit_->undo(); }); });
+}
+
+void TLY::connectStartPage() {
+    StartPage& start = screen_->start();
+    start.setSamples(!TLY_File::sample().empty());
+    start.setDownload(menus_->item("mnuItemDownload").isEnabled());
+    connect(&start, &StartPage::openWanted, &menus_->item("mnuItemOpen"), &QAction::trigger);
+    connect(&start, &StartPage::downloadWanted, &menus_->item("mnuItemDownload"), &QAction::trigger);
+    connect(&start, &StartPage::helpWanted, &menus_->item("mnuItemHelp"), &QAction::trigger);
+    connect(&start, &StartPage::sampleWanted, this, [this] { openFiles({TLY_File::sample()}, true); });
+}
+
+void TLY::openFiles(const std::vector<std::string>& paths, bool plot) {
+    dispatcher_.run([&] { file_->openAll(paths); });
+    if (plot && services_.recordings.isOpen(0))
+        dispatcher_.run([this] { view_->mnuItemViewPlot_Click(); });
+}
+
+void TLY::updateTitle() {
+    QStringList names;
+    for (int slot = 0; slot < Recordings::slotCount; ++slot)
+        if (services_.recordings.isOpen(slot))
+            names.append(words(fileNameOf(services_.recordings.info(slot).path)));
+    setWindowTitle(names.isEmpty() ? QStringLiteral("Tallyline")
+                                   : names.join(QStringLiteral(", ")) + QStringLiteral(" - Tallyline"));
+}
+
+void TLY::reportSettings(const std::string& text) {
+    notices_->put(QStringLiteral("settings"), words(text));
+}
+
+void TLY::placeWindow() {
+    const QByteArray place =
+        QByteArray::fromBase64(QByteArray::fromStdString(services_.settings.get(section, key)));
+    if (place.isEmpty() || !restoreGeometry(place))
+        resize(1000, 700);
+}
+
+bool TLY::event(QEvent* event) {
+    const bool done = QMainWindow::event(event);
+    if (!painted_ && event->type() == QEvent::Paint) {
+        painted_ = true;
+        QTimer::singleShot(0, this, [this] { Q_EMIT firstFrame(); });
+    }
+    return done;
+}
+
+void TLY::closeEvent(QCloseEvent* event) {
+    // A session with an instrument ends first; it is told by the closing of its own dialog.
+    if (dispatcher_.running() || !edit_->mayLeave()) {
+        event->ignore();
+        return;
+    }
+    services_.settings.set(section, key, saveGeometry().toBase64().toStdString());
+    event->accept();
+}
+
+void TLY::dragEnterEvent(QDragEnterEvent* event) {
+    if (!dispatcher_.running() && !dataFiles(*event->mimeData()).empty())
+        event->acceptProposedAction();
+}
+
+void TLY::dropEvent(QDropEvent* event) {
+    const auto paths = dataFiles(*event->mimeData());
+    event->acceptProposedAction();
+    // The one who dragged must not wait for our boxes.
+    QTimer::singleShot(0, this, [this, paths] { openFiles(paths); });
+}
+
+} // namespace tally

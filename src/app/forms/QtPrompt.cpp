@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/forms/QtPrompt.h"
+
+#include "app/forms/MessageBox.h"
+#include "app/forms/Words.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+
+namespace tally {
+
+namespace {
+
+struct NameFilter {
+    QString label; // as the dialog lists it
+    QString suffix;
+};
+
+// "label|pattern|label|pattern" as the filters of the dialog.
+QList<NameFilter> nameFilters(const QString& filter) {
+    QList<NameFilter> list;
+    const QStringList parts = filter.split(QLatin1Char('|'));
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString patterns = parts[i + 1].trimmed().replace(QLatin1Char(';'), QLatin1Char(' '));
+        QString label = parts[i].trimmed();
+        label = label.left(label.indexOf(QLatin1Char('('))).trimmed();
+        const QString first = patterns.section(QLatin1Char(' '), 0, 0);
+        const QString suffix = first.startsWith(QStringLiteral("*.")) ? first.mid(2) : QString();
+        list.append({label + QStringLiteral(" (") + patterns + QLatin1Char(')'),
+                     suffix == QStringLiteral("*") ? QString() : suffix});
+    }
+    return list;
+}
+
+} // namespace
+
+QWidget* QtPrompt::parent() const {
+    QWidget* active = QApplication::activeModalWidget();
+    return active ? active : window_.data();
+}
+
+Answer QtPrompt::show(const Message& message) {
+    MessageBox box(message, parent());
+    box.exec();
+    return box.answer();
+}
+
+std::optional<std::string> QtPrompt::input(const InputQuestion& question) {
+    InputBox box(question, parent());
+    if (box.exec() != QDialog::Accepted)
+        return std::nullopt;
+    return box.entered().toStdString();
+}
+
+std::optional<std::string> QtPrompt::chooseFile(const FileQuestion& question) {
+    QFileDialog dialog(parent(), question.save ? QStringLiteral("Save as") : QStringLiteral("Open"));
+    dialog.setObjectName(QStringLiteral("FileDialog"));
+    dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    const QString folder = words(question.folder);
+    dialog.setDirectory(folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder);
+    const QList<NameFilter> filters = nameFilters(words(question.filter));
+    QStringList labels;
+    for (const NameFilter& filter : filters)
+        labels.append(filter.label);
+    dialog.setNameFilters(labels);
+    const auto follow = [&](const QString& label) {
+        dialog.setDefaultSuffix(filters.value(labels.indexOf(label)).suffix);
+    };
+    if (question.save && !filters.isEmpty()) {
+        follow(labels.first());
+        QObject::connect(&dialog, &QFileDialog::filterSelected, follow);
+    }
+    if (!question.name.empty())
+        dialog.selectFile(words(question.name));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().first().toStdString();
+}
+
+} // namespace tally
