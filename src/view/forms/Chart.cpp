@@ -160,6 +160,11 @@ std::pair<double, double> Chart::visiblePoints() const {
     return scene_->across();
 }
 
+QRectF Chart::frame() const {
+    scene_->layOut(size());
+    return scene_->frame();
+}
+
 QSize Chart::sizeHint() const {
     return {1000, 620};
 }

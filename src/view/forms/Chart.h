@@ -4,6 +4,7 @@
 #include "view/Plot.h"
 #include "view/forms/ChartNote.h"
 
+#include <QRectF>
 #include <QWidget>
 
 #include <functional>
@@ -67,6 +68,8 @@ public:
     void pan(double across, double up);
     // The first and last value of the x axis in sight.
     std::pair<double, double> visiblePoints() const;
+    // Where the lines are drawn, in pixels of the widget.
+    QRectF frame() const;
 
     QSize sizeHint() const override;
 

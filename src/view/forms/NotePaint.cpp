@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/NotePaint.h"
 
+#include "view/forms/TextWrap.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 
@@ -10,7 +12,6 @@ namespace tally {
 namespace {
 
 constexpr int padding = 5;
-constexpr int flags = Qt::TextWordWrap | Qt::TextWrapAnywhere | Qt::AlignLeft | Qt::AlignTop;
 
 } // namespace
 
@@ -18,7 +19,8 @@ QRectF notePlace(const ChartNote& note, const QRectF& frame, const QFont& font) 
     const QFontMetrics metrics(font);
     const int widest = std::max(int(frame.width() / 2), 8 * metrics.averageCharWidth());
     const QRect room(0, 0, widest, 1 << 20);
-    const QRect text = metrics.boundingRect(room, flags, QString::fromStdString(note.text));
+    const QString words = QString::fromStdString(note.text);
+    const QRect text = metrics.boundingRect(room, wrapFlags(words, widest, metrics), words);
     const double width =
         std::max(text.width() + metrics.averageCharWidth(), 2 * metrics.averageCharWidth()) + 2 * padding;
     const double height = std::max(text.height(), metrics.height()) + 2 * padding;
@@ -38,7 +40,9 @@ void paintNote(QPainter& painter, const ChartNote& note, const QRectF& frame, co
     painter.drawRoundedRect(place, 3, 3);
     painter.setPen(look.text);
     painter.setFont(look.font);
-    painter.drawText(place.adjusted(padding, padding, 0, -padding), flags, QString::fromStdString(note.text));
+    const QRectF room = place.adjusted(padding, padding, 0, -padding);
+    const QString words = QString::fromStdString(note.text);
+    painter.drawText(room, wrapFlags(words, int(room.width()), QFontMetrics(look.font)), words);
     painter.restore();
 }
 

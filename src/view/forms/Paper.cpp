@@ -82,15 +82,13 @@ bool printPdf(const QPrinter& printer, const Painting& paint, Files& files, std:
 bool printPages(QPrinter& printer, const Painting& paint, Files& files, std::string* why) {
     if (printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty())
         return printPdf(printer, paint, files, why);
-    const QString name = printer.printerName();
-    // A printer that was chosen and then removed still counts as valid.
-    if (name.isEmpty() || QPrinterInfo::printerInfo(name).isNull()) {
-        *why = name.isEmpty() ? "There is no printer" : "The printer \"" + name.toStdString() + "\" has gone";
+    const std::string name = printer.printerName().toStdString();
+    *why = printerProblem(name);
+    if (!why->empty())
         return false;
-    }
     if (!paint(printer) || printer.printerState() == QPrinter::Error ||
         printer.printerState() == QPrinter::Aborted) {
-        *why = "The printer \"" + name.toStdString() + "\" failed";
+        *why = "The printer \"" + name + "\" failed";
         return false;
     }
     return true;
@@ -126,6 +124,15 @@ bool isPreview(const QPrinter& printer) {
 }
 
 } // namespace
+
+std::string printerProblem(const std::string& name) {
+    if (name.empty())
+        return "There is no printer";
+    // A printer that was chosen and then removed still counts as valid; the list of printers knows.
+    if (QPrinterInfo::printerInfo(QString::fromStdString(name)).isNull())
+        return "The printer \"" + name + "\" has gone";
+    return {};
+}
 
 bool printText(const TextReport& report, QPrinter& printer, Files& files, std::string* why) {
     return printPages(printer, textPainting(report, printer), files, why);

@@ -31,6 +31,8 @@ bool printText(const TextReport& report, QPrinter& printer, Files& files, std::s
 // Prints the chart on one page.
 bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
                 std::string* why);
+// Why nothing can be printed on the printer of this name; empty when it is there.
+std::string printerProblem(const std::string& name);
 // The bytes of the PDF that printText would write on A4.
 std::string pdfOfText(const TextReport& report);
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/TitleBlock.h"
 
+#include "view/forms/TextWrap.h"
+
 #include <QFontMetrics>
 #include <QPainter>
 #include <QRegularExpression>
@@ -13,71 +15,98 @@ namespace tally {
 namespace {
 
 constexpr int gap = 16; // pixels between columns
-constexpr int flags = Qt::TextWordWrap | Qt::TextWrapAnywhere | Qt::AlignLeft | Qt::AlignTop;
+constexpr int mostColumns = 4;
+constexpr int side = Qt::AlignLeft | Qt::AlignTop;
 
 } // namespace
 
 void TitleBlock::setText(const QString& text) {
     static const QRegularExpression lineBreak(QStringLiteral("\r\n|\r|\n"));
     lines_ = text.split(lineBreak);
-    while (!lines_.isEmpty() && lines_.back().trimmed().isEmpty())
+    static const QRegularExpression trailing(QStringLiteral("\\s+$"));
+    for (QString& line : lines_)
+        line.remove(trailing); // nobody sees them, and they would take room
+    while (!lines_.isEmpty() && lines_.back().isEmpty())
         lines_.removeLast();
     placed_.clear();
+    group();
 }
 
-std::vector<std::pair<int, int>> TitleBlock::groups() const {
-    std::vector<std::pair<int, int>> found;
-    int from = 0;
-    for (int line = 1; line < lines_.size(); ++line) {
-        if (!lines_[line].startsWith(QStringLiteral("Location: ")))
+// The head, the notes of each file, the marked span: each stays together.
+void TitleBlock::group() {
+    const auto starts = [this](int line, const QString& with) { return lines_[line].startsWith(with); };
+    const int end = int(lines_.size());
+    int tail = end;
+    if (end > 0 && starts(end - 1, QStringLiteral("Selected:")))
+        --tail;
+    tail_ = {tail, end};
+    files_.clear();
+    head_ = {0, tail};
+    for (int line = 0; line < tail; ++line) {
+        if (!starts(line, QStringLiteral("Location: ")))
             continue;
-        found.emplace_back(from, line);
-        from = line;
+        (files_.empty() ? head_ : files_.back()).last = line;
+        files_.push_back({line, tail});
     }
-    if (from < lines_.size())
-        found.emplace_back(from, int(lines_.size()));
-    return found;
 }
 
-int TitleBlock::place(int columns, int width, const QFont& font, std::vector<Placed>& placed,
-                      bool& broken) const {
-    const QFontMetrics metrics(font);
-    const int columnWidth = std::max((width - (columns - 1) * gap) / columns, metrics.averageCharWidth());
-    const auto parts = groups();
-    const int perColumn = (int(parts.size()) + columns - 1) / columns;
-    int deepest = 0;
-    broken = false;
-    for (int part = 0, top = 0; part < int(parts.size()); ++part) {
+bool TitleBlock::fits(const Group& group, int width) const {
+    const QFontMetrics metrics(font_);
+    for (int line = group.first; line < group.last; ++line)
+        if (metrics.horizontalAdvance(lines_[line]) > width)
+            return false;
+    return true;
+}
+
+int TitleBlock::place(const Group& group, int left, int top, int width, std::vector<Placed>& placed) const {
+    const QFontMetrics metrics(font_);
+    int height = 0;
+    for (int line = group.first; line < group.last; ++line) {
+        const QRect room(left, top + height, width, 1 << 20);
+        int taken = metrics.height();
+        if (metrics.horizontalAdvance(lines_[line]) > width)
+            taken =
+                metrics.boundingRect(room, wrapFlags(lines_[line], width, metrics), lines_[line]).height();
+        placed.push_back({QRectF(left, top + height, width, taken), line});
+        height += taken;
+    }
+    return height;
+}
+
+// The head stands beside the notes where it fits into a column, else above them.
+int TitleBlock::placeAll(int columns, int width, std::vector<Placed>& placed) const {
+    const int columnWidth =
+        std::max((width - (columns - 1) * gap) / columns, QFontMetrics(font_).averageCharWidth());
+    std::vector<Group> parts = files_;
+    int above = 0;
+    if (fits(head_, columnWidth))
+        parts.insert(parts.begin(), head_);
+    else
+        above = place(head_, 0, 0, width, placed);
+    const int perColumn = std::max((int(parts.size()) + columns - 1) / columns, 1);
+    int deepest = above;
+    for (int part = 0, top = above; part < int(parts.size()); ++part) {
         const int column = part / perColumn;
         if (part % perColumn == 0)
-            top = 0;
-        for (int line = parts[std::size_t(part)].first; line < parts[std::size_t(part)].second; ++line) {
-            const QRect room(column * (columnWidth + gap), top, columnWidth, 1 << 20);
-            const int taken = metrics.boundingRect(room, flags, lines_[line]).height();
-            const int height = std::max(taken, metrics.height());
-            broken = broken || taken > metrics.height() * 3 / 2;
-            placed.push_back({QRectF(room.x(), top, columnWidth, height), line});
-            top += height;
-        }
+            top = above;
+        top += place(parts[std::size_t(part)], column * (columnWidth + gap), top, columnWidth, placed);
         deepest = std::max(deepest, top);
     }
-    return deepest;
+    return deepest + place(tail_, 0, deepest, width, placed);
 }
 
 int TitleBlock::layOut(int width, const QFont& font) {
     font_ = font;
-    int best = 0;
     placed_.clear();
-    for (int columns = std::clamp(int(groups().size()), 1, 4); columns > 0 && !isEmpty(); --columns) {
+    int best = 0;
+    for (int columns = std::clamp(int(files_.size()) + 1, 1, mostColumns); columns > 0 && !isEmpty();
+         --columns) {
         std::vector<Placed> placed;
-        bool broken = false;
-        const int height = place(columns, width, font, placed, broken);
+        const int height = placeAll(columns, width, placed);
         if (placed_.empty() || height < best) {
             best = height;
             placed_ = std::move(placed);
         }
-        if (!broken)
-            break;
     }
     return best;
 }
@@ -86,11 +115,13 @@ void TitleBlock::paint(QPainter& painter, int left, int top) const {
     painter.setFont(font_);
     // Paper may measure letters a little wider than the screen did: a line that fitted must not be broken
     // now.
-    const double lineHeight = QFontMetrics(font_).height();
+    const QFontMetrics metrics(font_);
     for (const Placed& each : placed_) {
-        const bool one = each.place.height() < lineHeight * 1.5;
+        const QString& line = lines_[each.line];
+        const bool one = each.place.height() <= metrics.height();
         painter.drawText(each.place.translated(left, top),
-                         one ? Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip : flags, lines_[each.line]);
+                         one ? side | Qt::TextDontClip : wrapFlags(line, int(each.place.width()), metrics),
+                         line);
     }
 }
 

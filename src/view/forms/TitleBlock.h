@@ -29,11 +29,21 @@ private:
         int line;
     };
 
-    // Groups that stay together: the head, then the notes of each file.
-    std::vector<std::pair<int, int>> groups() const;
-    int place(int columns, int width, const QFont& font, std::vector<Placed>& placed, bool& broken) const;
+    struct Group {
+        int first;
+        int last; // not included
+    };
+
+    void group();
+    bool fits(const Group& group, int width) const;
+    // Places a group and gives the height that it takes.
+    int place(const Group& group, int left, int top, int width, std::vector<Placed>& placed) const;
+    int placeAll(int columns, int width, std::vector<Placed>& placed) const;
 
     QStringList lines_;
+    Group head_{0, 0};
+    std::vector<Group> files_; // the notes of each file
+    Group tail_{0, 0};         // the marked span
     std::vector<Placed> placed_;
     QFont font_;
 };
