@@ -40,6 +40,7 @@ private:
     QtClock clock_;
     QEventLoop* loop_ = nullptr; // while waiting
     std::int64_t lastBreath_ = 0;
+    bool woken_ = false; // the loop was ended by us
     bool cancelled_ = false;
     bool quitting_ = false;
 };

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProcess>
+#include <string>
+
+namespace tally {
+
+// The simulated instrument, run beside this program for as long as it is wanted.
+class SimulatedInstrument {
+public:
+    ~SimulatedInstrument();
+
+    // Whether the program "tallyline-sim" stands beside this one.
+    static bool available();
+
+    // Starts it at simulatedInstrument(), unless one runs there already, and waits until it is ready. `type`
+    // is an instrument type code 1 to 10. False when it does not come up.
+    bool start(int type);
+
+private:
+    QProcess process_;
+    int type_ = 0;
+};
+
+} // namespace tally
