@@ -14,7 +14,7 @@ void Session::openPort() {
     line.CommPort(instrument.gCommPort);
     line.Settings(instrument.portSettings);
     line.InputLen(1);
-    line.EOFEnable(true);
+    line.EOFEnable(stopsAtCtrlZ);
     line.PortOpen(true);
 }
 

@@ -35,6 +35,8 @@ public:
     InstrumentState& instrument;
     JournalSink& journal;
     int& gErrorCallPoint; // where risky serial steps stand, for error reports
+    // Input ends at ctrl/Z. An exchange of several texts, each with its own, turns this off.
+    bool stopsAtCtrlZ = true;
 
     // Opens the selected port with the settings in force. Throws what Line::PortOpen throws.
     void openPort();
