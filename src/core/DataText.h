@@ -39,7 +39,7 @@ struct DataHeader {
 // How many bytes of a file are read at most; many times what the readings of one file take.
 inline constexpr std::size_t mostDataBytes = std::size_t{16} << 20;
 
-// Finds the header: skips to the first "H", "P" or "K". Does not look at the time.
+// Finds the header: skips to the first "H", "P" or "K". Whether its time is a date is left to readDataText.
 std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes);
 
 // Reads a whole data text (bytes as they stand in the file). `cutShort` says that the file goes on beyond

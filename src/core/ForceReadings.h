@@ -5,8 +5,6 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
-#include <vector>
 
 namespace tally {
 
@@ -27,8 +25,5 @@ ForceResult forceReadings(Recordings& recordings, std::string_view text, ForceWh
 
 // Takes back the last forcing of a slot; gives how many readings that were, 0 when there is none.
 int undoForcing(Recordings& recordings, int slot);
-
-// The stretches of a slot that are forced now, first and last reading index of each, in order.
-std::vector<std::pair<int, int>> forcedRuns(const Recordings& recordings, int slot);
 
 } // namespace tally

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/DataItems.h"
+
+#include "core/DataNumber.h"
+#include "core/DataRows.h"
+#include "core/Recordings.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+
+namespace tally {
+
+namespace {
+
+constexpr std::size_t mostItems = 43050;
+constexpr std::size_t placesHigh = 4;
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Goes through the text once. The file lists the newest reading first: readings are stored downwards from the
+// end of a work list, so that they stand oldest first without being turned round.
+class ItemReader {
+public:
+    ItemReader(std::string_view text, bool low)
+        : text_(withoutClosingQuote(text)), low_(low), work_(mostItems), next_(mostItems) {}
+
+    DataItems read() {
+        bool lineStart = true;
+        while (!items_.outOfRange && next_ > 0) {
+            if (lineStart)
+                readRows();
+            lineStart = skipSeparators();
+            if (at_ == text_.size())
+                break;
+            if (text_[at_] == terminator) {
+                items_.ended = true;
+                noteMiddle();
+                break;
+            }
+            readToken();
+        }
+        items_.ended = items_.ended || next_ == 0;
+        keepNewest();
+        return std::move(items_);
+    }
+
+private:
+    // The writer's quote after the terminator is no item where the terminator is missing.
+    static std::string_view withoutClosingQuote(std::string_view text) {
+        auto end = text.size();
+        while (end > 0 && isDataSeparator(text[end - 1]))
+            --end;
+        return end > 0 && text[end - 1] == '"' ? text.substr(0, end - 1) : text;
+    }
+
+    void readRows() {
+        const std::size_t length = low_ ? DataRow::lowLength : DataRow::highLength;
+        while (text_.size() - at_ >= DataRow::reach + 2 && next_ >= DataRow::fields) {
+            const char* row = text_.data() + at_;
+            std::int16_t* last = work_.data() + next_ - 1;
+            // A row that goes on is something else: its last token is not complete.
+            if (!isDataSeparator(row[length]) && row[length] != terminator)
+                return;
+            if (!(low_ ? DataRow::readLow(row, last) : DataRow::readHigh(row, last)))
+                return;
+            next_ -= DataRow::fields;
+            at_ += length;
+            if (row[length] != '\n' || row[length + 1] != '\r')
+                return;
+            at_ += 2;
+        }
+    }
+
+    // True when a line ended.
+    bool skipSeparators() {
+        bool lineEnd = false;
+        for (; at_ < text_.size() && isDataSeparator(text_[at_]); ++at_)
+            lineEnd = text_[at_] == '\n' || text_[at_] == '\r';
+        return lineEnd;
+    }
+
+    // One run of characters between separators: an item, or several that touch.
+    void readToken() {
+        const std::size_t begin = at_;
+        std::size_t digits = 0;
+        std::size_t points = 0;
+        for (; at_ < text_.size() && !isDataSeparator(text_[at_]) && text_[at_] != terminator; ++at_) {
+            digits += isDigit(text_[at_]) ? 1 : 0;
+            points += text_[at_] == '.' ? 1 : 0;
+        }
+        const std::string_view token = text_.substr(begin, at_ - begin);
+        if (low_ && points > 1)
+            cutAfterPoints(token);
+        else if (!low_ && digits == token.size() && digits > placesHigh)
+            cutIntoFours(token);
+        else
+            store(token);
+    }
+
+    void cutIntoFours(std::string_view token) {
+        std::size_t length = token.size() % placesHigh;
+        for (length = length == 0 ? placesHigh : length; !token.empty() && !full(); length = placesHigh) {
+            store(token.substr(0, length));
+            token.remove_prefix(length);
+        }
+    }
+
+    // The character after each point is its number's last one, damaged or not. What follows the last point is
+    // an item of its own when it holds a digit.
+    void cutAfterPoints(std::string_view token) {
+        while (!token.empty() && !full()) {
+            const auto point = token.find('.');
+            auto length = token.size();
+            if (point != std::string_view::npos && point + 2 < token.size()) {
+                const auto rest = token.substr(point + 2);
+                if (std::any_of(rest.begin(), rest.end(), isDigit))
+                    length = point + 2;
+            }
+            store(token.substr(0, length));
+            token.remove_prefix(length);
+        }
+    }
+
+    bool full() const { return next_ == 0 || items_.outOfRange; }
+
+    void store(std::string_view item) {
+        const DataNumber number = readDataNumber(item);
+        items_.outOfRange = items_.outOfRange || !number.fits;
+        items_.unreadable += number.whole ? 0 : 1;
+        work_[--next_] = number.tenths;
+    }
+
+    // Readings after the terminator are not read, and the user is told.
+    void noteMiddle() {
+        const auto rest = text_.substr(at_ + 1);
+        if (std::any_of(rest.begin(), rest.end(), isDigit))
+            ++items_.unreadable;
+    }
+
+    void keepNewest() {
+        const std::size_t count =
+            std::min(mostItems - next_, static_cast<std::size_t>(Recordings::mostReadings));
+        items_.readings.assign(work_.end() - static_cast<std::ptrdiff_t>(count), work_.end());
+    }
+
+    std::string_view text_;
+    bool low_;
+    std::vector<std::int16_t> work_;
+    std::size_t next_; // where in the work list the last item was stored
+    std::size_t at_ = 0;
+    DataItems items_;
+};
+
+} // namespace
+
+bool isDataSeparator(char c) {
+    return c == ' ' || c == ',' || (c >= '\t' && c <= '\r');
+}
+
+DataItems readDataItems(std::string_view text, bool low) {
+    return ItemReader(text, low).read();
+}
+
+} // namespace tally

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+namespace tally {
+
+// The items of a data text as readings in tenths.
+struct DataItems {
+    std::vector<std::int16_t> readings; // the newest 42,966 at most, oldest first
+    int unreadable = 0;                 // items that were no numbers, and a terminator in the middle
+    bool outOfRange = false; // a value did not fit 16-bit tenths; the readings are then not all there
+    bool ended = false;      // by the terminator or by 43,050 items, not by the end of the text
+};
+
+// Reads what stands after header and "T:". `low`: the readings carry one decimal, so that numbers which touch
+// are told apart by their points, else by their four places.
+DataItems readDataItems(std::string_view text, bool low);
+
+// White space or comma.
+bool isDataSeparator(char c);
+
+inline constexpr char terminator = '\x1a';
+
+} // namespace tally

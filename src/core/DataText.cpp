@@ -1,0 +1,162 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/DataText.h"
+
+#include "core/DataItems.h"
+#include "core/ModeTable.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace tally {
+
+namespace {
+
+// Columns of the header, counted from 0.
+constexpr std::size_t typeColumn = 2;
+constexpr std::size_t modeColumn = 3;
+constexpr std::size_t serialColumn = 7;
+constexpr std::size_t serialLength = 4;
+constexpr std::size_t timeColumn = 30;
+constexpr std::size_t timeLength = 14;
+constexpr std::size_t batteryColumn = 44;
+constexpr std::size_t olderTimeColumn = 46;
+constexpr std::string_view batteryText = "   Vbatt";
+constexpr std::size_t longestWithoutBattery = 51;
+
+// In the older layout the time stands further right; it is moved to where it stands now. False when the
+// header ends before it does.
+bool repairOlderLayout(std::string& header) {
+    if (header.size() <= longestWithoutBattery ||
+        std::string_view(header).substr(batteryColumn, batteryText.size()) == batteryText)
+        return true;
+    if (header.size() < olderTimeColumn + timeLength)
+        return false;
+    header.replace(timeColumn, timeLength, header.substr(olderTimeColumn, timeLength));
+    return true;
+}
+
+bool isLineBreak(char c) {
+    return c == '\r' || c == '\n';
+}
+
+// The first line that holds anything to read.
+std::string_view firstLine(std::string_view text) {
+    const auto begin = std::find_if_not(text.begin(), text.end(), isDataSeparator);
+    const auto end =
+        std::find_if(begin, text.end(), [](char c) { return isLineBreak(c) || c == terminator; });
+    return text.substr(static_cast<std::size_t>(begin - text.begin()), static_cast<std::size_t>(end - begin));
+}
+
+// "T:" is thrown away; where it is damaged, the item in its place.
+std::string_view withoutFormItem(std::string_view text) {
+    if (text.substr(0, 2) == "T:")
+        return text.substr(2);
+    const auto end =
+        std::find_if(text.begin(), text.end(), [](char c) { return isDataSeparator(c) || c == terminator; });
+    return text.substr(static_cast<std::size_t>(end - text.begin()));
+}
+
+// Smallest, largest, middle in the file, newest first: oldest first that is middle, largest, smallest.
+// Triples are counted from the newest end; what is over at the oldest end stays as it is.
+void orderTriples(std::vector<std::int16_t>& readings) {
+    for (std::size_t end = readings.size(); end >= 3; end -= 3) {
+        std::int16_t* triple = readings.data() + end - 3;
+        const auto [least, most] = std::minmax({triple[0], triple[1], triple[2]});
+        const int middle = triple[0] + triple[1] + triple[2] - least - most;
+        triple[0] = static_cast<std::int16_t>(middle);
+        triple[1] = most;
+        triple[2] = least;
+    }
+}
+
+// The time of reading 0. The header time is that of the newest reading, or lies in the interval after it.
+ReadingTime startTime(FileFacts facts) {
+    facts.start = facts.headerTime;
+    if (facts.form == 'T')
+        return timeOf(facts, -facts.count);
+    const int interval = modeRow(facts.modeLetter).minutes;
+    const int minute = toCivil(facts.headerTime).minute;
+    if (minute % interval != 0)
+        facts.start = facts.headerTime + (interval * (minute / interval + 1) - minute);
+    return timeOf(facts, -(static_cast<std::int64_t>(facts.count) + 1));
+}
+
+Recording makeRecording(const DataHeader& header, ReadingTime time, char form, bool low, DataItems items) {
+    Recording recording;
+    FileFacts& facts = recording.facts;
+    facts.modeLetter = header.modeLetter;
+    facts.typeLetter = header.typeLetter;
+    facts.serial = header.text.substr(serialColumn, serialLength);
+    facts.header = header.text;
+    facts.headerTime = time;
+    facts.form = form;
+    facts.low = low;
+    facts.unreadable = items.unreadable;
+    facts.count = static_cast<int>(items.readings.size());
+    if (isMinMaxAvg(facts.modeLetter) && form != 'T')
+        orderTriples(items.readings);
+    facts.largest = *std::max_element(items.readings.begin(), items.readings.end());
+    facts.smallest = *std::min_element(items.readings.begin(), items.readings.end());
+    facts.start = startTime(facts);
+    recording.readings = std::move(items.readings);
+    return recording;
+}
+
+} // namespace
+
+std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes) {
+    const auto begin = bytes.find_first_of("HPK");
+    if (begin == std::string_view::npos)
+        return DataRefusal::noHeader;
+    const auto end = bytes.find_first_of("\r\n\x1a", begin);
+    // A header is one line that ends with CR; anything else was cut or damaged.
+    if (end == std::string_view::npos || bytes[end] != '\r')
+        return DataRefusal::noHeader;
+    DataHeader header;
+    header.text = bytes.substr(begin, end - begin);
+    header.end = end + 1;
+    if (header.end < bytes.size() && bytes[header.end] == '\n')
+        ++header.end;
+    if (header.text.size() <= modeColumn)
+        return DataRefusal::badMode;
+    header.typeLetter = header.text[typeColumn];
+    const char mode = header.text[modeColumn];
+    header.modeLetter = mode == ' ' ? 'a' : lowerCase(mode);
+    if (!isMode(header.modeLetter))
+        return DataRefusal::badMode;
+    if (!repairOlderLayout(header.text))
+        return DataRefusal::badTime;
+    return header;
+}
+
+std::variant<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort) {
+    const auto found = findDataHeader(bytes);
+    if (const auto* refusal = std::get_if<DataRefusal>(&found))
+        return *refusal;
+    const auto& header = std::get<DataHeader>(found);
+    if (header.text.size() < timeColumn + timeLength)
+        return DataRefusal::badTime;
+    const auto time = parseHeaderTime(std::string_view(header.text).substr(timeColumn, timeLength));
+    if (!time)
+        return DataRefusal::badTime;
+
+    std::string_view text = bytes.substr(header.end);
+    text.remove_prefix(std::min(text.find_first_not_of("\r\n"), text.size()));
+    if (text.empty())
+        return DataRefusal::noReadings;
+    const char form = text.front();
+    if (form == 'T')
+        text = withoutFormItem(text);
+    const bool low = firstLine(text).find('.') != std::string_view::npos;
+    DataItems items = readDataItems(text, low);
+    if (items.outOfRange)
+        return DataRefusal::outOfRange;
+    if (cutShort && !items.ended)
+        return DataRefusal::tooLong;
+    if (items.readings.empty())
+        return DataRefusal::noReadings;
+    return makeRecording(header, *time, form, low, std::move(items));
+}
+
+} // namespace tally
