@@ -1,45 +1,48 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/Services.h"
+#include "cli/Context.h"
 
 #include <CLI/CLI.hpp>
 
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
-namespace tally {
+namespace tally::cli {
 
-// A command was refused or failed: its text goes to standard error, exit status 1.
-class Refusal : public std::runtime_error {
+// What a command does once its arguments are read: gives the exit status. Its output goes through the
+// context.
+using Action = std::function<int(Context&)>;
+
+namespace status {
+constexpr int done = 0;
+constexpr int refused = 1; // the fixed text is on standard error, nothing is half-written
+constexpr int usage = 2;
+} // namespace status
+
+// Refused or failed: the text of the message box, for standard error; exit status 1.
+class Refused : public std::runtime_error {
+public:
     using std::runtime_error::runtime_error;
 };
 
-// The program was called wrongly: text and usage line go to standard error, exit status 2.
+// Arguments that make no sense (a range outside the file, an unknown type); exit status 2.
 class WrongUsage : public std::runtime_error {
+public:
     using std::runtime_error::runtime_error;
 };
 
-// Adds a command to the program. What `run` returns is the exit status; it may throw Refusal, WrongUsage,
-// Fault. Every command gets the option --at.
-CLI::App* addCommand(CLI::App& program, Services& services, const std::string& name,
-                     const std::string& description, std::function<int()> run);
+// Adds one command, with its options and what it does, to the program.
+//   CLI::App& command = addCommand(program, context, "name", "what it does", action);
+// The options write into variables that the action shares (a std::shared_ptr).
+using AddCommand = void (*)(CLI::App& program, Context& context);
 
-// Writes the result to standard output, bytes as they stand. Throws Refusal when it cannot be written.
-void out(std::string_view bytes);
-// Progress and warnings, a line on standard error.
-void warn(std::string_view line);
+CLI::App& addCommand(CLI::App& program, Context& context, const std::string& name,
+                     const std::string& description, Action action);
 
-// One function a command; each stands in the file of its name.
-void addInfo(CLI::App& program, Services& services);
-void addReadings(CLI::App& program, Services& services);
-void addSave(CLI::App& program, Services& services);
-void addTable(CLI::App& program, Services& services);
-void addSummary(CLI::App& program, Services& services);
-void addPower(CLI::App& program, Services& services);
-void addPlot(CLI::App& program, Services& services);
-void addNotes(CLI::App& program, Services& services);
-void addForce(CLI::App& program, Services& services);
+// Every command of the program, in the order of its help page. One line each in Commands.cpp.
+const std::vector<AddCommand>& allCommands();
 
-} // namespace tally
+} // namespace tally::cli

@@ -18,7 +18,7 @@ constexpr std::array<const char*, 4> labels = {"Location", "Circuit", "Name", "O
 constexpr std::array<const char*, 4> names = {"--location", "--circuit", "--name", "--other"};
 
 int run(Services& services, const Options& options) {
-    const OpenFiles open = openFiles(services, {*options.file});
+    OpenFiles open = openFiles(services, {*options.file});
     auto notes = open.recordings.gNotes[0];
     bool set = false;
     for (std::size_t i = 0; i < notes.size(); ++i) {
@@ -28,7 +28,7 @@ int run(Services& services, const Options& options) {
         set = true;
     }
     if (set) {
-        writeNotes(services.files(), *options.file, notes);
+        saveNotes(open.recordings, services.files(), 0, notes);
         return 0;
     }
     std::string text;

@@ -54,7 +54,7 @@ OpenFiles openFiles(Services& services, const std::vector<std::string>& paths) {
     for (const std::string& path : paths) {
         const OpenOutcome outcome = Fileopen(open.recordings, services.files(), path);
         if (outcome != OpenOutcome::opened)
-            throw Refusal(openMessage(outcome) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
+            throw Refusal(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
         warnOfUnreadable(open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;

@@ -4,72 +4,58 @@
 #include "cli/Command.h"
 #include "core/Fault.h"
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
-constexpr int refused = 1;
-constexpr int wrongUsage = 2;
-
-void addCommands(CLI::App& program, Services& services) {
-    addInfo(program, services);
-    addReadings(program, services);
-    addSave(program, services);
-    addTable(program, services);
-    addSummary(program, services);
-    addPower(program, services);
-    addPlot(program, services);
-    addNotes(program, services);
-    addForce(program, services);
+// Help and version are done on standard output; anything else wrong with the arguments is a usage error.
+int parseFailure(const CLI::App& program, Context& context, const CLI::ParseError& error) {
+    if (error.get_exit_code() == 0)
+        return program.exit(error);
+    const auto chosen = program.get_subcommands();
+    const CLI::App* command = chosen.empty() ? &program : chosen.front();
+    context.warn(error.what());
+    context.warn("Usage: tallyline-cli " + (chosen.empty() ? std::string("COMMAND [ARG...]")
+                                                           : command->get_name() + " [ARG...]") +
+                 " [--option VALUE]; see tallyline-cli --help");
+    return status::usage;
 }
 
-// The usage line of the command that was named, else of the program.
-std::string usageLine(const CLI::App& program) {
-    const auto named = program.get_subcommands();
-    const CLI::App& app = named.empty() ? program : *named.front();
-    const std::string name = named.empty() ? "" : " " + app.get_name();
-    std::string line = "Usage: tallyline-cli" + (named.empty() ? " COMMAND [ARG...] [OPTION...]" : name);
-    if (!named.empty()) {
-        for (const CLI::Option* option : app.get_options())
-            if (option->get_positional())
-                line += " " + option->get_name(true, false);
-        line += " [OPTION...]";
+int runAction(Context& context, const CLI::App& program) {
+    try {
+        const int result = context.action(context);
+        if (context.flush())
+            return result;
+        context.warn("Standard output cannot be written");
+    } catch (const WrongUsage& wrong) {
+        context.warn(wrong.what());
+        context.warn("Usage: tallyline-cli " + program.get_subcommands().front()->get_name() +
+                     " [ARG...] [--option VALUE]; see tallyline-cli --help");
+        return status::usage;
+    } catch (const Refused& refused) {
+        context.warn(refused.what());
+    } catch (const Fault& fault) {
+        context.warn(faultReport(fault));
     }
-    return line + "\n'tallyline-cli" + name + " --help' tells more.";
-}
-
-int usageError(const CLI::App& program, const std::string& text) {
-    warn(text);
-    warn(usageLine(program));
-    return wrongUsage;
+    return status::refused;
 }
 
 } // namespace
 
 int runProgram(int argc, char** argv) {
-    CLI::App program("Tallyline on the command line: recordings and instruments without the window",
+    Context context(argc, argv);
+    CLI::App program("Recordings of portable load recorders, and the instruments, without a window",
                      "tallyline-cli");
-    program.set_version_flag("--version", "tallyline-cli " TALLY_VERSION);
+    program.set_version_flag("--version", std::string("tallyline-cli ") + TALLY_VERSION);
     program.require_subcommand(1);
-    Services services;
-    addCommands(program, services);
+    for (const AddCommand add : allCommands())
+        add(program, context);
     try {
         program.parse(argc, argv);
-        return 0;
-    } catch (const CLI::RuntimeError& status) {
-        return status.get_exit_code();
-    } catch (const CLI::Success& help) {
-        return program.exit(help);
     } catch (const CLI::ParseError& error) {
-        return usageError(program, error.what());
-    } catch (const WrongUsage& error) {
-        return usageError(program, error.what());
-    } catch (const Refusal& refusal) {
-        warn(refusal.what());
-    } catch (const Fault& fault) {
-        warn(fault.what());
+        return parseFailure(program, context, error);
     }
-    return refused;
+    return runAction(context, program);
 }
 
-} // namespace tally
+} // namespace tally::cli

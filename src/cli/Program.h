@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace tally {
+namespace tally::cli {
 
-// tallyline-cli: runs the command that the arguments name and gives the exit status (0 done, 1 refused or
-// failed, 2 wrong usage).
+// The whole program: reads the arguments, runs the command, gives the exit status.
 int runProgram(int argc, char** argv);
 
-} // namespace tally
+} // namespace tally::cli

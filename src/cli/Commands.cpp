@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Commands.h"
+
+namespace tally::cli {
+
+const std::vector<AddCommand>& allCommands() {
+    static const std::vector<AddCommand> all = {
+        addInfo,
+    };
+    return all;
+}
+
+} // namespace tally::cli

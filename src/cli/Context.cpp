@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Context.h"
+
+#include "platform/Folders.h"
+#include "platform/QtClock.h"
+#include "platform/SafeFile.h"
+#include "platform/UserSettings.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace tally::cli {
+
+// Stands still at the time of --at; waiting goes on by the machine's clock.
+class Context::FixedClock : public QtClock {
+public:
+    explicit FixedClock(ReadingTime time) : time_(time) {}
+    ReadingTime localTime() const override { return time_; }
+
+private:
+    ReadingTime time_;
+};
+
+Context::Context(int& argc, char** argv) : argc_(argc), argv_(argv), files_(std::make_unique<SafeFile>()) {
+}
+
+Context::~Context() = default;
+
+Clock& Context::clock() {
+    if (!clock_)
+        clock_ = std::make_unique<QtClock>();
+    return *clock_;
+}
+
+bool Context::setTime(const std::string& at) {
+    const auto time = parseHeaderTime(at);
+    if (time)
+        clock_ = std::make_unique<FixedClock>(*time);
+    return time.has_value();
+}
+
+Settings& Context::settings() {
+    if (!settings_) {
+        auto settings = std::make_unique<UserSettings>(files(), folders::settingsFile());
+        settings->onProblem([this](const std::string& text) { warn(text); });
+        settings_ = std::move(settings);
+    }
+    return *settings_;
+}
+
+void Context::warn(std::string_view text) {
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r')
+            lines += text[i];
+        else if (i + 1 == text.size() || text[i + 1] != '\n')
+            lines += '\n';
+    }
+    if (lines.empty() || lines.back() != '\n')
+        lines += '\n';
+    std::fwrite(lines.data(), 1, lines.size(), stderr);
+}
+
+void Context::needEventLoop() {
+    if (!application_)
+        application_ = std::make_unique<QCoreApplication>(argc_, argv_);
+}
+
+void Context::needPainting() {
+    if (application_)
+        return;
+    // No command needs a display, and none may open one.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(argc_, argv_);
+}
+
+bool Context::flush() {
+    const bool written = std::fwrite(output_.data(), 1, output_.size(), stdout) == output_.size();
+    output_.clear();
+    return std::fflush(stdout) == 0 && written;
+}
+
+} // namespace tally::cli
