@@ -30,10 +30,10 @@ protected:
     QPlainTextEdit* editor() const { return chart.findChild<QPlainTextEdit*>(QStringLiteral("noteEditor")); }
 
     void doubleClick(QPointF place) {
-        sendMouse(chart, QEvent::MouseButtonPress, place);
-        sendMouse(chart, QEvent::MouseButtonRelease, place);
-        sendMouse(chart, QEvent::MouseButtonDblClick, place);
-        sendMouse(chart, QEvent::MouseButtonRelease, place);
+        testing::sendMouse(chart, QEvent::MouseButtonPress, place);
+        testing::sendMouse(chart, QEvent::MouseButtonRelease, place);
+        testing::sendMouse(chart, QEvent::MouseButtonDblClick, place);
+        testing::sendMouse(chart, QEvent::MouseButtonRelease, place);
     }
 
     Chart chart;
@@ -104,8 +104,8 @@ TEST_F(ChartNotesTest, DelRemovesTheSelectedNoteOnly) {
     chart.setNotes({{0.1, 0.1, "one"}, {0.6, 0.6, "two"}});
     QTest::keyClick(&chart, Qt::Key_Delete);
     EXPECT_EQ(chart.notes().size(), 2U); // none is selected
-    sendMouse(chart, QEvent::MouseButtonPress, onNote(0));
-    sendMouse(chart, QEvent::MouseButtonRelease, onNote(0));
+    testing::sendMouse(chart, QEvent::MouseButtonPress, onNote(0));
+    testing::sendMouse(chart, QEvent::MouseButtonRelease, onNote(0));
     QTest::keyClick(&chart, Qt::Key_Delete);
     ASSERT_EQ(chart.notes().size(), 1U);
     EXPECT_EQ(chart.notes()[0].text, "two");

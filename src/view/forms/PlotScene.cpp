@@ -43,6 +43,10 @@ PlotScene::PlotScene() : plotter_(std::make_unique<QCustomPlot>()), look_(ChartL
         axis->setTicks(false);
         axis->setTickLabels(false);
     }
+    for (QCPAxis* axis : {plotter_->xAxis, plotter_->yAxis}) { // ticks outside hide no readings
+        axis->setTickLength(0, 5);
+        axis->setSubTickLength(0, 3);
+    }
     plotter_->xAxis->setSubTicks(false);
     plotter_->yAxis->setNumberFormat(QStringLiteral("g"));
     plotter_->yAxis->setNumberPrecision(9);

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/forms/Paper.h"
+
+#include "ChartSupport.h"
+#include "support/MemoryFiles.h"
+#include "support/QueuedPrompt.h"
+
+#include <QAbstractButton>
+#include <QDialog>
+#include <QLineEdit>
+#include <QPrintPreviewWidget>
+#include <QPrinter>
+#include <QTimer>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+
+const TextReport report{"FEEDER.DAT", "Time", "12:00  000.1\r\n", "Miller", "Nov-21-26"};
+
+class PaperPrint : public ::testing::Test {
+protected:
+    PaperPrint() : printer(QPrinter::HighResolution) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(QStringLiteral("out.pdf"));
+    }
+
+    QPrinter printer;
+    testing::MemoryFiles files;
+    std::string why;
+};
+
+TEST_F(PaperPrint, ATextGoesIntoThePdfFileOfThePrinter) {
+    EXPECT_TRUE(printText(report, printer, files, &why)) << why;
+    EXPECT_THAT(files.contents["out.pdf"], StartsWith("%PDF"));
+    EXPECT_THAT(files.contents["out.pdf"], HasSubstr("%%EOF"));
+}
+
+TEST_F(PaperPrint, AChartTakesOnePage) {
+    printer.setPageOrientation(QPageLayout::Landscape);
+    EXPECT_TRUE(printChart(testing::samplePlot(42966, 3), {{0.1, 0.1, "Storm"}}, printer, files, &why))
+        << why;
+    EXPECT_THAT(files.contents["out.pdf"], HasSubstr("/Count 1"));
+}
+
+TEST_F(PaperPrint, AFullDiskIsToldAndTheOldFileStays) {
+    files.contents["out.pdf"] = "old";
+    files.failWrite = fault::diskFull();
+    EXPECT_FALSE(printText(report, printer, files, &why));
+    EXPECT_EQ(why, "Disk full: out.pdf");
+    why.clear();
+    EXPECT_FALSE(printChart(testing::samplePlot(10), {}, printer, files, &why));
+    EXPECT_EQ(why, "Disk full: out.pdf");
+    EXPECT_EQ(files.contents["out.pdf"], "old");
+}
+
+TEST_F(PaperPrint, APrinterThatHasGoneIsNamed) {
+    EXPECT_EQ(printerProblem("Hall printer"), "The printer \"Hall printer\" has gone");
+    EXPECT_EQ(printerProblem(""), "There is no printer");
+}
+
+TEST_F(PaperPrint, WithoutPrinterAndFileNothingIsPrinted) {
+    printer.setOutputFileName({});
+    EXPECT_FALSE(printText(report, printer, files, &why));
+    EXPECT_EQ(why, "There is no printer");
+    EXPECT_TRUE(files.contents.empty());
+}
+
+TEST_F(PaperPrint, OnlyTheChosenPagesArePrinted) {
+    TextReport longReport = report;
+    for (int line = 0; line < 400; ++line)
+        longReport.text += "line\r\n";
+    printer.setPrintRange(QPrinter::PageRange);
+    printer.setFromTo(2, 3);
+    EXPECT_TRUE(printText(longReport, printer, files, &why)) << why;
+    EXPECT_THAT(files.contents["out.pdf"], HasSubstr("/Count 2"));
+}
+
+// Acts on the dialog of this name as soon as it is open.
+template <typename Act>
+void whenOpen(const QString& name, const Act& act) {
+    QTimer::singleShot(0, [name, act] {
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (widget->objectName() == name && widget->isVisible())
+                return act(*qobject_cast<QDialog*>(widget));
+        whenOpen(name, act);
+    });
+}
+
+TEST_F(PaperPrint, ACancelledDialogPrintsAndTellsNothing) {
+    testing::QueuedPrompt prompt;
+    Paper paper(prompt, files, nullptr);
+    whenOpen(QStringLiteral("printDialog"), [](QDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(paper.printWithDialog(report));
+    whenOpen(QStringLiteral("printDialog"), [](QDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(paper.printWithDialog(testing::samplePlot(10), {}));
+    EXPECT_TRUE(files.contents.empty());
+}
+
+TEST_F(PaperPrint, ThePreviewShowsAllPages) {
+    testing::QueuedPrompt prompt;
+    Paper paper(prompt, files, nullptr);
+    TextReport longReport = report;
+    for (int line = 0; line < 200; ++line)
+        longReport.text += "line\r\n";
+    int pages = 0;
+    whenOpen(QStringLiteral("previewDialog"), [&](QDialog& dialog) {
+        auto* shown = dialog.findChild<QPrintPreviewWidget*>();
+        shown->updatePreview();
+        pages = shown->pageCount();
+        dialog.reject();
+    });
+    EXPECT_FALSE(paper.preview(longReport));
+    EXPECT_GE(pages, 3);
+    whenOpen(QStringLiteral("previewDialog"), [&](QDialog& dialog) {
+        auto* shown = dialog.findChild<QPrintPreviewWidget*>();
+        shown->updatePreview();
+        pages = shown->pageCount();
+        dialog.reject();
+    });
+    EXPECT_FALSE(paper.preview(testing::samplePlot(3000, 3), {}));
+    EXPECT_EQ(pages, 1);
+}
+
+} // namespace
+} // namespace tally
