@@ -14,6 +14,7 @@
 #include "core/ForceReadings.h"
 #include "core/NotesFile.h"
 #include "core/Numbers.h"
+#include "view/PlotSeries.h"
 #include "view/ShownRange.h"
 #include "view/forms/Chart.h"
 
@@ -30,9 +31,14 @@ bool isSlot(int ginx) {
     return ginx >= 0 && ginx < Recordings::slotCount;
 }
 
+// The forced stretches of a whole file, first and last reading of each.
+std::vector<std::pair<int, int>> forcedIn(const Recordings& recordings, int slot) {
+    return forcedRuns(recordings, slot, {0, recordings.info(slot).count - 1}, 1, 0);
+}
+
 int forcedCount(const Recordings& recordings, int slot) {
     int count = 0;
-    for (const auto& [first, last] : forcedRuns(recordings, slot))
+    for (const auto& [first, last] : forcedIn(recordings, slot))
         count += last - first + 1;
     return count;
 }
@@ -120,7 +126,7 @@ void TLY_Edit::showForced() {
 void TLY_Edit::saved(int slot, int first, int last) {
     if (!isSlot(slot))
         return;
-    for (const auto& [from, to] : forcedRuns(window_.services().recordings, slot))
+    for (const auto& [from, to] : forcedIn(window_.services().recordings, slot))
         if (from < first || to > last)
             return;
     unsaved_[std::size_t(slot)] = false;

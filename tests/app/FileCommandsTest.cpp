@@ -1,0 +1,227 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WindowTest.h"
+
+#include "app/TLY_File.h"
+
+#include <QMimeData>
+#include <QTest>
+
+namespace tally {
+namespace {
+
+using testing::dataFile;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+using testing::WindowTest;
+
+const std::vector<int> fewReadings = {100, 200, 300, 400};
+
+std::vector<std::string> mruShown(const TLY& window) {
+    std::vector<std::string> shown;
+    for (const QAction* action : window.findChildren<QAction*>(QStringLiteral("mnuMRU")))
+        if (action->isVisible())
+            shown.push_back(action->text().toStdString());
+    return shown;
+}
+
+TEST_F(WindowTest, OpenDialogStartsInTheDefaultDirectoryWithItsFilter) {
+    settings.set("Directory", "default", "/");
+    prompt.files.push_back(std::nullopt);
+    click("mnuItemOpen");
+    EXPECT_EQ(prompt.filesAsked.back().filter, "data files (*.dat)|*.dat|All files (*.*)|*.*");
+    EXPECT_EQ(prompt.filesAsked.back().folder, "/");
+    EXPECT_FALSE(recordings.isOpen(0));
+}
+
+TEST_F(WindowTest, DefaultDirectoryThatIsGoneIsSaidQuietlyAndTheCurrentOneUsed) {
+    settings.set("Directory", "default", "/no/such/folder");
+    prompt.files.push_back(std::nullopt);
+    click("mnuItemOpen");
+    EXPECT_EQ(prompt.filesAsked.back().folder, "");
+    EXPECT_THAT(window.notices().text(QStringLiteral("folder")).toStdString(), HasSubstr("/no/such/folder"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(WindowTest, MissingFileIsSaidAndNothingChanges) {
+    prompt.files.push_back("/d/gone.dat");
+    click("mnuItemOpen");
+    EXPECT_THAT(prompt.texts(), ElementsAre("File not found"));
+    EXPECT_EQ(settings.get("Settings", "mrufile1"), "");
+    EXPECT_FALSE(enabled("mnuView"));
+}
+
+TEST_F(WindowTest, RefusedFileChangesNeitherListNorMenusNorView) {
+    open("/d/a.dat", dataFile('a', fewReadings));
+    open("/d/f.dat", dataFile('f', fewReadings));
+    open("/d/x.dat", "no recording at all");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Mode mixing not allowed", "Error in processing file"));
+    EXPECT_EQ(recordings.openCount(), 1);
+    EXPECT_THAT(mruShown(window), ElementsAre("/d/a.dat"));
+    EXPECT_EQ(window.screen().displaying(), "summary of a.dat");
+}
+
+TEST_F(WindowTest, RecentListPutsTheNewestFirstAndKeepsAPathTwice) {
+    for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/1.dat"}) {
+        open(path, dataFile('a', fewReadings));
+        click("mnuItemClose");
+    }
+    EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat", "/d/2.dat", "/d/1.dat"));
+    EXPECT_EQ(settings.get("Settings", "mrufile1"), "/d/1.dat");
+    EXPECT_EQ(settings.get("Settings", "mrufile3"), "/d/1.dat");
+    EXPECT_EQ(settings.get("Settings", "mrufile4"), "");
+}
+
+TEST_F(WindowTest, RecentEntryOpensItsFile) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    click("mnuItemClose");
+    window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->trigger();
+    EXPECT_EQ(recordings.info(0).path, "/d/1.dat");
+}
+
+TEST_F(WindowTest, RecentEntryThatIsGoneIsSaidAndStays) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    click("mnuItemClose");
+    files.contents.clear();
+    window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->trigger();
+    EXPECT_THAT(prompt.texts(), ElementsAre("File not found or disk error"));
+    EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
+}
+
+TEST_F(WindowTest, PathWithAnAmpersandIsShownAsItIs) {
+    open("/d/R&D.dat", dataFile('a', fewReadings));
+    EXPECT_EQ(window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->text(),
+              QStringLiteral("/d/R&&D.dat"));
+}
+
+TEST_F(WindowTest, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
+    for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat"})
+        open(path, dataFile('a', fewReadings));
+    EXPECT_FALSE(enabled("mnuItemOpen"));
+    EXPECT_TRUE(mruShown(window).empty());
+    click("mnuItemClose");
+    EXPECT_TRUE(enabled("mnuItemOpen"));
+    EXPECT_EQ(mruShown(window).size(), 3U);
+    EXPECT_EQ(recordings.openCount(), 0);
+}
+
+TEST_F(WindowTest, RecentEntriesOfTheSettingsAreShownAtStartUp) {
+    settings.set("Settings", "mrufile1", "/d/x.dat");
+    settings.set("Settings", "mrufile3", "/d/y.dat");
+    TLY another({recordings, display, settings, files, clock, prompt, chooser});
+    EXPECT_THAT(mruShown(another), ElementsAre("/d/x.dat", "/d/y.dat"));
+}
+
+TEST_F(WindowTest, CloseEmptiesTheSlotsAndResetsTheViews) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    click("mnuItemViewPlot");
+    click("mnuItemOnepgPlot");
+    click("mnuItemClose");
+    EXPECT_FALSE(recordings.isOpen(0));
+    EXPECT_FALSE(display.onePage);
+    EXPECT_EQ(display.viewKind, ViewKind::none);
+    EXPECT_TRUE(window.screen().chart().isEmpty());
+    EXPECT_EQ(window.screen().page(), Screen::Page::start);
+    for (const char* name : {"mnuItemClose", "mnuItemSave", "mnuView", "mnuItemOnepgPlot", "mnuZoom"})
+        EXPECT_FALSE(enabled(name)) << name;
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Tallyline"));
+}
+
+TEST_F(WindowTest, SaveWritesTheWholeOfTheChosenFileAndIsThenOff) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    open("/d/2.dat", dataFile('a', {100, 200, 300, 400, 500, 600}));
+    chooser.answers = {1};
+    prompt.files.push_back("/d/out.dat");
+    click("mnuItemSave");
+    EXPECT_EQ(prompt.filesAsked.back().filter, "data files (*.dat) | *.dat");
+    EXPECT_TRUE(prompt.filesAsked.back().save);
+    EXPECT_FALSE(enabled("mnuItemSave"));
+    const std::string& bytes = files.contents["/d/out.dat"];
+    EXPECT_THAT(bytes, StartsWith("\"\r\n\n\nPQXa   1234"));
+    EXPECT_THAT(bytes, HasSubstr("\r  60  50  40  30  20  10\x1a\"\r\n"));
+    EXPECT_EQ(recordings.gdataend, 5);
+}
+
+TEST_F(WindowTest, FailedSaveKeepsTheOldFileAndTheMenu) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    files.contents["/d/out.dat"] = "old";
+    files.failWrite = fault::diskFull();
+    prompt.files.push_back("/d/out.dat");
+    click("mnuItemSave");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 61: Disk full"));
+    EXPECT_EQ(files.contents["/d/out.dat"], "old");
+    EXPECT_TRUE(enabled("mnuItemSave"));
+}
+
+TEST_F(WindowTest, UnreadableItemsAreSaidInTheStatusBarOnly) {
+    std::string bytes = dataFile('a', fewReadings);
+    bytes.replace(bytes.find("  30"), 4, "  x0");
+    open("/d/1.dat", bytes);
+    EXPECT_EQ(recordings.openCount(), 1);
+    EXPECT_THAT(remark().toStdString(), StartsWith("1 item(s)"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(WindowTest, FilesOfTheCommandLineOpenAsTheMenuDoes) {
+    for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat"})
+        files.contents[path] = dataFile('a', fewReadings);
+    window.openFiles({"/d/1.dat", "/d/2.dat", "/d/3.dat"});
+    EXPECT_EQ(recordings.openCount(), 3);
+    EXPECT_EQ(settings.get("Settings", "mrufile1"), "/d/3.dat");
+    EXPECT_FALSE(enabled("mnuItemOpen"));
+}
+
+TEST_F(WindowTest, FourthFileIsNotOpened) {
+    for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat", "/d/4.dat"})
+        files.contents[path] = dataFile('a', fewReadings);
+    window.openFiles({"/d/1.dat", "/d/2.dat", "/d/3.dat", "/d/4.dat"});
+    EXPECT_EQ(recordings.openCount(), 3);
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_FALSE(prompt.shown[0].text.empty());
+    EXPECT_EQ(settings.get("Settings", "mrufile1"), "/d/3.dat");
+}
+
+TEST_F(WindowTest, FilesCanBeDroppedOnTheWindow) {
+    files.contents["/d/1.dat"] = dataFile('a', fewReadings);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(QStringLiteral("/d/1.dat"))});
+    QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &drop);
+    QTest::qWait(0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return recordings.isOpen(0); }, 2000));
+}
+
+TEST_F(WindowTest, ChartFileShowsWhatWasSaved) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    click("mnuItemViewPlot");
+    click("mnuItemadd");
+    prompt.files.push_back("/d/c.chd");
+    window.findChild<QAction*>(QStringLiteral("chartSave"))->trigger();
+    EXPECT_EQ(prompt.filesAsked.back().filter, "chart files (*.chd) | *.chd");
+    const Plot saved = window.screen().chart().plot();
+    click("mnuItemClose");
+    prompt.files.push_back("/d/c.chd");
+    click("mnuItemImport");
+    EXPECT_EQ(prompt.filesAsked.back().filter, "data files (*.chd) | *.chd");
+    const Plot& shown = window.screen().chart().plot();
+    EXPECT_EQ(shown.title, saved.title);
+    EXPECT_EQ(shown.series.at(0).values, saved.series.at(0).values);
+    ASSERT_EQ(window.screen().chart().notes().size(), 1U);
+    EXPECT_EQ(window.screen().chart().notes()[0].text, "Enter note here");
+    // It belongs to no open recording: a span means nothing.
+    mark(1, 2);
+    EXPECT_FALSE(enabled("mnuZoom"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(WindowTest, DamagedChartFileIsSaidAndTheViewStays) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    files.contents["/d/bad.chd"] = "{\"version\": 1, \"series\": [";
+    prompt.files.push_back("/d/bad.chd");
+    click("mnuItemImport");
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_EQ(window.screen().page(), Screen::Page::text);
+}
+
+} // namespace
+} // namespace tally

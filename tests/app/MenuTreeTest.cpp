@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WindowTest.h"
+
+#include "app/MenuStates.h"
+
+#include <QMenu>
+#include <QMenuBar>
+
+namespace tally {
+namespace {
+
+using testing::WindowTest;
+
+// The tree as it must be: depth, control name, caption.
+struct Line {
+    int depth;
+    const char* name;
+    const char* caption;
+};
+constexpr Line tree[] = {
+    {0, "mnuFile", "&File"},
+    {1, "mnuItemOpen", "&Open"},
+    {1, "mnuItemClose", "&Close"},
+    {1, "mnuItemSave", "Save &As..."},
+    {1, "mnuItemPrint", "&Print"},
+    {2, "mnuItemPrintSum", "Data&Summary"},
+    {2, "mnuItemPrintpwrSum", "Power Summary"},
+    {2, "mnuItemPrintTable", "Data&Table"},
+    {2, "mnuItemPrintPwrTable", "Power Table"},
+    {1, "mnuItemImport", "Import"},
+    {1, "mnuItemExportType", "&Export"},
+    {2, "mnuitemexprep", "Metering Data Report"},
+    {2, "MnuItemexpdatacsv", "Data: Table"},
+    {2, "mnuItemexpdata1perLine", "Data: 1 Rdg per Line"},
+    {1, "mnuMRU", ""},
+    {1, "mnuMRU", ""},
+    {1, "mnuMRU", ""},
+    {1, "mnuMRU", ""},
+    {1, "mnuItemExit", "E&xit"},
+    {0, "mnusurvey", "Load Survey"},
+    {1, "mnuitemsurvfil", "Open File"},
+    {0, "mnuEdit", "E&dit"},
+    {1, "mnuItemNotes", "&Notes"},
+    {1, "mnuItemForceRdg", "&Force Zoomed Readings"},
+    {0, "mnuView", "Data &View"},
+    {1, "mnuItemViewPlot", "&Plot"},
+    {1, "mnuItemViewTable", "&Table"},
+    {1, "mnuItemRefresh", "&Refresh Graph"},
+    {1, "mnuItemViewsummary", "&Summary"},
+    {1, "pwrview", "Power View"},
+    {2, "mnuItemViewPower", "Power Plot"},
+    {2, "mnuItemViewPwrTable", "Power Table"},
+    {2, "mnuItemViewpwrsummry", "Power Summary"},
+    {0, "mnuZoom", "&Zoom"},
+    {0, "mnuInstrument", "&Instrument"},
+    {1, "mnuItemDownload", "&DownLoad"},
+    {1, "mnuItemInitialize", "&Initialize"},
+    {1, "mnuItemRecover", "&Recover"},
+    {1, "mnuItemStatusCheck", "&Status Check"},
+    {0, "mnuOptions", "&Options"},
+    {1, "SpecialTest", "Special Test"},
+    {1, "mnuItemDefaultDir", "&Default Dir"},
+    {1, "mnuItemPortSelect", "&Com Port Selection"},
+    {1, "mnuItemInstSelect", "&Instrument Selection"},
+    {1, "mnuItemUserID", "&User Name"},
+    {1, "mnuItemScale", "&Scale"},
+    {1, "mnuItemAnnot", "&Annotate"},
+    {2, "mnuItemadd", "Add &Note"},
+    {2, "mnuItemClearNote", "&Clear Notes"},
+    {1, "mnuItemPF", "&Power Factor"},
+    {1, "mnuItemOnepgPlot", "&One-page Plot"},
+    {0, "mnuHelp", "&Help"},
+    {1, "mnuItemHelp", "&Help"},
+    {1, "mnuItemAbout", "&About"},
+};
+
+void collect(const QList<QAction*>& actions, int depth, std::vector<std::string>& lines) {
+    for (const QAction* action : actions) {
+        if (action->isSeparator())
+            continue;
+        lines.push_back(std::to_string(depth) + " " + action->objectName().toStdString() + " " +
+                        action->text().toStdString());
+        if (action->menu())
+            collect(action->menu()->actions(), depth + 1, lines);
+    }
+}
+
+TEST_F(WindowTest, MenuTreeHasEveryItemInOrderUnderItsNameAndCaption) {
+    std::vector<std::string> expected;
+    for (const Line& line : tree)
+        expected.push_back(std::to_string(line.depth) + " " + line.name + " " + line.caption);
+    std::vector<std::string> found;
+    collect(window.menuBar()->actions(), 0, found);
+    EXPECT_EQ(found, expected);
+}
+
+TEST_F(WindowTest, RecentFileEntriesAreAnArrayWithIndicesOneToFour) {
+    const auto entries = window.findChildren<QAction*>(QStringLiteral("mnuMRU"));
+    ASSERT_EQ(entries.size(), 4);
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(entries[i]->property("Index").toInt(), i + 1);
+}
+
+// What the items are in each state; '.' for unchanged by the event.
+struct State {
+    const char* item;
+    char startUp, close, opened, voltage;
+};
+constexpr State states[] = {
+    {"mnuItemOpen", '+', '+', '.', '.'},
+    {"mnuItemClose", '+', '-', '+', '.'},
+    {"mnuItemSave", '-', '-', '+', '.'},
+    {"mnuItemExportType", '-', '-', '+', '.'},
+    {"mnuitemexprep", '-', '.', '.', '.'},
+    {"MnuItemexpdatacsv", '-', '.', '.', '.'},
+    {"mnuItemexpdata1perLine", '-', '.', '.', '.'},
+    {"mnuView", '-', '-', '+', '.'},
+    {"mnuItemViewPlot", '+', '-', '+', '.'},
+    {"mnuItemViewTable", '-', '-', '+', '.'},
+    {"mnuItemPrintTable", '-', '-', '+', '.'},
+    {"mnuItemViewsummary", '+', '.', '+', '.'},
+    {"mnuZoom", '-', '-', '.', '.'},
+    {"mnuItemScale", '-', '.', '.', '.'},
+    {"mnuItemAnnot", '-', '.', '.', '.'},
+    {"pwrview", '+', '-', '+', '-'},
+    {"mnuItemViewPower", '+', '-', '+', '-'},
+    {"mnuItemViewpwrsummry", '+', '-', '+', '.'},
+    {"mnuItemPrintpwrSum", '+', '.', '+', '-'},
+    {"mnuItemViewPwrTable", '-', '-', '.', '.'},
+    {"mnuItemPrintPwrTable", '-', '.', '.', '-'},
+    {"mnuItemInitialize", '+', '.', '.', '.'},
+    {"mnuItemOnepgPlot", '+', '-', '.', '.'},
+};
+
+class MenuStateTest : public WindowTest, public ::testing::WithParamInterface<State> {};
+
+TEST_P(MenuStateTest, TableSaysWhatItMust) {
+    for (const MenuStateRow& row : menuStates()) {
+        if (row.item != GetParam().item)
+            continue;
+        EXPECT_EQ(char(row.at(MenuEvent::startUp)), GetParam().startUp);
+        EXPECT_EQ(char(row.at(MenuEvent::close)), GetParam().close);
+        EXPECT_EQ(char(row.at(MenuEvent::opened)), GetParam().opened);
+        EXPECT_EQ(char(row.at(MenuEvent::voltage)), GetParam().voltage);
+        return;
+    }
+    FAIL() << "no row";
+}
+
+// Each event switches the action as the table says, from either state.
+TEST_P(MenuStateTest, ActionFollowsTheTable) {
+    const char* name = GetParam().item;
+    window.menus().set(name, true);
+    if (!enabled(name))
+        GTEST_FAIL() << "no handler";
+    for (const MenuStateRow& row : menuStates()) {
+        if (row.item != name)
+            continue;
+        for (int event = 0; event < menuEvents; ++event) {
+            const Switch wanted = row.at(MenuEvent(event));
+            for (const bool before : {true, false}) {
+                window.menus().set(name, before);
+                window.menus().apply(MenuEvent(event));
+                EXPECT_EQ(enabled(name), wanted == Switch::keep ? before : wanted == Switch::on) << event;
+            }
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Items, MenuStateTest, ::testing::ValuesIn(states),
+                         [](const auto& test) { return std::string(test.param.item); });
+
+TEST(MenuStates, EveryRowHasOneSwitchForEachEvent) {
+    for (const MenuStateRow& row : menuStates()) {
+        std::string switches(row.switches);
+        std::erase(switches, ' ');
+        EXPECT_EQ(switches.size(), std::size_t(menuEvents)) << row.item;
+        EXPECT_EQ(switches.find_first_not_of("+-."), std::string::npos) << row.item;
+    }
+}
+
+TEST_F(WindowTest, AtStartUpOnlyWhatNeedsNoFileIsEnabled) {
+    EXPECT_TRUE(enabled("mnuItemOpen"));
+    EXPECT_TRUE(enabled("mnuItemImport"));
+    EXPECT_FALSE(enabled("mnuView"));
+    EXPECT_FALSE(enabled("mnuItemSave"));
+    EXPECT_FALSE(enabled("mnuItemRefresh"));
+    EXPECT_TRUE(enabled("mnuItemPF"));
+}
+
+} // namespace
+} // namespace tally

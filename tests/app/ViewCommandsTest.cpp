@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "WindowTest.h"
+
+#include "app/TLY_View.h"
+#include "view/forms/ChartToolBar.h"
+#include "view/forms/DisplaySel.h"
+
+#include <QAccessible>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStatusBar>
+#include <QTest>
+
+namespace tally {
+namespace {
+
+using testing::dataFile;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::Not;
+using testing::WindowTest;
+
+// Ten intervals of average, maximum, minimum in whole amps: 20+k, 40+k, 10+k.
+std::vector<int> tenTriples() {
+    std::vector<int> tenths;
+    for (int k = 0; k < 10; ++k)
+        for (const int amps : {20 + k, 40 + k, 10 + k})
+            tenths.push_back(amps * 10);
+    return tenths;
+}
+
+std::vector<int> ramp(int count) {
+    std::vector<int> tenths;
+    for (int i = 0; i < count; ++i)
+        tenths.push_back((100 + i) * 10);
+    return tenths;
+}
+
+std::vector<int> readings(const Recordings& recordings, int slot) {
+    const auto& all = recordings.gReadings[std::size_t(slot)];
+    return {all.begin(), all.end()};
+}
+
+TEST_F(WindowTest, OpeningShowsTheSummaryAndEnablesTheViews) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    EXPECT_EQ(window.screen().page(), Screen::Page::text);
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    File:     a.dat"));
+    EXPECT_EQ(display.viewKind, ViewKind::summary);
+    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_TRUE(enabled("mnuView"));
+    EXPECT_TRUE(enabled("mnuItemSave"));
+    EXPECT_TRUE(enabled("pwrview"));
+    EXPECT_FALSE(enabled("mnuZoom"));
+    EXPECT_THAT(window.windowTitle().toStdString(), HasSubstr("a.dat"));
+}
+
+TEST_F(WindowTest, ViewPlotDrawsTheWholeFileAndEnablesWhatNeedsAPlot) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    EXPECT_EQ(window.screen().page(), Screen::Page::chart);
+    EXPECT_EQ(window.screen().chart().plot().points, 20);
+    EXPECT_EQ(display.viewKind, ViewKind::dataPlot);
+    for (const char* name : {"mnuItemScale", "mnuItemAnnot", "mnuItemOnepgPlot", "mnuItemRefresh"})
+        EXPECT_TRUE(enabled(name)) << name;
+    EXPECT_FALSE(enabled("mnuZoom"));
+}
+
+TEST_F(WindowTest, MarkedSpanIsNamedInTheTitleAndEnablesZoom) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    EXPECT_THAT(window.screen().chart().plot().title, HasSubstr("Selected:   "));
+    EXPECT_TRUE(enabled("mnuZoom"));
+    EXPECT_EQ(recordings.gDatastart, 0);
+    click("mnuZoom");
+    EXPECT_EQ(recordings.gDatastart, 5);
+    EXPECT_EQ(recordings.gdataend, 9);
+    EXPECT_TRUE(display.spanApplied);
+    EXPECT_TRUE(recordings.gZoomFlag);
+    EXPECT_FALSE(enabled("mnuZoom"));
+    EXPECT_EQ(window.screen().chart().plot().points, 5);
+}
+
+TEST_F(WindowTest, ViewPlotAfterAZoomShowsEverythingAgain) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    click("mnuItemViewPlot");
+    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_FALSE(recordings.gZoomFlag);
+    EXPECT_FALSE(display.spanApplied);
+}
+
+TEST_F(WindowTest, RefreshDrawsTheZoomedRangeAgain) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    click("mnuItemViewTable");
+    click("mnuItemRefresh");
+    EXPECT_EQ(window.screen().page(), Screen::Page::chart);
+    EXPECT_EQ(window.screen().chart().plot().points, 5);
+}
+
+TEST_F(WindowTest, ZoomedMinMaxAvgSpanSavedAndReopenedHoldsWholeTriples) {
+    open("/d/g.dat", dataFile('g', tenTriples()));
+    ASSERT_EQ(readings(recordings, 0), tenTriples());
+    click("mnuItemViewPlot");
+    mark(2, 4);
+    click("mnuZoom");
+    EXPECT_EQ(recordings.gDatastart, 6);
+    EXPECT_EQ(recordings.gdataend, 14);
+    prompt.files.push_back("/d/part.dat");
+    click("mnuItemSave");
+    click("mnuItemClose");
+    prompt.files.push_back("/d/part.dat");
+    click("mnuItemOpen");
+    const auto all = tenTriples();
+    EXPECT_EQ(readings(recordings, 0), std::vector<int>(all.begin() + 6, all.begin() + 15));
+}
+
+TEST_F(WindowTest, DragPastTheRightEdgeEndsAtTheLastReading) {
+    window.show();
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    Chart& chart = window.screen().chart();
+    const QPoint from(chart.width() / 2, chart.height() / 2);
+    QTest::mousePress(&chart, Qt::LeftButton, {}, from);
+    QTest::mouseMove(&chart, QPoint(chart.width() + 80, from.y()));
+    QTest::mouseRelease(&chart, Qt::LeftButton, {}, QPoint(chart.width() + 80, from.y()));
+    ASSERT_TRUE(enabled("mnuZoom"));
+    click("mnuZoom");
+    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_GT(recordings.gDatastart, 0);
+    const auto& values = window.screen().chart().plot().series.at(0).values;
+    EXPECT_EQ(values.back(), 119.0F);
+    EXPECT_EQ(*std::min_element(values.begin(), values.end()), float(100 + recordings.gDatastart));
+    EXPECT_EQ(display.extremeMin, (100 + recordings.gDatastart) * 10);
+}
+
+TEST_F(WindowTest, PointerOverTheChartReadsTimeAndValue) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    auto* time = window.findChild<QLabel*>(QStringLiteral("PanelTime"));
+    auto* value = window.findChild<QLabel*>(QStringLiteral("PanelValue"));
+    Q_EMIT window.screen().chart().pointerMoved(3);
+    EXPECT_EQ(time->text().toStdString(), screenTime(timeOf(recordings.gInfo[0], 3)));
+    EXPECT_EQ(value->text().toStdString(), "103 A");
+    Q_EMIT window.screen().chart().pointerMoved(-1);
+    EXPECT_EQ(time->text(), QString());
+    EXPECT_EQ(value->text(), QString());
+}
+
+TEST_F(WindowTest, ScaleHoldsForOneRedraw) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    const double usual = window.screen().chart().plot().yMin;
+    prompt.inputs.push_back("7");
+    click("mnuItemScale");
+    EXPECT_EQ(prompt.asked.back().text, "Enter min value for Y Scale");
+    EXPECT_EQ(window.screen().chart().plot().yMin, 7);
+    click("mnuItemRefresh");
+    EXPECT_EQ(window.screen().chart().plot().yMin, usual);
+}
+
+TEST_F(WindowTest, ScaleOfNoNumberIsATypeMismatchAndChangesNothing) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    const double usual = window.screen().chart().plot().yMin;
+    prompt.inputs.push_back("low");
+    click("mnuItemScale");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 13: Type mismatch"));
+    EXPECT_EQ(prompt.shown.back().title, "Tallyline");
+    EXPECT_FALSE(display.userScale);
+    EXPECT_EQ(window.screen().chart().plot().yMin, usual);
+    click("mnuZoom");
+    EXPECT_EQ(recordings.gDatastart, 5);
+}
+
+TEST_F(WindowTest, OnePagePlotShowsItsLabelAndTurnsZoomOff) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuItemOnepgPlot");
+    EXPECT_TRUE(display.onePage);
+    EXPECT_FALSE(enabled("mnuZoom"));
+    EXPECT_EQ(window.screen().chartBar().print->text(), QStringLiteral("print on one page"));
+    click("mnuItemViewPlot");
+    EXPECT_FALSE(display.onePage);
+    EXPECT_NE(window.screen().chartBar().print->text(), QStringLiteral("print on one page"));
+}
+
+TEST_F(WindowTest, SeveralMinMaxAvgFilesAskWhichStatistic) {
+    open("/d/g.dat", dataFile('g', tenTriples()));
+    open("/d/h.dat", dataFile('g', tenTriples()));
+    whenOpen<DisplaySel>([](DisplaySel& form) {
+        for (auto* option : form.findChildren<QRadioButton*>())
+            if (option->text() == QStringLiteral("Minimum"))
+                option->click();
+        form.findChild<QPushButton*>()->click();
+    });
+    click("mnuItemViewPlot");
+    EXPECT_THAT(window.screen().chart().plot().title, HasSubstr("Data Displayed: MINIMUM"));
+    EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 10.0F);
+}
+
+TEST_F(WindowTest, TableShowsTheChosenFile) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    open("/d/b.dat", dataFile('a', ramp(9)));
+    chooser.answers = {1};
+    click("mnuItemViewTable");
+    EXPECT_THAT(chooser.pendingCommands, ElementsAre(pending::table));
+    EXPECT_EQ(recordings.ginx, 1);
+    EXPECT_EQ(display.viewKind, ViewKind::table);
+    EXPECT_EQ(window.screen().text().heading(),
+              QStringLiteral(" Time     Date                            Eight readings of average"));
+    EXPECT_EQ(window.screen().displaying(), "table of b.dat");
+}
+
+TEST_F(WindowTest, CancelledListEndsTheCommandQuietly) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    open("/d/b.dat", dataFile('a', ramp(9)));
+    for (const char* name : {"mnuItemViewTable", "mnuItemViewsummary", "mnuItemSave", "mnuItemNotes",
+                             "mnuItemPrintTable", "mnuItemPrintSum"}) {
+        chooser.answers = {Recordings::cancelled};
+        click(name);
+        EXPECT_EQ(recordings.ginx, Recordings::cancelled) << name;
+        EXPECT_TRUE(prompt.shown.empty()) << name;
+    }
+    EXPECT_EQ(window.screen().displaying(), "summary of b.dat");
+}
+
+TEST_F(WindowTest, CommandsWithoutAFileSayTheirOwnWords) {
+    window.dispatcher().run([this] {
+        window.view().mnuItemViewTable_Click();
+        window.view().mnuItemViewsummary_Click();
+        window.view().mnuItemViewPlot_Click();
+    });
+    click("mnuItemPrintSum");
+    click("mnuItemForceRdg");
+    click("mnuItemNotes");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error - No file available. Need to open a file",
+                                            "Error - No file available. Need to open a file.",
+                                            "Error - No file available. Need to open a file.",
+                                            "Error - No file available.  Need to open a file.",
+                                            "Error - No file available. Need to open a file.",
+                                            "Error - No file available. Need to open a file."));
+}
+
+TEST_F(WindowTest, VoltageFileDisablesThePowerViews) {
+    open("/d/v.dat", dataFile('a', ramp(20), 'V'));
+    EXPECT_FALSE(enabled("pwrview"));
+    EXPECT_FALSE(enabled("mnuItemViewPower"));
+    EXPECT_FALSE(enabled("mnuItemPrintpwrSum"));
+    EXPECT_FALSE(enabled("mnuItemPrintPwrTable"));
+    EXPECT_TRUE(enabled("mnuItemViewpwrsummry"));
+}
+
+TEST_F(WindowTest, EveryControlOfTheWindowHasANameForScreenReaders) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (widget->focusPolicy() == Qt::NoFocus || widget->objectName().startsWith(QStringLiteral("qt_")))
+            continue;
+        const QAccessibleInterface* face =
+            QAccessible::queryAccessibleInterface(const_cast<QWidget*>(widget));
+        ASSERT_NE(face, nullptr);
+        EXPECT_FALSE(face->text(QAccessible::Name).isEmpty())
+            << widget->metaObject()->className() << " " << widget->objectName().toStdString();
+    }
+}
+
+} // namespace
+} // namespace tally

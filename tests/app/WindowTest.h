@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "app/Menus.h"
+#include "app/NoticeBar.h"
+#include "app/Screen.h"
+#include "app/TLY.h"
+#include "support/FixedClock.h"
+#include "support/MemoryFiles.h"
+#include "support/MemorySettings.h"
+#include "support/QueuedPrompt.h"
+#include "view/forms/Chart.h"
+#include "view/forms/TextView.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QTimer>
+#include <gmock/gmock.h>
+
+namespace tally::testing {
+
+// Answers the list of open files from a queue.
+class QueuedChooser : public SlotChooser {
+public:
+    std::deque<int> answers;
+    std::vector<int> pendingCommands;
+
+    int choose(const Recordings&, int pendingCommand) override {
+        pendingCommands.push_back(pendingCommand);
+        const int answer = answers.at(0);
+        answers.pop_front();
+        return answer;
+    }
+};
+
+// The data text of a recording: readings in tenths, oldest first; the header carries the time given.
+std::string dataFile(char modeLetter, const std::vector<int>& tenths, char typeLetter = 'X', bool low = false,
+                     const std::string& time = "03-15-24 10:00");
+
+// A main window on doubles. Files are put in memory and opened through File > Open.
+class WindowTest : public ::testing::Test {
+protected:
+    Recordings recordings;
+    DisplayState display;
+    MemorySettings settings;
+    MemoryFiles files;
+    FixedClock clock;
+    QueuedPrompt prompt;
+    QueuedChooser chooser;
+    TLY window{{recordings, display, settings, files, clock, prompt, chooser}};
+
+    // Puts a file in memory and opens it by the menu.
+    void open(const std::string& path, const std::string& bytes);
+    QAction& item(const char* name) { return window.menus().item(name); }
+    bool enabled(const char* name) { return item(name).isEnabled(); }
+    void click(const char* name) { item(name).trigger(); }
+    QString remark() const { return window.findChild<QLabel*>(QStringLiteral("PanelRemark"))->text(); }
+    // Drags a span over points of the plot, as the mouse does.
+    void mark(int first, int last);
+    // Runs when the next dialog is open.
+    template <typename Form>
+    void whenOpen(std::function<void(Form&)> action) {
+        QTimer::singleShot(0, &window, [action] {
+            auto* form = dynamic_cast<Form*>(QApplication::activeModalWidget());
+            ASSERT_NE(form, nullptr) << "no such dialog is open";
+            action(*form);
+        });
+    }
+};
+
+} // namespace tally::testing
