@@ -2,7 +2,6 @@
 #include "link/DownloadReception.h"
 
 #include "core/Numbers.h"
-#include "link/Instruments.h"
 
 #include <algorithm>
 

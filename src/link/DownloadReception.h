@@ -2,6 +2,7 @@
 #pragma once
 
 #include "link/HeaderScan.h"
+#include "link/Instruments.h"
 #include "link/ResponseTimer.h"
 #include "link/Session.h"
 
@@ -42,7 +43,7 @@ private:
     void firstCharacter();
     void startOver();
     void tick();
-    bool automatic() const { return session_.instrument.instSelection == 11; }
+    bool automatic() const { return session_.instrument.instSelection == autoSelectType; }
     std::int64_t nextDeadline() const;
 
     Session& session_;

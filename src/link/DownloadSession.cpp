@@ -104,8 +104,7 @@ bool DownloadSession::mnuItemDownload_Click(const Files& files, const std::strin
         return false;
     }
     flags_ = HandleRunspec(files, session_.prompt, workingDirectory);
-    const int type = session_.instrument.instSelection;
-    if ((type == 3 || type == 6) &&
+    if (isVoltageRecorder(session_.instrument.instSelection) &&
         session_.prompt.show({.text = voltageCaution, .buttons = Buttons::OkCancel}) == Answer::Cancel)
         return false;
     session_.panel.prompt(connectionPrompt(session_.instrument));

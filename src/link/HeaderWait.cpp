@@ -3,7 +3,6 @@
 
 #include "core/Numbers.h"
 #include "core/Text1252.h"
-#include "link/Instruments.h"
 #include "link/PromptTexts.h"
 
 #include <algorithm>

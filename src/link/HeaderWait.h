@@ -2,6 +2,7 @@
 #pragma once
 
 #include "link/HeaderScan.h"
+#include "link/Instruments.h"
 #include "link/ResponseTimer.h"
 #include "link/Session.h"
 
@@ -29,7 +30,7 @@ private:
     Step checkToken();
     Step flip(const std::string& reason);
     Step fail(const std::string& text);
-    bool automatic() const { return session_.instrument.instSelection == 11; }
+    bool automatic() const { return session_.instrument.instSelection == autoSelectType; }
 
     Session& session_;
     ResponseTimer timer_;

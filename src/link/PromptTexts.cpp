@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/PromptTexts.h"
 
+#include "link/Instruments.h"
+
 namespace tally {
 
 const char* const lowBatteryText = "    LOW INSTRUMENT BATTERY    ";
@@ -20,7 +22,7 @@ std::string connectionPrompt(const InstrumentState& instrument, bool autoLine) {
             "   (If the interface has a transfer switch,  \r\n"
             "    make sure it's set to 'TRANSFER'.)       \r\n"
             "                                             \r\n";
-    if (autoLine && instrument.instSelection == 11)
+    if (autoLine && instrument.instSelection == autoSelectType)
         text += "Auto select: Initial port settings = " + instrument.portSettings + "\r\n";
     return text + "     Hit 'Cancel' or use ESC key to quit     ";
 }

@@ -79,7 +79,7 @@ std::optional<StatusFields> StatusCheckSession::checkOnce() {
         return {};
     }
     std::string text = fields->text();
-    if (session_.instrument.instSelection == 11)
+    if (session_.instrument.instSelection == autoSelectType)
         text += "\rAuto-selected settings now being used are for the " +
                 InstrumentName(session_.instrument.instAutoCurrent);
     session_.panel.prompt(text);

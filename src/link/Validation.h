@@ -14,7 +14,7 @@ struct ValidationCounts {
     std::int16_t count999 = 0;
     std::int16_t ctrlZ = 0;
     std::int16_t badChars = 0;
-    std::optional<unsigned char> firstBadChar;
+    std::optional<unsigned char> firstBadChar = {};
 
     // No line, reading or character is wrong and there is exactly one terminator.
     bool clean() const { return badLines == 0 && over999 == 0 && badChars == 0 && ctrlZ == 1; }

@@ -17,7 +17,7 @@ public:
     struct Reception {
         JournalHeader header = {};
         std::vector<std::string> parts = {""}; // one for each port settings
-        std::string accepted;
+        std::string accepted = {};
         JournalState state = JournalState::receiving;
         std::optional<std::int64_t> clockDifference = {};
     };

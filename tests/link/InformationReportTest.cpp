@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/InformationReport.h"
+
+#include "LinkBench.h"
+#include "core/Fault.h"
+
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using testing::header;
+
+const std::string title = "                 Instrument Information from download                 \r\n\r\n";
+const std::string reminder = "\r\n                  REMEMBER TO SAVE THIS DOWNLOAD TO A FILE               ";
+
+TEST(InformationReportTest, showsTheFieldsOfTheHeader) {
+    EXPECT_EQ(informationReport("\r\n" + header() + "\rT: 1"),
+              title +
+                  "Type: KWT     Ser. 1234\r\nMode:  Average 15 min interval\r\n"
+                  "           Downloaded or stopped at:  14:05  Mar 15, 24\r\n" +
+                  reminder);
+}
+
+TEST(InformationReportTest, namesTheModeByItsLetter) {
+    EXPECT_NE(informationReport(header("PQX", 'H')).find("Mode:  Min/Max/Avg 5 min interval\r\n"),
+              std::string::npos);
+    EXPECT_NE(informationReport(header("PQX", 'f')).find("Mode:  Average 1 min interval\r\n"),
+              std::string::npos);
+    EXPECT_NE(informationReport(header("HVN", ' ')).find("Mode:  Average 15 min interval\r\n"),
+              std::string::npos);
+}
+
+TEST(InformationReportTest, aRecoverAddsStartStopAndReadings) {
+    EXPECT_EQ(informationReport(header(), RecoveredFacts{"10:00  Mar 01, 24", "12:30  Mar 02, 24", 106}),
+              title +
+                  "Type: KWT     Ser. 1234\r\nMode:  Average 15 min interval\r\n"
+                  "Start Time 10:00  Mar 01, 24\r\n"
+                  "  Downloaded (stopped):  12:30  Mar 02, 24\r\n"
+                  "  Readings: 106\r\n" +
+                  reminder);
+}
+
+TEST(InformationReportTest, tellsHowFarTheClocksAreApart) {
+    const auto line = [](std::int64_t minutes) {
+        const std::string text = informationReport(header(), {}, minutes);
+        const std::size_t at = text.find("Instrument clock");
+        return text.substr(at, text.find("\r\n", at) - at);
+    };
+    EXPECT_EQ(line(3), "Instrument clock: 3 min ahead of this computer's");
+    EXPECT_EQ(line(-61), "Instrument clock: 61 min behind this computer's");
+    EXPECT_EQ(line(0), "Instrument clock: the same as this computer's");
+    EXPECT_EQ(informationReport(header()).find("Instrument clock"), std::string::npos);
+}
+
+TEST(InformationReportTest, aModeOutsideTheTableIsAFault) {
+    EXPECT_THROW(informationReport(header("KWT", 'n')), Fault);
+    EXPECT_THROW(informationReport(header("KWT", '5')), Fault);
+}
+
+TEST(InformationReportTest, aHeaderWithoutFieldsLeavesThemEmpty) {
+    EXPECT_EQ(informationReport("KW\r"), title +
+                                             "Type: KW     Ser. \r\nMode:  Average 15 min interval\r\n"
+                                             "           Downloaded or stopped at:  \r\n" +
+                                             reminder);
+}
+
+TEST(InformationReportTest, bytesOfTheHeaderAreShownAsCharacters) {
+    std::string head = header();
+    head[7] = '\xe9';
+    EXPECT_NE(informationReport(head).find("Ser. \u00e9234"), std::string::npos);
+}
+
+} // namespace
+} // namespace tally
