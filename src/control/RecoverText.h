@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/ReadingTime.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tally {
+
+// Offsets from the start of the recording, which is offset 0.
+constexpr std::size_t recoverTypeOffset = 2;
+constexpr std::size_t recoverMarkOffset = 46; // "T" when the instrument can be recovered
+
+// The character at an offset from the start of the recording; nothing when the text ends before it, or no
+// recording begins.
+std::optional<char> recoverCharacter(std::string_view text, std::size_t offset);
+
+// What the header of a received text says. Throws Subscript for a mode letter outside the mode table, Type
+// mismatch for a time that is none.
+struct RecoverHeader {
+    char mode = 'a'; // lower case
+    ReadingTime start;
+};
+RecoverHeader recoverHeader(std::string_view text);
+
+// How the text stands in the temporary file, and how many readings that file holds (at most 42,966). Throws
+// Overflow for a reading that no recording can hold.
+std::string quotedText(std::string_view text);
+int countReadings(std::string_view file);
+
+// Whether a recording of so many readings has overwritten its own beginning, so that its end has no time.
+bool overwritten(char mode, int readings, std::int32_t maxSamples);
+
+// The time of the last reading.
+ReadingTime stopTime(const RecoverHeader& header, int readings);
+
+// A text whose header carries the time at which its recording stopped.
+struct RecoveredText {
+    std::string text; // bytes
+    ReadingTime start;
+    ReadingTime stopped;
+    int readings = 0;
+};
+RecoveredText recoverText(std::string text, const RecoverHeader& header, int readings);
+
+} // namespace tally
