@@ -16,7 +16,10 @@ QPushButton* add(QVBoxLayout& down, const QString& name, const QString& caption,
     button->setMinimumHeight(36);
     auto* label = new QLabel(why);
     label->setContentsMargins(0, 0, 0, 12);
-    label->setEnabled(false);
+    QFont small = label->font();
+    small.setPointSizeF(small.pointSizeF() * 0.9);
+    label->setFont(small);
+    label->setObjectName(name + QStringLiteral("Why"));
     down.addWidget(button);
     down.addWidget(label);
     return button;
@@ -55,7 +58,8 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent) {
 }
 
 void StartPage::setSamples(bool there) {
-    findChild<QPushButton*>(QStringLiteral("startSample"))->setVisible(there);
+    for (const auto& name : {QStringLiteral("startSample"), QStringLiteral("startSampleWhy")})
+        findChild<QWidget*>(name)->setVisible(there);
 }
 
 void StartPage::setDownload(bool possible) {

@@ -48,7 +48,6 @@ Arguments parse(const QApplication& application) {
 int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyline"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tallyline"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TALLY_VERSION));
     const Arguments arguments = parse(application);
 

@@ -185,9 +185,11 @@ TEST_F(WindowTest, FilesCanBeDroppedOnTheWindow) {
     files.contents["/d/1.dat"] = dataFile('a', fewReadings);
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QStringLiteral("/d/1.dat"))});
+    QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&window, &enter);
+    EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(&window, &drop);
-    QTest::qWait(0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return recordings.isOpen(0); }, 2000));
 }
 

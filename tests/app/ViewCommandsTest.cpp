@@ -44,7 +44,7 @@ std::vector<int> readings(const Recordings& recordings, int slot) {
 TEST_F(WindowTest, OpeningShowsTheSummaryAndEnablesTheViews) {
     open("/d/a.dat", dataFile('a', ramp(20)));
     EXPECT_EQ(window.screen().page(), Screen::Page::text);
-    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    File:     a.dat"));
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    File:     /d/a.dat"));
     EXPECT_EQ(display.viewKind, ViewKind::summary);
     EXPECT_EQ(recordings.gDatastart, 0);
     EXPECT_EQ(recordings.gdataend, 19);
@@ -147,7 +147,7 @@ TEST_F(WindowTest, PointerOverTheChartReadsTimeAndValue) {
     auto* value = window.findChild<QLabel*>(QStringLiteral("PanelValue"));
     Q_EMIT window.screen().chart().pointerMoved(3);
     EXPECT_EQ(time->text().toStdString(), screenTime(timeOf(recordings.gInfo[0], 3)));
-    EXPECT_EQ(value->text().toStdString(), "103 A");
+    EXPECT_EQ(value->text().toStdString(), "103.0 A");
     Q_EMIT window.screen().chart().pointerMoved(-1);
     EXPECT_EQ(time->text(), QString());
     EXPECT_EQ(value->text(), QString());
