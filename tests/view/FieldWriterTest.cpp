@@ -43,6 +43,9 @@ TEST(FieldWriter, FieldsByHand) {
     EXPECT_EQ(written(" 0000 ", 12345.6F), " 12346   ");
     EXPECT_EQ(written("  000.0", 1234.45F), "  1234.5  "); // the decimal text decides, not the binary value
     EXPECT_EQ(written("  000.0", -0.04F), "  000.0  ");
+    EXPECT_EQ(written("  000.0", -0.0F), "  000.0  ");
+    EXPECT_EQ(written("  000.0", 9999.96F), "  10000.0  ");
+    EXPECT_EQ(written(" 0000", 9998.5F), " 9999  ");
 }
 
 TEST(FieldWriter, EveryReadingAsFormatGivesIt) {
