@@ -57,12 +57,12 @@ struct LinkBench {
         instrument.maxSamples = current == 7 ? 10710 : 42966;
     }
     // The instrument sends when the port is opened with its settings, `delay` milliseconds later; with others
-    // it sends `rubbish`.
+    // it sends `rubbish` after 100 ms.
     void answers(const std::string& settings, const std::string& text, std::int64_t delay = 100,
                  const std::string& rubbish = "") {
         line.onOpen = [this, settings, text, delay, rubbish](const std::string& opened) {
-            const std::string& sent = opened == settings ? text : rubbish;
-            waiter.after(delay, [this, sent] { line.send(sent); });
+            const bool right = opened == settings;
+            waiter.after(right ? delay : 100, [this, sent = right ? text : rubbish] { line.send(sent); });
         };
     }
 };

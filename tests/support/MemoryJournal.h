@@ -25,8 +25,14 @@ public:
     std::string trouble;
 
     void begin(const JournalHeader& header) override { receptions.push_back({.header = header}); }
-    void append(std::string_view bytes) override { receptions.back().parts.back() += bytes; }
-    void restart(const std::string&) override { receptions.back().parts.emplace_back(); }
+    void append(std::string_view bytes) override {
+        if (receiving())
+            receptions.back().parts.back() += bytes;
+    }
+    void restart(const std::string&) override {
+        if (receiving())
+            receptions.back().parts.emplace_back();
+    }
     void clockDifference(std::int64_t minutes) override { receptions.back().clockDifference = minutes; }
     void end(JournalState state) override { receptions.back().state = state; }
     void accepted(std::string_view text) override {
@@ -52,6 +58,9 @@ public:
     std::string problem() const override { return trouble; }
 
 private:
+    bool receiving() const {
+        return !receptions.empty() && receptions.back().state == JournalState::receiving;
+    }
     const Reception& at(const std::string& id) const {
         for (std::size_t i = 0; i < receptions.size(); ++i)
             if (std::to_string(i + 1) == id)

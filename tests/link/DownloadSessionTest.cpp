@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/DownloadSession.h"
+
+#include "LinkBench.h"
+#include "core/Fault.h"
+#include "link/InformationReport.h"
+#include "link/PromptTexts.h"
+#include "link/ValidationReport.h"
+
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using testing::header;
+using testing::lines;
+using testing::memory;
+
+const std::string proceed = " PROCEED";
+const std::string question = "Enter date and time of the field initialization\rusing format 'mm-dd-yy hh:mm'";
+
+struct DownloadSessionTest : ::testing::Test, testing::LinkBench {
+    DownloadSession download{session};
+
+    void SetUp() override {
+        instrument.instSelection = 7;
+        instrument.gCommPort = 2;
+    }
+    bool prepare() { return download.mnuItemDownload_Click(files, "."); }
+    void sends(const std::string& text) { answers("9600,N,8,1", text); }
+    JournalState state() const { return journal.receptions.back().state; }
+    void expectTidy() const {
+        EXPECT_FALSE(line.isOpen());
+        EXPECT_FALSE(panel.visible);
+        EXPECT_FALSE(panel.isBusy);
+        EXPECT_EQ(panel.mainStatuses.back(), "");
+    }
+};
+
+TEST_F(DownloadSessionTest, aPortThatCannotBeOpenedEndsTheCommand) {
+    line.failOpen = Fault(8002, "Invalid port number");
+    EXPECT_FALSE(prepare());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{
+                                  "Communication port not valid.\r\nTry selecting a different COM port"});
+    EXPECT_TRUE(panel.prompts.empty());
+}
+
+TEST_F(DownloadSessionTest, thePromptStandsInThePanelAfterTheProbe) {
+    EXPECT_TRUE(prepare());
+    EXPECT_EQ(panel.prompts, std::vector<std::string>{connectionPrompt(instrument)});
+    EXPECT_EQ(line.count("CommPort 2"), 1);
+    EXPECT_EQ(line.count("PortOpen true"), 1);
+    EXPECT_FALSE(line.isOpen());
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(DownloadSessionTest, voltageRecordersAskForTheirDisplaySwitch) {
+    for (const std::int16_t type : std::initializer_list<std::int16_t>{3, 6}) {
+        instrument.instSelection = type;
+        prompt.answers = {Answer::Ok, Answer::Cancel};
+        prompt.shown.clear();
+        EXPECT_TRUE(prepare());
+        EXPECT_FALSE(prepare());
+        EXPECT_EQ(prompt.shown[0].text, "             CAUTION          \r"
+                                        "                                 \r"
+                                        "    For Voltage Recorders press  \r"
+                                        "    the display switch until the \r"
+                                        "          reading appears.       \r"
+                                        "                                 \r"
+                                        "           Then press OK         \r");
+        EXPECT_EQ(prompt.shown[0].buttons, Buttons::OkCancel);
+    }
+}
+
+TEST_F(DownloadSessionTest, theRunSpecificationIsReadBeforeTheDialog) {
+    files.contents["./runspec.txt"] = "enableErrorReport=False\r\n";
+    EXPECT_TRUE(prepare());
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    prompt.shown.clear();
+    sends(header() + "\rT: 1 1000\n\x1a");
+    EXPECT_TRUE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), (std::vector<std::string>{removeCableText(), proceed}));
+}
+
+TEST_F(DownloadSessionTest, aRunSpecificationThatCannotBeReadIsAFault) {
+    files.contents["./runspec.txt"] = "";
+    files.failRead = fault::permissionDenied();
+    EXPECT_THROW(prepare(), Fault);
+    EXPECT_FALSE(line.isOpen());
+}
+
+TEST_F(DownloadSessionTest, aCleanDownloadIsAcceptedWithoutAQuestion) {
+    sends(memory());
+    const auto pending = download.DownLoadProc();
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, memory());
+    EXPECT_EQ(pending->id, "1");
+    EXPECT_EQ(prompt.texts(), (std::vector<std::string>{removeCableText(), proceed}));
+    EXPECT_EQ(panel.prompts, std::vector<std::string>{informationReport(memory())});
+    EXPECT_EQ(panel.mainStatuses.front(), "COM2  in use\r\n Cancel or Escape to quit");
+    EXPECT_EQ(panel.progressTexts.front(), "        Ready to start download.");
+    EXPECT_EQ(panel.progressTexts.back(), "No. of characters processed = " + std::to_string(memory().size()));
+    EXPECT_EQ(panel.statuses.back(), "PROCESSING DATA; WAIT");
+    EXPECT_EQ(panel.log, "Total No. of characters received = " + std::to_string(memory().size()));
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, nothingIsSentToTheInstrument) {
+    sends(memory());
+    download.DownLoadProc();
+    EXPECT_EQ(line.written, "");
+}
+
+TEST_F(DownloadSessionTest, theJournalHoldsWhatCameAndWhatBecameOfIt) {
+    sends("noise " + memory());
+    download.DownLoadProc();
+    const auto& reception = journal.receptions.at(0);
+    EXPECT_EQ(reception.header.commPort, 2);
+    EXPECT_EQ(reception.header.instrumentType, 7);
+    EXPECT_EQ(reception.header.settings, "9600,N,8,1");
+    EXPECT_EQ(reception.header.pcTime, toReadingTime({2024, 3, 15, 14, 5}));
+    EXPECT_EQ(reception.header.command, "download");
+    EXPECT_EQ(reception.parts.back(), "noise " + memory());
+    EXPECT_EQ(reception.state, JournalState::accepted);
+    EXPECT_EQ(reception.accepted, "noise " + memory());
+}
+
+TEST_F(DownloadSessionTest, aLowerCaseInitialIsStoredInUpperCaseAndWarnsAtTheEnd) {
+    sends("k" + memory().substr(1));
+    const auto pending = download.DownLoadProc();
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, memory());
+    EXPECT_EQ(prompt.texts(),
+              (std::vector<std::string>{removeCableText(), proceed, "    LOW INSTRUMENT BATTERY    "}));
+    EXPECT_EQ(prompt.shown.back().title, "WARNING");
+}
+
+TEST_F(DownloadSessionTest, theModelCodeIsPutIntoUpperCase) {
+    sends("kwt" + memory().substr(3));
+    EXPECT_EQ(download.DownLoadProc()->text, memory());
+}
+
+TEST_F(DownloadSessionTest, errorsAreAskedAboutAndNoDropsTheText) {
+    prompt.answers = {Answer::No};
+    sends(header() + "\rT: 1 2 3\n\x1a");
+    EXPECT_FALSE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{errorReport({.badLines = 1, .ctrlZ = 1})});
+    EXPECT_EQ(state(), JournalState::refused);
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, yesAcceptsATextWithErrors) {
+    prompt.answers = {Answer::Yes};
+    sends(header() + "\rT: 1 2 3\n\x1a");
+    EXPECT_TRUE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), (std::vector<std::string>{errorReport({.badLines = 1, .ctrlZ = 1}),
+                                                        removeCableText(), proceed}));
+}
+
+TEST_F(DownloadSessionTest, aTextWithoutTheMarkHasNoTerminatorButCanBeKept) {
+    prompt.answers = {Answer::Yes};
+    sends(header() + "\r" + lines(3) + "\x1a");
+    EXPECT_TRUE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts().front(), errorReport({.ctrlZ = 0}));
+}
+
+TEST_F(DownloadSessionTest, aStalledDownloadGoesToValidation) {
+    prompt.answers = {Answer::Yes};
+    sends(header() + "\rT:" + lines(30));
+    EXPECT_TRUE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts().front(), errorReport({.ctrlZ = 0}));
+}
+
+TEST_F(DownloadSessionTest, aTextWithoutAFamilyInitialIsBadData) {
+    sends("0123456789\x1a");
+    EXPECT_FALSE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
+    EXPECT_EQ(state(), JournalState::refused);
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, binaryNoiseEndsWithItsMessage) {
+    std::string noise;
+    for (int i = 0; i < 40000; ++i)
+        noise += static_cast<char>(200 + i % 50);
+    sends(noise + "K\x1a");
+    EXPECT_FALSE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
+}
+
+TEST_F(DownloadSessionTest, tooManyBadCharactersAreAFaultAndTheTextWaitsInTheJournal) {
+    sends(header() + "\rT:" + std::string(40000, 'x') + "\x1a");
+    EXPECT_THROW(download.DownLoadProc(), Fault);
+    EXPECT_EQ(state(), JournalState::received);
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, aModeOutsideTheTableIsAFaultAndTheTextWaitsInTheJournal) {
+    sends(memory(2, header("KWT", 'Z')));
+    EXPECT_THROW(download.DownLoadProc(), Fault);
+    EXPECT_EQ(state(), JournalState::received);
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, aPortThatIsGoneAfterThePromptIsToldLikeTheProbe) {
+    EXPECT_TRUE(prepare());
+    line.failOpen = Fault(8005, "Port already open");
+    EXPECT_FALSE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{badPortText});
+    EXPECT_EQ(state(), JournalState::interrupted);
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, aPortThatIsGoneAtTheFlipIsTold) {
+    automatic(7);
+    line.failOpen = Fault(8002, "Invalid port number");
+    line.goodOpenings = 1;
+    EXPECT_FALSE(download.DownLoadProc());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{badPortText});
+    expectTidy();
+}
+
+TEST_F(DownloadSessionTest, theCallPointSaysWhereAnErrorHappened) {
+    line.onOpen = [this](const std::string&) {
+        EXPECT_EQ(gErrorCallPoint, 315);
+        waiter.after(10, [this] {
+            EXPECT_EQ(gErrorCallPoint, 316);
+            line.send(memory());
+        });
+    };
+    download.DownLoadProc();
+    EXPECT_EQ(gErrorCallPoint, 0);
+    automatic(7);
+    waiter.cancelNow();
+    download.DownLoadProc();
+    EXPECT_EQ(gErrorCallPoint, 317);
+}
+
+TEST_F(DownloadSessionTest, aRunningInstrumentsClockIsComparedWithTheComputers) {
+    sends(memory(3, header("KWT", 'a', "03-15-24 14:08")));
+    const auto pending = download.DownLoadProc();
+    EXPECT_EQ(panel.prompts, std::vector<std::string>{informationReport(pending->text, {}, 3)});
+    EXPECT_EQ(journal.receptions[0].clockDifference, 3);
+    EXPECT_EQ(pending->text, memory(3, header("KWT", 'a', "03-15-24 14:08")));
+}
+
+TEST_F(DownloadSessionTest, aStoppedInstrumentsTimeIsNoClock) {
+    sends(memory(3, header("KWT", 'A', "03-15-24 14:08")));
+    download.DownLoadProc();
+    EXPECT_EQ(journal.receptions[0].clockDifference, std::nullopt);
+}
+
+TEST_F(DownloadSessionTest, aHeaderWithoutATimeAsksForTheFieldInitialization) {
+    // 30 readings of 5 minutes after 03-01-24 10:00.
+    prompt.inputs = {"03-01-24 10:00"};
+    sends(memory(3, header("KWT", 'b', "00-00-00 00:00")));
+    const auto pending = download.DownLoadProc();
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, memory(3, header("KWT", 'b', "03-01-24 12:30")));
+    ASSERT_EQ(prompt.asked.size(), 1U);
+    EXPECT_EQ(prompt.asked[0].text, question);
+    EXPECT_EQ(journal.receptions[0].clockDifference, std::nullopt);
+}
+
+TEST_F(DownloadSessionTest, threeValuesOfAnIntervalCountOnce) {
+    // 40 readings: Int(15 * 40 / 3) = 200 minutes after 10:00.
+    prompt.inputs = {"03-01-24 10:00"};
+    sends(memory(4, header("KWT", 'G', "              ")));
+    EXPECT_EQ(download.DownLoadProc()->text, memory(4, header("KWT", 'G', "03-01-24 13:20")));
+}
+
+TEST_F(DownloadSessionTest, anAnswerThatIsNoDateIsAskedAgain) {
+    prompt.inputs = {"yesterday", "13-01-24 10:00", "03-01-24 25:00", "03-01-24", "03-01-24 at 10:00"};
+    sends(memory(3, header("KWT", 'B', "??????????????")));
+    EXPECT_EQ(download.DownLoadProc()->text, memory(3, header("KWT", 'B', "03-01-24 12:30")));
+    EXPECT_EQ(prompt.asked.size(), 5U);
+}
+
+TEST_F(DownloadSessionTest, anEmptyAnswerAbandonsTheDownloadButTheJournalKeepsIt) {
+    const std::vector<std::optional<std::string>> nothings = {"", std::nullopt};
+    for (const auto& nothing : nothings) {
+        prompt.inputs = {nothing};
+        sends(memory(3, header("KWT", 'B', "??????????????")));
+        EXPECT_FALSE(download.DownLoadProc());
+        EXPECT_EQ(state(), JournalState::received);
+    }
+}
+
+TEST_F(DownloadSessionTest, aHeaderCutShortCanBeKeptWithADate) {
+    prompt.answers = {Answer::Yes};
+    prompt.inputs = {"03-01-24 10:00"};
+    sends("KWTa\x1a");
+    EXPECT_EQ(download.DownLoadProc()->text, "KWTa" + std::string(26, ' ') + "03-01-24 10:00\x1a");
+}
+
+TEST_F(DownloadSessionTest, readingsOf999AreAcceptedAs000) {
+    sends(header() + "\rT: 999 2 3 4 5 6 7 8 9 10\n\x1a");
+    EXPECT_EQ(download.DownLoadProc()->text, header() + "\rT: 000 2 3 4 5 6 7 8 9 10\n\x1a");
+}
+
+TEST_F(DownloadSessionTest, aCancelEndsItAtEachOf200Instants) {
+    // Silence at 9,600, the answer at 115,200 in the middle of the reset, paced to 12.5 s; then nothing more.
+    const std::string text = memory(20);
+    for (int i = 0; i < 200; ++i) {
+        testing::LinkBench bench;
+        bench.automatic(7);
+        bench.line.onOpen = [&](const std::string& settings) {
+            if (settings == "115200,N,8,1")
+                bench.line.sendPaced(bench.waiter.now() + 4000, text, 7);
+        };
+        const std::int64_t at = i * 63;
+        bench.waiter.cancelAt(at);
+        const auto pending = DownloadSession(bench.session).DownLoadProc();
+        EXPECT_FALSE(bench.line.isOpen()) << at;
+        EXPECT_FALSE(bench.panel.isBusy) << at;
+        EXPECT_TRUE(bench.prompt.shown.empty() || pending) << at;
+        const auto& reception = bench.journal.receptions.at(0);
+        if (!pending) {
+            EXPECT_EQ(bench.waiter.now(), at);
+            EXPECT_EQ(reception.state, JournalState::interrupted);
+            EXPECT_EQ(reception.parts.back(), text.substr(0, reception.parts.back().size()));
+        }
+    }
+}
+
+TEST_F(DownloadSessionTest, aCableThatIsPulledAtAnyByteLeavesTheBytesInTheJournal) {
+    const std::string text = memory(5);
+    for (std::size_t n = 0; n < text.size(); ++n) {
+        testing::LinkBench bench;
+        bench.instrument.instSelection = 8;
+        bench.line.onOpen = [&](const std::string&) {
+            bench.waiter.after(50, [&] {
+                bench.line.send(text.substr(0, n));
+                bench.line.lose();
+            });
+        };
+        EXPECT_FALSE(DownloadSession(bench.session).DownLoadProc());
+        EXPECT_EQ(bench.journal.receptions.at(0).parts.back(), text.substr(0, n));
+        EXPECT_EQ(bench.journal.receptions.at(0).state, JournalState::interrupted);
+        EXPECT_EQ(bench.prompt.texts(), std::vector<std::string>{"COM1: the line went away"});
+    }
+}
+
+TEST_F(DownloadSessionTest, aSecondDownloadFollowsTheFirst) {
+    sends(memory(1));
+    EXPECT_TRUE(download.DownLoadProc());
+    sends(memory(2));
+    EXPECT_EQ(download.DownLoadProc()->text, memory(2));
+}
+
+} // namespace
+} // namespace tally
