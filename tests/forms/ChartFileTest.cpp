@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"UnknownMember", [](Json& j) { j["extra"] = 1; }},
         Damage{"NoTitle", [](Json& j) { j.erase("title"); }},
         Damage{"TitleNoText", [](Json& j) { j["title"] = 5; }},
-        Damage{"TitleTooLong", [](Json& j) { j["title"] = std::string(20000, 'x'); }},
+        Damage{"TitleTooLong", [](Json& j) { j["title"] = std::string(70000, 'x'); }},
         Damage{"SeriesNoList", [](Json& j) { j["series"] = Json::object(); }},
         Damage{"TooManySeries", [](Json& j) { j["series"] = Json(std::vector<Json>(13, j["series"][0])); }},
         Damage{"SeriesNoObject", [](Json& j) { j["series"][0] = 7; }},

@@ -18,7 +18,7 @@ constexpr int version = 1;
 constexpr int mostPoints = 42967; // readings that a recording can hold
 constexpr std::size_t mostSeries = 12;
 constexpr std::size_t mostNotes = 1000;
-constexpr std::size_t mostText = 16 * 1024; // bytes
+constexpr std::size_t mostText = 64 * 1024; // bytes
 constexpr int mostDepth = 6;
 constexpr std::size_t mostItems =
     1'000'000; // values of all kinds: bounds the memory before anything is looked at
