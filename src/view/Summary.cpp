@@ -2,6 +2,7 @@
 #include "view/Summary.h"
 
 #include "core/ModeTable.h"
+#include "core/Text1252.h"
 
 #include <array>
 
@@ -29,7 +30,7 @@ std::string modeFacts(const FileFacts& info) {
 }
 
 std::string fileLine(const FileFacts& info) {
-    return "    File:     " + info.path + "             " + "Ser. " + info.serial + "\r\n";
+    return "    File:     " + info.path + "             " + "Ser. " + toUtf8(info.serial) + "\r\n";
 }
 
 std::string noteLines(const Recordings& recordings, int slot) {

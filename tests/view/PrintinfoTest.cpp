@@ -92,6 +92,16 @@ TEST_F(Summary, CurrentFileIsTheOneSummedUp) {
               std::string::npos);
 }
 
+TEST_F(Summary, SerialNumberIsTurnedFromBytesIntoText) {
+    addFile(recordings, "a.dat", {10});
+    recordings.gInfo[0].serial = "\xC4"
+                                 "12 ";
+    EXPECT_NE(Printinfo(recordings, state)
+                  .find("Ser. \xC3\x84"
+                        "12 \r\n"),
+              std::string::npos);
+}
+
 // The blanks and the full stops differ on purpose.
 TEST_F(Summary, TextsWithNoFile) {
     EXPECT_EQ(noFileForSummary, "Error - No file available. Need to open a file.");
