@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "export/CsvData.h"
+
+#include "core/Fault.h"
+#include "core/ModeTable.h"
+#include "view/FieldWriter.h"
+#include "view/PlotSeries.h"
+#include "view/RunningTime.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace tally {
+
+namespace {
+
+constexpr std::size_t readingsPerLine = 8;
+constexpr std::string_view timeColumn = " %H:%M  %b %d, %y,";
+constexpr std::size_t timeChars = 19;
+constexpr std::string_view lowField = "  000.0";
+constexpr std::string_view highField = " 0000 ";
+// A 16-bit number makes a field of at most "  -3276.8,  ".
+constexpr std::size_t mostLineChars = timeChars + readingsPerLine * 12 + 2;
+
+// A field, a comma and two blanks.
+char* writeField(char* to, const FieldWriter& field, std::int16_t tenths) {
+    char* const gap = field.write(to, tenths) - 2;
+    return std::copy_n(",  ", 3, gap);
+}
+
+} // namespace
+
+std::string csvText(const Recordings& recordings, int slot, const ShownRange& range) {
+    const FileFacts& info = recordings.info(slot);
+    const FieldWriter field(info.low ? lowField : highField);
+    const int minutesPerLine = modeRow(info.modeLetter).minutes * static_cast<int>(readingsPerLine);
+    RunningTime time(timeColumn, timeOf(info, range.first));
+    auto readings = present(recordings, slot, range);
+    // Room for the longest lines, and for the writer, which may touch what lies behind its field.
+    std::string text((readings.size() / readingsPerLine + 1) * mostLineChars + FieldWriter::mostChars, ' ');
+    char* to = text.data();
+    while (!readings.empty()) {
+        const auto inLine = std::min(readingsPerLine, readings.size());
+        to = std::copy_n(time.text().data(), timeChars, to);
+        for (const std::int16_t tenths : readings.first(inLine))
+            to = writeField(to, field, tenths);
+        *to++ = '\r';
+        *to++ = '\n';
+        readings = readings.subspan(inLine);
+        time.advance(minutesPerLine);
+    }
+    text.resize(static_cast<std::size_t>(to - text.data()));
+    return text;
+}
+
+ExportOutcome CsvData(const ExportDesk& desk) {
+    Recordings& recordings = desk.recordings;
+    const int slot = recordings.ginx;
+    if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot)) {
+        desk.prompt.tell(std::string(noFileToExport));
+        return ExportOutcome::noFile;
+    }
+    const char letter = recordings.info(slot).modeLetter;
+    if (letter != 'a' && letter != 'd') {
+        recordings.gTable.clear();
+        desk.prompt.tell(std::string(csvWrongMode));
+        return ExportOutcome::wrongMode;
+    }
+    const std::string path = exportPath(desk, slot, std::string(csvName));
+    if (refuseOwnFile(desk, path))
+        return ExportOutcome::ownFile;
+    const ShownRange range =
+        desk.state.spanApplied ? shownRange(recordings, desk.state, slot) : wholeFile(recordings, slot);
+    std::string text = csvText(recordings, slot, range);
+    const std::size_t tableSize = text.size();
+    text += "\r\n";
+    desk.files.write(path, text);
+    text.resize(tableSize);
+    recordings.gTable = std::move(text);
+    desk.prompt.tell(path + " saved OK ");
+    return ExportOutcome::saved;
+}
+
+} // namespace tally

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "export/ExportDesk.h"
+#include "support/FixedClock.h"
+#include "support/MemoryFiles.h"
+#include "support/QueuedPrompt.h"
+#include "support/SampleFile.h"
+#include "view/Span.h"
+
+#include <gtest/gtest.h>
+
+namespace tally::testing {
+
+// A desk with nothing open; exports go to /out.
+class ExportTest : public ::testing::Test {
+protected:
+    Recordings recordings;
+    DisplayState state;
+    MemoryFiles files;
+    QueuedPrompt prompt;
+    FixedClock clock;
+    ExportDesk desk{recordings, state, files, prompt, "/out"};
+
+    static std::string blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
+};
+
+inline std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t from = 0;
+    for (auto at = text.find("\r\n"); at != std::string::npos; at = text.find("\r\n", from)) {
+        lines.push_back(text.substr(from, at - from));
+        from = at + 2;
+    }
+    EXPECT_EQ(from, text.size()) << "the text does not end with CR LF";
+    return lines;
+}
+
+} // namespace tally::testing
