@@ -8,8 +8,11 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QLineEdit>
+#include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -45,6 +48,19 @@ TEST_F(PaperPrint, AChartTakesOnePage) {
     EXPECT_TRUE(printChart(testing::samplePlot(42966, 3), {{0.1, 0.1, "Storm"}}, printer, files, &why))
         << why;
     EXPECT_THAT(files.contents["out.pdf"], HasSubstr("/Count 1"));
+}
+
+TEST_F(PaperPrint, TheUsersNameStandsBelowTheChart) {
+    EXPECT_TRUE(printChart(testing::samplePlot(100), {}, printer, files, &why, "J. Miller")) << why;
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("chart.pdf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(files.contents["out.pdf"].data(), qint64(files.contents["out.pdf"].size()));
+    file.close();
+    QProcess reader;
+    reader.start(QStringLiteral("pdftotext"), {file.fileName(), QStringLiteral("-")});
+    ASSERT_TRUE(reader.waitForFinished(20000));
+    EXPECT_THAT(reader.readAllStandardOutput().toStdString(), HasSubstr("J. Miller"));
 }
 
 TEST_F(PaperPrint, AFullDiskIsToldAndTheOldFileStays) {
@@ -101,6 +117,37 @@ TEST_F(PaperPrint, ACancelledDialogPrintsAndTellsNothing) {
     EXPECT_TRUE(files.contents.empty());
 }
 
+// What a user does who prints into a file.
+void acceptInto(const QString& path) {
+    whenOpen(QStringLiteral("printDialog"), [path](QDialog& dialog) {
+        dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(path);
+        dialog.accept();
+    });
+}
+
+TEST_F(PaperPrint, AnAcceptedDialogPrintsIntoTheFileThatWasNamed) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("printed.pdf"));
+    testing::QueuedPrompt prompt;
+    Paper paper(prompt, files, nullptr);
+    acceptInto(path);
+    EXPECT_TRUE(paper.printWithDialog(report));
+    EXPECT_THAT(files.contents[path.toStdString()], StartsWith("%PDF"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(PaperPrint, AFailureIsToldInABox) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("printed.pdf"));
+    testing::QueuedPrompt prompt;
+    Paper paper(prompt, files, nullptr);
+    files.failWrite = fault::diskFull();
+    acceptInto(path);
+    EXPECT_FALSE(paper.printWithDialog(testing::samplePlot(100), {}));
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_EQ(prompt.shown[0].text, "Disk full: " + path.toStdString());
+}
+
 TEST_F(PaperPrint, ThePreviewShowsAllPages) {
     testing::QueuedPrompt prompt;
     Paper paper(prompt, files, nullptr);
@@ -124,6 +171,23 @@ TEST_F(PaperPrint, ThePreviewShowsAllPages) {
     });
     EXPECT_FALSE(paper.preview(testing::samplePlot(3000, 3), {}));
     EXPECT_EQ(pages, 1);
+}
+
+TEST_F(PaperPrint, APrintFromThePreviewGoesThroughTheFilesAndIsTold) {
+    testing::QueuedPrompt prompt;
+    Paper paper(prompt, files, nullptr);
+    const auto printAndClose = [this](QDialog& dialog) {
+        Q_EMIT qobject_cast<QPrintPreviewDialog*>(&dialog)->paintRequested(&printer);
+        dialog.accept();
+    };
+    whenOpen(QStringLiteral("previewDialog"), printAndClose);
+    EXPECT_TRUE(paper.preview(report));
+    EXPECT_THAT(files.contents["out.pdf"], StartsWith("%PDF"));
+    files.failWrite = fault::permissionDenied();
+    whenOpen(QStringLiteral("previewDialog"), printAndClose);
+    EXPECT_FALSE(paper.preview(report));
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_EQ(prompt.shown[0].text, "Permission denied: out.pdf");
 }
 
 } // namespace

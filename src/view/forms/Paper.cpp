@@ -19,6 +19,7 @@ namespace tally {
 namespace {
 
 constexpr int chartWidth = 1040; // pixels that the width of a page shows
+constexpr int footerHeight = 20;
 
 // Draws all pages on a device; false when it would not begin or go on.
 using Painting = std::function<bool(QPagedPaintDevice& device)>;
@@ -38,16 +39,29 @@ bool paintText(const TextReport& report, QPagedPaintDevice& device, int from = 1
     return painter.end();
 }
 
-bool paintChart(const Plot& plot, const std::vector<ChartNote>& notes, QPagedPaintDevice& device) {
+// A chart and what stands around it on paper.
+struct ChartPage {
+    const Plot& plot;
+    const std::vector<ChartNote>& notes;
+    const std::string& user;
+};
+
+bool paintChart(const ChartPage& page, QPagedPaintDevice& device) {
     PlotScene scene;
-    scene.setPlot(plot);
-    scene.notes = notes;
+    scene.setPlot(page.plot);
+    scene.notes = page.notes;
     QCPPainter painter;
     if (!painter.begin(&device))
         return false;
     const double scale = double(device.width()) / chartWidth;
     painter.scale(scale, scale);
-    scene.paint(painter, QSize(chartWidth, int(device.height() / scale)), true);
+    const int height = int(device.height() / scale);
+    const int footer = page.user.empty() ? 0 : footerHeight;
+    scene.paint(painter, QSize(chartWidth, height - footer), true);
+    painter.setPen(scene.look().text);
+    painter.setFont(scene.look().font);
+    painter.drawText(QRect(footer / 2, height - footer, chartWidth, footer), Qt::AlignLeft | Qt::AlignBottom,
+                     QString::fromStdString(page.user));
     return painter.end();
 }
 
@@ -101,8 +115,8 @@ Painting textPainting(const TextReport& report, const QPrinter& printer) {
     return [&report, from, to](QPagedPaintDevice& device) { return paintText(report, device, from, to); };
 }
 
-Painting chartPainting(const Plot& plot, const std::vector<ChartNote>& notes) {
-    return [&plot, &notes](QPagedPaintDevice& device) { return paintChart(plot, notes, device); };
+Painting chartPainting(const ChartPage& page) {
+    return [page](QPagedPaintDevice& device) { return paintChart(page, device); };
 }
 
 void prepare(QPrinter& printer, const QString& name, QPageLayout::Orientation orientation) {
@@ -139,8 +153,8 @@ bool printText(const TextReport& report, QPrinter& printer, Files& files, std::s
 }
 
 bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
-                std::string* why) {
-    return printPages(printer, chartPainting(plot, notes), files, why);
+                std::string* why, const std::string& user) {
+    return printPages(printer, chartPainting({plot, notes, user}), files, why);
 }
 
 std::string pdfOfText(const TextReport& report) {
@@ -190,11 +204,12 @@ bool Paper::printWithDialog(const TextReport& report) {
                        [&](QPrinter& to, std::string* why) { return printText(report, to, files_, why); });
 }
 
-bool Paper::printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes) {
+bool Paper::printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user) {
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer, QString::fromStdString(plot.displaying), QPageLayout::Landscape);
-    return askAndPrint(
-        printer, [&](QPrinter& to, std::string* why) { return printChart(plot, notes, to, files_, why); });
+    return askAndPrint(printer, [&](QPrinter& to, std::string* why) {
+        return printChart(plot, notes, to, files_, why, user);
+    });
 }
 
 bool Paper::preview(const TextReport& report) {
@@ -205,12 +220,15 @@ bool Paper::preview(const TextReport& report) {
         [&](QPrinter& to, std::string* why) { return printText(report, to, files_, why); });
 }
 
-bool Paper::preview(const Plot& plot, const std::vector<ChartNote>& notes) {
+bool Paper::preview(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user) {
     QPrinter printer(QPrinter::HighResolution);
     prepare(printer, QString::fromStdString(plot.displaying), QPageLayout::Landscape);
     return previewAndPrint(
-        printer, [&](QPrinter& on) { paintChart(plot, notes, on); },
-        [&](QPrinter& to, std::string* why) { return printChart(plot, notes, to, files_, why); });
+        printer,
+        [&](QPrinter& on) {
+            paintChart({plot, notes, user}, on);
+        },
+        [&](QPrinter& to, std::string* why) { return printChart(plot, notes, to, files_, why, user); });
 }
 
 } // namespace tally

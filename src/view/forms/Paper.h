@@ -28,9 +28,9 @@ struct TextReport {
 // through files, the whole of it or nothing. False with a message in why: the printer has gone, would not
 // begin, failed on the way, the disk is full.
 bool printText(const TextReport& report, QPrinter& printer, Files& files, std::string* why);
-// Prints the chart on one page.
+// Prints the chart on one page, the user's name below it.
 bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
-                std::string* why);
+                std::string* why, const std::string& user = {});
 // Why nothing can be printed on the printer of this name; empty when it is there.
 std::string printerProblem(const std::string& name);
 // The bytes of the PDF that printText would write on A4.
@@ -43,10 +43,10 @@ public:
     Paper(Prompt& prompt, Files& files, QWidget* parent) : prompt_(prompt), files_(files), parent_(parent) {}
 
     bool printWithDialog(const TextReport& report);
-    bool printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes);
+    bool printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user = {});
     // True when it was also printed from the preview.
     bool preview(const TextReport& report);
-    bool preview(const Plot& plot, const std::vector<ChartNote>& notes);
+    bool preview(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user = {});
 
 private:
     using Show = std::function<void(QPrinter&)>;

@@ -14,7 +14,7 @@ constexpr int margin = 10;          // pixels around the picture
 constexpr int labelCount = 9;       // along the x axis
 constexpr double fewestPoints = 4;  // that a zoomed picture spans
 constexpr double deepestZoom = 1e4; // of the y axis
-constexpr int leastLetters = 9;     // pixels, where a small picture has a long title
+constexpr int leastLetters = 10;    // pixels, where a small picture has a long title
 
 // A range moved and cut so that it lies within the whole.
 std::pair<double, double> within(std::pair<double, double> range, std::pair<double, double> whole) {
