@@ -35,8 +35,6 @@ bool SimulatedInstrument::start(int type) {
     const bool ours = process_.state() != QProcess::NotRunning;
     if (ours && type_ == type)
         return true;
-    if (!ours && QFileInfo::exists(link))
-        return true;
     if (!available() || !folders::make(folders::cache()))
         return false;
     if (ours) {

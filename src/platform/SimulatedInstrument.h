@@ -14,8 +14,8 @@ public:
     // Whether the program "tallyline-sim" stands beside this one.
     static bool available();
 
-    // Starts it at simulatedInstrument(), unless one runs there already, and waits until it is ready. `type`
-    // is an instrument type code 1 to 10. False when it does not come up.
+    // Starts it at simulatedInstrument() and waits until it is ready; does nothing when it runs as this type
+    // already. `type` is an instrument type code 1 to 10. False when it does not come up.
     bool start(int type);
 
 private:

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sim/Transmission.h"
+
+namespace tally::sim {
+
+namespace {
+
+constexpr std::int64_t nanoseconds = 1'000'000; // in a millisecond
+constexpr double bitsPerCharacter = 10;
+// At no time at all an endless text would never end.
+constexpr std::size_t mostAtOnce = 65536;
+
+} // namespace
+
+void Transmission::start(std::int64_t time, std::string text, double baud, std::vector<Stall> stalls,
+                         std::size_t repeatFrom) {
+    *this = Transmission();
+    text_ = std::move(text);
+    stalls_ = std::move(stalls);
+    repeatFrom_ = repeatFrom;
+    perCharacter_ = baud > 0 ? static_cast<std::int64_t>(bitsPerCharacter * 1e9 / baud) : 0;
+    last_ = time * nanoseconds;
+    schedule();
+}
+
+// When the character at the current position is complete.
+void Transmission::schedule() {
+    next_ = last_ + perCharacter_;
+    for (const Stall& stall : stalls_)
+        if (stall.at == count_)
+            next_ += stall.milliseconds * nanoseconds;
+}
+
+std::string Transmission::take(std::int64_t time) {
+    std::string taken;
+    while (!atEnd() && next_ <= time * nanoseconds && taken.size() < mostAtOnce) {
+        taken += text_[position_++];
+        ++count_;
+        last_ = next_;
+        if (position_ == text_.size() && repeatFrom_ < text_.size())
+            position_ = repeatFrom_;
+        schedule();
+    }
+    return taken;
+}
+
+std::int64_t Transmission::nextAt() const {
+    return atEnd() ? never : (next_ + nanoseconds - 1) / nanoseconds;
+}
+
+} // namespace tally::sim
