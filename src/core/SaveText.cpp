@@ -31,7 +31,7 @@ Range rangeToSave(const Recordings& recordings, const FileFacts& info) {
         throw fault::subscript();
     if (isMinMaxAvg(info.modeLetter)) {
         range.last += (newest - range.last) % 3;
-        range.first = std::max(range.first - (newest - range.first + 1) % 3, 0);
+        range.first = std::max(range.first - (3 - (newest - range.first + 1) % 3) % 3, 0);
     }
     return range;
 }
