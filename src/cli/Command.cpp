@@ -1,12 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Command.h"
 
+#include <memory>
+
 namespace tally::cli {
 
 CLI::App& addCommand(CLI::App& program, Context& context, const std::string& name,
                      const std::string& description, Action action) {
     CLI::App* command = program.add_subcommand(name, description);
-    command->callback([&context, action = std::move(action)] { context.action = action; });
+    auto at = std::make_shared<std::string>();
+    command->add_option("--at", *at, "the time to take for the clock's, \"mm-dd-yy hh:mm\"");
+    command->callback([&context, at, action = std::move(action)] {
+        if (!at->empty() && !context.setTime(*at))
+            throw CLI::ValidationError("--at", "'" + *at + "' is no time; write it as \"mm-dd-yy hh:mm\"");
+        context.action = action;
+    });
     return *command;
 }
 

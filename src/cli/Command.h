@@ -34,7 +34,7 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Adds one command, with its options and what it does, to the program.
+// Adds one command, with what it does and the option --at that every command has, to the program.
 //   CLI::App& command = addCommand(program, context, "name", "what it does", action);
 // The options write into variables that the action shares (a std::shared_ptr).
 using AddCommand = void (*)(CLI::App& program, Context& context);

@@ -5,7 +5,7 @@ namespace tally::cli {
 
 const std::vector<AddCommand>& allCommands() {
     static const std::vector<AddCommand> all = {
-        addInfo,
+        addInfo, addReadings, addSave, addTable, addSummary, addPower, addPlot, addNotes, addForce,
     };
     return all;
 }

@@ -7,5 +7,13 @@
 namespace tally::cli {
 
 void addInfo(CLI::App& program, Context& context);
+void addReadings(CLI::App& program, Context& context);
+void addSave(CLI::App& program, Context& context);
+void addTable(CLI::App& program, Context& context);
+void addSummary(CLI::App& program, Context& context);
+void addPower(CLI::App& program, Context& context);
+void addPlot(CLI::App& program, Context& context);
+void addNotes(CLI::App& program, Context& context);
+void addForce(CLI::App& program, Context& context);
 
 } // namespace tally::cli

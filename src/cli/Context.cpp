@@ -22,8 +22,7 @@ private:
     ReadingTime time_;
 };
 
-Context::Context(int& argc, char** argv) : argc_(argc), argv_(argv), files_(std::make_unique<SafeFile>()) {
-}
+Context::Context(int& argc, char** argv) : argc_(argc), argv_(argv), files_(std::make_unique<SafeFile>()) {}
 
 Context::~Context() = default;
 

@@ -3,7 +3,7 @@
 #include "core/ForceReadings.h"
 #include "core/SaveText.h"
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -19,33 +19,33 @@ ForceWhich whichOf(const std::string& name) {
     return name == "left" ? ForceWhich::leftmost : name == "right" ? ForceWhich::rightmost : ForceWhich::all;
 }
 
-int run(Services& services, const Options& options) {
-    OpenFiles open = openFiles(services, {*options.file}, *options.range);
+int run(Context& context, const Options& options) {
+    OpenFiles open = openFiles(context, {*options.file}, *options.range);
     float lastValue = 0;
     const ForceResult result =
         forceReadings(open.recordings, options.value, whichOf(options.which), lastValue);
     if (!result.done())
-        throw Refusal(result.message);
-    warn(std::to_string(result.count) + " reading(s) forced");
+        throw Refused(result.message);
+    context.warn(std::to_string(result.count) + " reading(s) forced");
     open.recordings.gDatastart = 0;
     open.recordings.gdataend = open.recordings.info(0).count - 1;
-    writeFile(services, options.to, quoted(buildDataText(open.recordings)));
+    writeFile(context, options.to, tally::quoted(buildDataText(open.recordings)));
     return 0;
 }
 
 } // namespace
 
-void addForce(CLI::App& program, Services& services) {
+void addForce(CLI::App& program, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "force", "force readings to one value and save the whole file",
-                   [&services, options] { return run(services, *options); });
-    options->file = addFile(*command);
-    options->range = addRange(*command);
-    command->add_option("-o,--output", options->to, "the data file to write")->required();
-    command->add_option("--value", options->value, "the new value, in units")->required();
-    command->add_option("--which", options->which, "which readings of the range")
+    CLI::App& command =
+        addCommand(program, shared, "force", "force readings to one value and save the whole file",
+                   [options](Context& context) { return run(context, *options); });
+    options->file = addFile(command);
+    options->range = addRange(command);
+    command.add_option("-o,--output", options->to, "the data file to write")->required();
+    command.add_option("--value", options->value, "the new value, in units")->required();
+    command.add_option("--which", options->which, "which readings of the range")
         ->check(CLI::IsMember({"all", "left", "right"}));
 }
 
-} // namespace tally
+} // namespace tally::cli

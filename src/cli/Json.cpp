@@ -4,7 +4,7 @@
 #include "cli/Command.h"
 #include "core/Numbers.h"
 
-namespace tally {
+namespace tally::cli {
 
 std::shared_ptr<bool> addJson(CLI::App& command) {
     auto json = std::make_shared<bool>(false);
@@ -12,9 +12,9 @@ std::shared_ptr<bool> addJson(CLI::App& command) {
     return json;
 }
 
-void outJson(const Json& document) {
+void outJson(Context& context, const Json& document) {
     // A byte that is no character becomes a replacement character rather than an error.
-    out(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
+    context.out(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }
 
 double inUnits(std::int32_t tenths) {
@@ -25,4 +25,4 @@ double shortest(float value) {
     return Val(plain(value));
 }
 
-} // namespace tally
+} // namespace tally::cli

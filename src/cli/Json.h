@@ -11,7 +11,9 @@ namespace CLI {
 class App;
 }
 
-namespace tally {
+namespace tally::cli {
+
+class Context;
 
 // Keys keep the order in which they are written.
 using Json = nlohmann::ordered_json;
@@ -20,11 +22,11 @@ using Json = nlohmann::ordered_json;
 std::shared_ptr<bool> addJson(CLI::App& command);
 
 // Writes one JSON document and a line break to standard output.
-void outJson(const Json& document);
+void outJson(Context& context, const Json& document);
 
 // Tenths as a number in units.
 double inUnits(std::int32_t tenths);
 // A number in single precision with no more digits than it holds.
 double shortest(float value);
 
-} // namespace tally
+} // namespace tally::cli

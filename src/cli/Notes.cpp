@@ -4,7 +4,7 @@
 
 #include <array>
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -17,8 +17,8 @@ struct Options {
 constexpr std::array<const char*, 4> labels = {"Location", "Circuit", "Name", "Other"};
 constexpr std::array<const char*, 4> names = {"--location", "--circuit", "--name", "--other"};
 
-int run(Services& services, const Options& options) {
-    OpenFiles open = openFiles(services, {*options.file});
+int run(Context& context, const Options& options) {
+    OpenFiles open = openFiles(context, {*options.file});
     auto notes = open.recordings.gNotes[0];
     bool set = false;
     for (std::size_t i = 0; i < notes.size(); ++i) {
@@ -28,27 +28,27 @@ int run(Services& services, const Options& options) {
         set = true;
     }
     if (set) {
-        saveNotes(open.recordings, services.files(), 0, notes);
+        saveNotes(open.recordings, context.files(), 0, notes);
         return 0;
     }
     std::string text;
     for (std::size_t i = 0; i < notes.size(); ++i)
         text += std::string(labels[i]) + ": " + notes[i] + "\n";
-    out(text);
+    context.out(text);
     return 0;
 }
 
 } // namespace
 
-void addNotes(CLI::App& program, Services& services) {
+void addNotes(CLI::App& program, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "notes", "print the four notes of a data file, or set some",
-                   [&services, options] { return run(services, *options); });
-    options->file = addFile(*command);
+    CLI::App& command =
+        addCommand(program, shared, "notes", "print the four notes of a data file, or set some",
+                   [options](Context& context) { return run(context, *options); });
+    options->file = addFile(command);
     for (std::size_t i = 0; i < names.size(); ++i)
         options->given[i] =
-            command->add_option(names[i], options->texts[i], std::string("the new text of ") + labels[i]);
+            command.add_option(names[i], options->texts[i], std::string("the new text of ") + labels[i]);
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -3,11 +3,12 @@
 
 #include "core/Fault.h"
 #include "core/Fileopen.h"
+#include "core/NotesFile.h"
 #include "view/Span.h"
 
 #include <charconv>
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -22,10 +23,12 @@ int indexOf(const std::string& text, int whenEmpty) {
     return index;
 }
 
-void warnOfUnreadable(const FileFacts& info) {
+void warnOfUnreadable(Context& context, const FileFacts& info) {
     if (info.unreadable > 0)
-        warn(info.path + ": " + std::to_string(info.unreadable) +
-             " item(s) could not be read as numbers; each counts with its leading number, or 0");
+        context.warn(info.path + ": " + std::to_string(info.unreadable) +
+                     " item(s) could not be read as numbers; each counts with its leading number, or 0");
+    if (info.notesUnreadable)
+        context.warn(notesPath(info.path) + ": the notes file cannot be read");
 }
 
 } // namespace
@@ -49,13 +52,13 @@ std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command) {
     return files;
 }
 
-OpenFiles openFiles(Services& services, const std::vector<std::string>& paths) {
+OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
     OpenFiles open;
     for (const std::string& path : paths) {
-        const OpenOutcome outcome = Fileopen(open.recordings, services.files(), path);
+        const OpenOutcome outcome = Fileopen(open.recordings, context.files(), path);
         if (outcome != OpenOutcome::opened)
-            throw Refusal(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
-        warnOfUnreadable(open.recordings.info(open.recordings.ginx));
+            throw Refused(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
+        warnOfUnreadable(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;
     open.recordings.gDatastart = 0;
@@ -63,8 +66,8 @@ OpenFiles openFiles(Services& services, const std::vector<std::string>& paths) {
     return open;
 }
 
-OpenFiles openFiles(Services& services, const std::vector<std::string>& paths, const RangeOptions& range) {
-    OpenFiles open = openFiles(services, paths);
+OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, const RangeOptions& range) {
+    OpenFiles open = openFiles(context, paths);
     if (!range.given())
         return open;
     const int last = open.recordings.info(0).count - 1;
@@ -77,12 +80,12 @@ OpenFiles openFiles(Services& services, const std::vector<std::string>& paths, c
     return open;
 }
 
-void writeFile(Services& services, const std::string& path, const std::string& bytes) {
+void writeFile(Context& context, const std::string& path, const std::string& bytes) {
     try {
-        services.files().write(path, bytes);
+        context.files().write(path, bytes);
     } catch (const Fault& fault) {
-        throw Refusal(std::string(fault.what()) + "\n" + path + " was not written.");
+        throw Refused(std::string(fault.what()) + "\n" + path + " was not written.");
     }
 }
 
-} // namespace tally
+} // namespace tally::cli

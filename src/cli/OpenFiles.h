@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-namespace tally {
+namespace tally::cli {
 
 // The options --from and --to of a command, as they were typed.
 struct RangeOptions {
@@ -32,11 +32,11 @@ std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command);
 
 // Opens files, the first one current. Items that were no numbers are warned of. Throws Refusal with the text
 // of what was refused.
-OpenFiles openFiles(Services& services, const std::vector<std::string>& paths);
+OpenFiles openFiles(Context& context, const std::vector<std::string>& paths);
 // The same with the range marked and applied. Throws WrongUsage for a bad range.
-OpenFiles openFiles(Services& services, const std::vector<std::string>& paths, const RangeOptions& range);
+OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, const RangeOptions& range);
 
 // Writes a file as a whole. Throws Refusal that names the file and the cause.
-void writeFile(Services& services, const std::string& path, const std::string& bytes);
+void writeFile(Context& context, const std::string& path, const std::string& bytes);
 
-} // namespace tally
+} // namespace tally::cli

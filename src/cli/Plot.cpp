@@ -5,11 +5,9 @@
 #include "view/Span.h"
 #include "view/forms/ChartPicture.h"
 
-#include <QApplication>
-
 #include <charconv>
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -58,63 +56,57 @@ Json jsonOf(const Plot& plot, const DisplayState& state) {
             {"extremeMax", state.extremeMax}};
 }
 
-Plot draw(Services& services, OpenFiles& open, const Options& options) {
+Plot draw(Context& context, OpenFiles& open, const Options& options) {
     if (!options.yMin.empty())
         setScale(open.state, options.yMin);
     open.state.dataDisplayed = statisticOf(options.show);
     if (options.asPower)
-        return drawPower(services, open, *options.power);
-    if (options.range->given()) {
-        open.state.spanSelected = true;
+        return drawPower(context, open, *options.power);
+    if (options.range->given())
         requestZoom(open.recordings, open.state);
-    }
-    return DisplPlot(open.recordings, open.state, services.clock());
+    return DisplPlot(open.recordings, open.state, context.clock());
 }
 
-void writePicture(Services& services, const Plot& plot, const std::string& path, QSize size) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    char name[] = "tallyline-cli";
-    char* arguments[] = {name, nullptr};
-    int count = 1;
-    const QApplication application(count, arguments);
+void writePicture(Context& context, const Plot& plot, const std::string& path, QSize size) {
+    context.needPainting();
     std::string why;
-    if (!exportPicture(plot, {}, path, size, services.files(), &why))
-        throw Refusal(why);
+    if (!exportPicture(plot, {}, path, size, context.files(), &why))
+        throw Refused(why);
 }
 
-int run(Services& services, const Options& options) {
+int run(Context& context, const Options& options) {
     const QSize size = sizeOf(options.size);
     if (options.to.empty() && !*options.json)
         throw WrongUsage("Name the picture to write with -o, or ask for --json");
     if (!options.to.empty() && !pictureKind(options.to))
         throw WrongUsage("-o: '" + options.to + "' must end in .png, .pdf or .svg");
-    OpenFiles open = openFiles(services, *options.files, *options.range);
-    const Plot plot = draw(services, open, options);
+    OpenFiles open = openFiles(context, *options.files, *options.range);
+    const Plot plot = draw(context, open, options);
     if (!plot.remark.empty())
-        warn(plot.remark);
+        context.warn(plot.remark);
     if (!options.to.empty())
-        writePicture(services, plot, options.to, size);
+        writePicture(context, plot, options.to, size);
     if (*options.json)
-        outJson(jsonOf(plot, open.state));
+        outJson(context, jsonOf(plot, open.state));
     return 0;
 }
 
 } // namespace
 
-void addPlot(CLI::App& program, Services& services) {
+void addPlot(CLI::App& program, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App* command = addCommand(program, services, "plot", "draw one to three files as PNG, PDF or SVG",
-                                   [&services, options] { return run(services, *options); });
-    options->files = addFiles(*command);
-    options->range = addRange(*command);
-    options->power = addPowerOptions(*command);
-    options->json = addJson(*command);
-    command->add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
-    command->add_option("--show", options->show, "what several Min/Max/Avg files show")
+    CLI::App& command = addCommand(program, shared, "plot", "draw one to three files as PNG, PDF or SVG",
+                                   [options](Context& context) { return run(context, *options); });
+    options->files = addFiles(command);
+    options->range = addRange(command);
+    options->power = addPowerOptions(command);
+    options->json = addJson(command);
+    command.add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
+    command.add_option("--show", options->show, "what several Min/Max/Avg files show")
         ->check(CLI::IsMember({"avg", "max", "min"}));
-    command->add_option("--ymin", options->yMin, "least value of the y axis, a whole number");
-    command->add_flag("--power", options->asPower, "draw kilowatts");
-    command->add_option("--size", options->size, "width and height in pixels")->capture_default_str();
+    command.add_option("--ymin", options->yMin, "least value of the y axis, a whole number");
+    command.add_flag("--power", options->asPower, "draw kilowatts");
+    command.add_option("--size", options->size, "width and height in pixels")->capture_default_str();
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -4,7 +4,7 @@
 #include "view/Printpwr.h"
 #include "view/Printpwrinfo.h"
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -30,36 +30,36 @@ Json jsonOf(const OpenFiles& open, const Plot& plot, const std::string& title) {
             {"title", title}};
 }
 
-int run(Services& services, const Options& options) {
-    OpenFiles open = openFiles(services, *options.files, *options.range);
-    const Plot plot = drawPower(services, open, *options.power);
-    const std::string vline = options.power->vline(services);
+int run(Context& context, const Options& options) {
+    OpenFiles open = openFiles(context, *options.files, *options.range);
+    const Plot plot = drawPower(context, open, *options.power);
+    const std::string vline = options.power->vline(context);
     if (*options.json) {
-        outJson(jsonOf(open, plot, plot.title.substr(0, plot.title.find("\r\n"))));
+        outJson(context, jsonOf(open, plot, plot.title.substr(0, plot.title.find("\r\n"))));
     } else if (options.table) {
         const std::string heading = Printpwr(open.recordings, open.state);
-        out(heading + "\r\n" + open.recordings.gTable);
+        context.out(heading + "\r\n" + open.recordings.gTable);
     } else {
-        out(Printpwrinfo(open.recordings, open.state, vline));
+        context.out(Printpwrinfo(open.recordings, open.state, vline));
     }
     return 0;
 }
 
 } // namespace
 
-void addPower(CLI::App& program, Services& services) {
+void addPower(CLI::App& program, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "power", "kilowatts and energy of one to three files of amps",
-                   [&services, options] { return run(services, *options); });
-    options->files = addFiles(*command);
-    options->range = addRange(*command);
-    options->power = addPowerOptions(*command);
-    options->json = addJson(*command);
-    auto* table = command->add_flag("--table", options->table, "print the power table");
-    auto* summary = command->add_flag("--summary", options->summary, "print the power summary (the default)");
+    CLI::App& command =
+        addCommand(program, shared, "power", "kilowatts and energy of one to three files of amps",
+                   [options](Context& context) { return run(context, *options); });
+    options->files = addFiles(command);
+    options->range = addRange(command);
+    options->power = addPowerOptions(command);
+    options->json = addJson(command);
+    auto* table = command.add_flag("--table", options->table, "print the power table");
+    auto* summary = command.add_flag("--summary", options->summary, "print the power summary (the default)");
     table->excludes("--json")->excludes(summary);
     summary->excludes("--json");
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -4,10 +4,10 @@
 #include "view/LineVoltage.h"
 #include "view/Power.h"
 
-namespace tally {
+namespace tally::cli {
 
-std::string PowerOptions::vline(Services& services) const {
-    return volts.empty() ? vlineOf(services.settings()) : volts;
+std::string PowerOptions::vline(Context& context) const {
+    return volts.empty() ? vlineOf(context.settings()) : volts;
 }
 
 std::shared_ptr<PowerOptions> addPowerOptions(CLI::App& command) {
@@ -17,17 +17,17 @@ std::shared_ptr<PowerOptions> addPowerOptions(CLI::App& command) {
     return options;
 }
 
-Plot drawPower(Services& services, OpenFiles& open, const PowerOptions& options) {
-    const std::string vline = options.vline(services);
+Plot drawPower(Context& context, OpenFiles& open, const PowerOptions& options) {
+    const std::string vline = options.vline(context);
     if (const std::string hint = voltageHint(vline); !hint.empty())
-        warn(hint);
+        context.warn(hint);
     setPowerFactor(open.recordings, options.powerFactor);
     Plot plot;
     const PowerRefusal refusal =
-        DisplPlotPwr(open.recordings, open.state, voltsOf(vline), services.clock(), plot);
+        DisplPlotPwr(open.recordings, open.state, voltsOf(vline), context.clock(), plot);
     if (refusal != PowerRefusal::none)
-        throw Refusal(std::string(refusalText(refusal)));
+        throw Refused(std::string(refusalText(refusal)));
     return plot;
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-namespace tally {
+namespace tally::cli {
 
 // --volts and --pf, as they were typed.
 struct PowerOptions {
@@ -15,12 +15,12 @@ struct PowerOptions {
     std::string powerFactor;
 
     // The line voltage as text: the given one, the stored one or the default.
-    std::string vline(Services& services) const;
+    std::string vline(Context& context) const;
 };
 
 std::shared_ptr<PowerOptions> addPowerOptions(CLI::App& command);
 
 // Draws the power plot of the open files over their range. Throws Refusal with the text of the box.
-Plot drawPower(Services& services, OpenFiles& open, const PowerOptions& options);
+Plot drawPower(Context& context, OpenFiles& open, const PowerOptions& options);
 
-} // namespace tally
+} // namespace tally::cli

@@ -8,16 +8,26 @@ namespace tally::cli {
 
 namespace {
 
+void warnUsage(Context& context, const CLI::App& program) {
+    const auto chosen = program.get_subcommands();
+    std::string line = "Usage: tallyline-cli ";
+    if (chosen.empty())
+        line += "COMMAND [ARG...]";
+    else
+        line += chosen.front()->get_name();
+    if (!chosen.empty())
+        for (const CLI::Option* option : chosen.front()->get_options())
+            if (option->get_positional())
+                line += " " + option->get_name(true, false);
+    context.warn(line + " [--option VALUE]; see tallyline-cli --help");
+}
+
 // Help and version are done on standard output; anything else wrong with the arguments is a usage error.
 int parseFailure(const CLI::App& program, Context& context, const CLI::ParseError& error) {
     if (error.get_exit_code() == 0)
         return program.exit(error);
-    const auto chosen = program.get_subcommands();
-    const CLI::App* command = chosen.empty() ? &program : chosen.front();
     context.warn(error.what());
-    context.warn("Usage: tallyline-cli " + (chosen.empty() ? std::string("COMMAND [ARG...]")
-                                                           : command->get_name() + " [ARG...]") +
-                 " [--option VALUE]; see tallyline-cli --help");
+    warnUsage(context, program);
     return status::usage;
 }
 
@@ -29,13 +39,12 @@ int runAction(Context& context, const CLI::App& program) {
         context.warn("Standard output cannot be written");
     } catch (const WrongUsage& wrong) {
         context.warn(wrong.what());
-        context.warn("Usage: tallyline-cli " + program.get_subcommands().front()->get_name() +
-                     " [ARG...] [--option VALUE]; see tallyline-cli --help");
+        warnUsage(context, program);
         return status::usage;
     } catch (const Refused& refused) {
         context.warn(refused.what());
     } catch (const Fault& fault) {
-        context.warn(faultReport(fault));
+        context.warn(fault.what());
     }
     return status::refused;
 }

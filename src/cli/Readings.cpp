@@ -4,7 +4,7 @@
 #include "core/Numbers.h"
 #include "view/ShownRange.h"
 
-namespace tally {
+namespace tally::cli {
 
 namespace {
 
@@ -27,26 +27,26 @@ std::string linesOf(const Recordings& recordings, const ShownRange& range) {
 
 } // namespace
 
-void addReadings(CLI::App& program, Services& services) {
+void addReadings(CLI::App& program, Context& shared) {
     struct Options {
         std::shared_ptr<std::string> file;
         std::shared_ptr<RangeOptions> range;
         std::shared_ptr<bool> json;
     };
     auto options = std::make_shared<Options>();
-    CLI::App* command = addCommand(
-        program, services, "readings", "index, time and value of each reading", [&services, options] {
-            const OpenFiles open = openFiles(services, {*options->file}, *options->range);
+    CLI::App& command = addCommand(
+        program, shared, "readings", "index, time and value of each reading", [options](Context& context) {
+            const OpenFiles open = openFiles(context, {*options->file}, *options->range);
             const ShownRange range = {open.recordings.gDatastart, open.recordings.gdataend};
             if (*options->json)
-                outJson(jsonOf(open.recordings, range));
+                outJson(context, jsonOf(open.recordings, range));
             else
-                out(linesOf(open.recordings, range));
+                context.out(linesOf(open.recordings, range));
             return 0;
         });
-    options->file = addFile(*command);
-    options->range = addRange(*command);
-    options->json = addJson(*command);
+    options->file = addFile(command);
+    options->range = addRange(command);
+    options->json = addJson(command);
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -2,24 +2,24 @@
 #include "cli/OpenFiles.h"
 #include "core/SaveText.h"
 
-namespace tally {
+namespace tally::cli {
 
-void addSave(CLI::App& program, Services& services) {
+void addSave(CLI::App& program, Context& shared) {
     struct Options {
         std::shared_ptr<std::string> file;
         std::shared_ptr<RangeOptions> range;
         std::string to;
     };
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "save", "write the data file of a range", [&services, options] {
-            const OpenFiles open = openFiles(services, {*options->file}, *options->range);
-            writeFile(services, options->to, quoted(buildDataText(open.recordings)));
+    CLI::App& command =
+        addCommand(program, shared, "save", "write the data file of a range", [options](Context& context) {
+            const OpenFiles open = openFiles(context, {*options->file}, *options->range);
+            writeFile(context, options->to, tally::quoted(buildDataText(open.recordings)));
             return 0;
         });
-    options->file = addFile(*command);
-    options->range = addRange(*command);
-    command->add_option("-o,--output", options->to, "the data file to write")->required();
+    options->file = addFile(command);
+    options->range = addRange(command);
+    command.add_option("-o,--output", options->to, "the data file to write")->required();
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -3,24 +3,24 @@
 #include "view/PlotModel.h"
 #include "view/Printinfo.h"
 
-namespace tally {
+namespace tally::cli {
 
-void addSummary(CLI::App& program, Services& services) {
+void addSummary(CLI::App& program, Context& shared) {
     struct Options {
         std::shared_ptr<std::string> file;
         std::shared_ptr<RangeOptions> range;
     };
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "summary", "the summary of a data file", [&services, options] {
-            OpenFiles open = openFiles(services, {*options->file}, *options->range);
+    CLI::App& command =
+        addCommand(program, shared, "summary", "the summary of a data file", [options](Context& context) {
+            OpenFiles open = openFiles(context, {*options->file}, *options->range);
             // The extremes of the selected range are those that its plot finds.
-            DisplPlot(open.recordings, open.state, services.clock());
-            out(Printinfo(open.recordings, open.state));
+            DisplPlot(open.recordings, open.state, context.clock());
+            context.out(Printinfo(open.recordings, open.state));
             return 0;
         });
-    options->file = addFile(*command);
-    options->range = addRange(*command);
+    options->file = addFile(command);
+    options->range = addRange(command);
 }
 
-} // namespace tally
+} // namespace tally::cli

@@ -2,23 +2,23 @@
 #include "cli/OpenFiles.h"
 #include "view/Print.h"
 
-namespace tally {
+namespace tally::cli {
 
-void addTable(CLI::App& program, Services& services) {
+void addTable(CLI::App& program, Context& shared) {
     struct Options {
         std::shared_ptr<std::string> file;
         std::shared_ptr<RangeOptions> range;
     };
     auto options = std::make_shared<Options>();
-    CLI::App* command =
-        addCommand(program, services, "table", "the data table: heading and readings", [&services, options] {
-            OpenFiles open = openFiles(services, {*options->file}, *options->range);
-            const std::string heading = Print(open.recordings, open.state);
-            out(heading + "\r\n" + open.recordings.gTable);
-            return 0;
-        });
-    options->file = addFile(*command);
-    options->range = addRange(*command);
+    CLI::App& command = addCommand(program, shared, "table", "the data table: heading and readings",
+                                   [options](Context& context) {
+                                       OpenFiles open = openFiles(context, {*options->file}, *options->range);
+                                       const std::string heading = Print(open.recordings, open.state);
+                                       context.out(heading + "\r\n" + open.recordings.gTable);
+                                       return 0;
+                                   });
+    options->file = addFile(command);
+    options->range = addRange(command);
 }
 
-} // namespace tally
+} // namespace tally::cli
