@@ -117,7 +117,7 @@ std::string roundDigits(std::string digits, std::size_t decimals) {
 
 void groupThousands(std::string& whole) {
     for (auto i = static_cast<std::ptrdiff_t>(whole.size()) - 3; i > 0; i -= 3)
-        whole.insert(static_cast<std::size_t>(i), ",");
+        whole.insert(static_cast<std::size_t>(i), 1, ',');
 }
 
 template <typename Real>
@@ -191,7 +191,10 @@ std::string plainTenths(std::int32_t tenths) {
 }
 
 std::string Str(double value) {
-    return value < 0 ? plain(value) : " " + plain(value);
+    std::string text = plain(value);
+    if (value >= 0)
+        text.insert(0, 1, ' ');
+    return text;
 }
 
 std::string Format(double value, std::string_view pattern) {
