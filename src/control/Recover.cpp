@@ -121,25 +121,22 @@ std::optional<PendingDownload> RecoverSession::RecoverProc(Files& files, const s
 }
 
 RecoverSession::Step RecoverSession::receive() {
-    Step step = waitForCharacter();
-    session_.panel.progressVisible(step == Step::goOn);
-    while (step == Step::goOn) {
+    for (Step step = Step::goOn;;) {
+        if (session_.until(Waiter::never) == Wake::cancelled)
+            return Step::cancelled;
         const std::string input = session_.Input();
         if (!input.empty())
             step = onCharacter(input[0]);
-        if (step == Step::goOn)
-            step = waitForCharacter();
+        else if (session_.lost())
+            return Step::lost;
+        if (step != Step::goOn)
+            return step;
     }
-    return step;
-}
-
-RecoverSession::Step RecoverSession::waitForCharacter() {
-    if (session_.until(Waiter::never) == Wake::cancelled)
-        return Step::cancelled;
-    return session_.lost() ? Step::lost : Step::goOn;
 }
 
 RecoverSession::Step RecoverSession::onCharacter(char c) {
+    if (text_.empty())
+        session_.panel.progressVisible(true);
     text_ += scan_.feed(c);
     if (text_.size() > mostCharacters)
         throw fault::subscript();

@@ -33,7 +33,6 @@ private:
     enum class Step { goOn, complete, cancelled, lost, notValid, notVoltmeter };
 
     Step receive();
-    Step waitForCharacter();
     Step onCharacter(char c);
     Step judge(char c) const;
     void countProgress();

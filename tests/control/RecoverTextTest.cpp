@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "control/RecoverText.h"
+
+#include "Bench.h"
+#include "core/Fault.h"
+
+namespace tally {
+namespace {
+
+using testing::header;
+
+std::string memory(char mode, int readings, const std::string& time = "03-15-24 14:05") {
+    std::string text = header("PQX", mode, "0417", time) + "\r\nT:";
+    for (int i = 0; i < readings; ++i)
+        text += i % 10 == 9 ? " 123\r\n" : " 123";
+    return text + "\x1a";
+}
+
+ReadingTime at(int day, int hour, int minute) {
+    return toReadingTime({2024, 3, day, hour, minute});
+}
+
+TEST(RecoverText, OffsetsCountFromTheFamilyInitial) {
+    const std::string text = ";;" + memory('F', 3);
+    EXPECT_EQ(recoverCharacter(text, 0), 'P');
+    EXPECT_EQ(recoverCharacter(text, 2), 'X');
+    EXPECT_EQ(recoverCharacter(text, 3), 'F');
+    EXPECT_EQ(recoverCharacter(text, 46), 'T');
+    EXPECT_EQ(recoverCharacter("PQX", 3), std::nullopt);
+    EXPECT_EQ(recoverCharacter("", 0), std::nullopt);
+    EXPECT_EQ(recoverCharacter(";;;", 0), std::nullopt);
+}
+
+TEST(RecoverText, TheHeaderGivesModeAndStartTime) {
+    const RecoverHeader found = recoverHeader(memory('F', 3));
+    EXPECT_EQ(found.mode, 'f');
+    EXPECT_EQ(found.start, at(15, 14, 5));
+}
+
+TEST(RecoverText, AModeOutsideTheTableIsASubscriptFault) {
+    for (const char mode : {'M', 'Z', ' ', '0', '@'}) {
+        try {
+            recoverHeader(memory(mode, 3));
+            FAIL() << mode;
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.number(), 9);
+        }
+    }
+    EXPECT_THROW(recoverHeader("PQX"), Fault);
+}
+
+TEST(RecoverText, AStartTimeThatIsNoDateIsATypeMismatch) {
+    for (const char* time : {"99-99-99 99:99", "              ", "03-15-24 24:00", "ab-cd-ef gh:ij"}) {
+        try {
+            recoverHeader(memory('F', 3, time));
+            FAIL() << time;
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.number(), 13);
+        }
+    }
+    EXPECT_THROW(recoverHeader("PQXF"), Fault);
+}
+
+TEST(RecoverText, TheFileHoldsTheTextInDoubleQuotes) {
+    EXPECT_EQ(quotedText("abc"), "\"abc\"\r\n");
+}
+
+TEST(RecoverText, CountsTheReadingsNotTheHeaderNorTheMark) {
+    EXPECT_EQ(countReadings(quotedText(memory('F', 0))), 0);
+    EXPECT_EQ(countReadings(quotedText(memory('F', 1))), 1);
+    EXPECT_EQ(countReadings(quotedText(memory('F', 25))), 25);
+    EXPECT_EQ(countReadings(quotedText(memory('F', 42966))), 42966);
+    EXPECT_EQ(countReadings(quotedText(memory('F', 43000))), 42966);
+}
+
+TEST(RecoverText, AReadingThatNoRecordingCanHoldIsAnOverflow) {
+    EXPECT_THROW(countReadings(quotedText(header("PQX", 'F') + "\r\nT: 12 99999999 \x1a")), Fault);
+}
+
+TEST(RecoverText, OnlyAFullMemoryInAContinuousModeIsOverwritten) {
+    for (const char mode : std::string("abcghi")) {
+        EXPECT_TRUE(overwritten(mode, 10710, 10710)) << mode;
+        EXPECT_TRUE(overwritten(mode, 10711, 10710)) << mode;
+        EXPECT_FALSE(overwritten(mode, 10709, 10710)) << mode;
+    }
+    for (const char mode : std::string("defjkl"))
+        EXPECT_FALSE(overwritten(mode, 10710, 10710)) << mode;
+}
+
+TEST(RecoverText, TheStopTimeLiesAnIntervalAReadingAfterTheStart) {
+    EXPECT_EQ(stopTime({'f', at(15, 14, 5)}, 0), at(15, 14, 5));
+    EXPECT_EQ(stopTime({'f', at(15, 14, 5)}, 60), at(15, 15, 5));
+    EXPECT_EQ(stopTime({'e', at(15, 14, 5)}, 13), at(15, 15, 10));
+    EXPECT_EQ(stopTime({'d', at(15, 14, 5)}, 96), at(16, 14, 5));
+}
+
+TEST(RecoverText, ThreeReadingsOfMinMaxAvgAreOneInterval) {
+    EXPECT_EQ(stopTime({'l', at(15, 14, 5)}, 180), at(15, 15, 5));
+    EXPECT_EQ(stopTime({'j', at(15, 14, 5)}, 5), at(15, 14, 20));
+}
+
+TEST(RecoverText, TheStopTimeTakesTheFourteenPlacesOfTheHeaderTime) {
+    const RecoveredText done = recoverText("?" + memory('F', 60), {'f', at(15, 14, 5)}, 60);
+    EXPECT_EQ(done.text, "?" + memory('F', 60, "03-15-24 15:05"));
+    EXPECT_EQ(done.start, at(15, 14, 5));
+    EXPECT_EQ(done.stopped, at(15, 15, 5));
+    EXPECT_EQ(done.readings, 60);
+}
+
+} // namespace
+} // namespace tally
