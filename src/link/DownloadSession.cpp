@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/DownloadSession.h"
 
-#include "core/DataText.h"
 #include "core/Fault.h"
-#include "core/ModeTable.h"
+#include "link/FieldDate.h"
 #include "link/InformationReport.h"
 #include "link/PromptTexts.h"
 #include "link/ReceivedText.h"
 #include "link/ValidationReport.h"
 
 #include <algorithm>
-#include <variant>
 
 namespace tally {
 
@@ -23,9 +21,6 @@ const char* const voltageCaution = "             CAUTION          \r"
                                    "          reading appears.       \r"
                                    "                                 \r"
                                    "           Then press OK         \r";
-
-const char* const dateQuestion = "Enter date and time of the field initialization\r"
-                                 "using format 'mm-dd-yy hh:mm'";
 
 constexpr std::size_t countStep = 10000; // characters between two showings of the running count
 
@@ -49,37 +44,6 @@ public:
 private:
     Session& session_;
 };
-
-// The first 8 characters are a date and the last 5 a time.
-std::optional<ReadingTime> fieldDate(const std::string& answer) {
-    if (answer.size() < 13)
-        return {};
-    return parseHeaderTime(answer.substr(0, 8) + " " + answer.substr(answer.size() - 5));
-}
-
-// Gives a text whose header holds no time the time of its last reading, counted from the field
-// initialization. False when the user gives none.
-bool completeHeaderTime(std::string& gText, Prompt& prompt) {
-    if (timeOf(headerOf(gText)))
-        return true;
-    std::optional<ReadingTime> start;
-    while (!start) {
-        const auto answer = prompt.input({.text = dateQuestion, .preset = {}});
-        if (!answer || answer->empty())
-            return false;
-        start = fieldDate(*answer);
-    }
-    // With a time in its header the text reads as a recording.
-    setHeaderTime(gText, *start);
-    const auto read = readDataText(gText);
-    const auto* recording = std::get_if<Recording>(&read);
-    if (recording != nullptr) {
-        const char letter = recording->facts.modeLetter;
-        const auto count = static_cast<std::int64_t>(recording->readings.size());
-        setHeaderTime(gText, *start + modeRow(letter).minutes * count / valuesPerInterval(letter));
-    }
-    return true;
-}
 
 // By how many minutes the clock of a running instrument is ahead of the computer's.
 std::optional<std::int64_t> clockDifference(const ReceivedDownload& received) {

@@ -4,6 +4,7 @@
 #include "core/ReadingTime.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,8 +32,8 @@ constexpr bool isUnsaved(JournalState state) {
 struct JournalHeader {
     int commPort = 1;
     int instrumentType = 0;
-    std::string settings;
-    ReadingTime pcTime;
+    std::string settings = {};
+    ReadingTime pcTime = {};
     std::string command = "download"; // or "recover"
 };
 
@@ -56,12 +57,13 @@ public:
 
 // A reception that is kept.
 struct JournalEntry {
-    std::string id;
+    std::string id = {};
     JournalHeader header = {};
     JournalState state = JournalState::interrupted;
     std::uint64_t bytes = 0; // received at the last port settings
     std::string model = {};  // three letters; empty when no recording began
     std::string serial = {}; // bytes of the header
+    std::optional<std::int64_t> clockDifference = {};
 };
 
 // The receptions that are kept: the last 20, and every unsaved one. Newest first.
@@ -74,6 +76,8 @@ public:
     virtual std::string text(const std::string& id) const = 0;
     // Writes down what became of a reception. Throws file faults.
     virtual void mark(const std::string& id, JournalState state) = 0;
+    // Keeps the text that the user accepted of a reception. Throws file faults.
+    virtual void accept(const std::string& id, std::string_view text) = 0;
     // Why receptions cannot be kept on disk, in words for the user; empty when they can.
     virtual std::string problem() const = 0;
 };

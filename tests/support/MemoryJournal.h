@@ -35,9 +35,10 @@ public:
     }
     void clockDifference(std::int64_t minutes) override { receptions.back().clockDifference = minutes; }
     void end(JournalState state) override { receptions.back().state = state; }
-    void accepted(std::string_view text) override {
-        receptions.back().accepted = text;
-        receptions.back().state = JournalState::accepted;
+    void accepted(std::string_view text) override { accept(id(), text); }
+    void accept(const std::string& id, std::string_view text) override {
+        at(id).accepted = text;
+        at(id).state = JournalState::accepted;
     }
     std::string id() const override { return std::to_string(receptions.size()); }
 
