@@ -106,6 +106,7 @@ private:
     void endEdit(bool keep);
     void placeOnePage();
     bool noteKey(const QKeyEvent& event);
+    bool nudgeNote(int key);
 
     std::unique_ptr<PlotScene> scene_;
     QLabel* onePage_ = nullptr;

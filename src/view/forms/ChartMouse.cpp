@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What mouse and keyboard do on the chart.
 #include "view/forms/Chart.h"
-#include "view/forms/NotePaint.h"
 #include "view/forms/PlotScene.h"
 
 #include <QMouseEvent>

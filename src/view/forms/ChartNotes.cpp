@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 
 #include <algorithm>
+#include <map>
 
 namespace tally {
 namespace {
@@ -85,11 +86,6 @@ bool Chart::noteKey(const QKeyEvent& event) {
     }
     if (scene_->selectedNote < 0)
         return false;
-    const auto nudge = [this](double x, double y) {
-        last_ = {};
-        moveNote({x * scene_->frame().width(), y * scene_->frame().height()});
-        Q_EMIT notesChanged();
-    };
     switch (event.key()) {
     case Qt::Key_Delete:
     case Qt::Key_Backspace:
@@ -102,21 +98,22 @@ bool Chart::noteKey(const QKeyEvent& event) {
     case Qt::Key_Escape:
         selectNote(-1);
         return true;
-    case Qt::Key_Left:
-        nudge(-keyStep, 0);
-        return true;
-    case Qt::Key_Right:
-        nudge(keyStep, 0);
-        return true;
-    case Qt::Key_Up:
-        nudge(0, -keyStep);
-        return true;
-    case Qt::Key_Down:
-        nudge(0, keyStep);
-        return true;
     default:
-        return false;
+        return nudgeNote(event.key());
     }
+}
+
+bool Chart::nudgeNote(int key) {
+    static const std::map<int, QPointF> steps{
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    const auto step = steps.find(key);
+    if (step == steps.end())
+        return false;
+    last_ = {};
+    const QSizeF frame = scene_->frame().size() * keyStep;
+    moveNote({step->second.x() * frame.width(), step->second.y() * frame.height()});
+    Q_EMIT notesChanged();
+    return true;
 }
 
 void Chart::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -7,8 +7,6 @@
 #include <utility>
 #include <vector>
 
-class QLabel;
-
 namespace tally {
 
 class FindBar;
