@@ -7,6 +7,7 @@
 #include "app/Screen.h"
 #include "app/StatusPanels.h"
 #include "app/TLY_Edit.h"
+#include "app/TLY_Export.h"
 #include "app/TLY_File.h"
 #include "app/TLY_Help.h"
 #include "app/TLY_Options.h"
@@ -33,6 +34,7 @@ TLY::TLY(const Services& services, QWidget* parent)
     power_ = std::make_unique<TLY_Power>(*this);
     edit_ = std::make_unique<TLY_Edit>(*this);
     paper_ = std::make_unique<TLY_Paper>(*this);
+    export_ = std::make_unique<TLY_Export>(*this);
     options_ = std::make_unique<TLY_Options>(*this);
     help_ = std::make_unique<TLY_Help>(*this);
     connectMenus();
@@ -71,6 +73,9 @@ void TLY::connectMenus() {
     on("mnuItemImport", *file_, &TLY_File::mnuItemImport_Click);
     menus_->handle("mnuItemExit", [this] { file_->mnuItemExit_Click(); });
     menus_->handleMru([this](int index) { dispatcher_.run([&] { file_->mnuMRU_Click(index); }); });
+    on("mnuitemexprep", *export_, &TLY_Export::mnuitemexprep_Click);
+    on("MnuItemexpdatacsv", *export_, &TLY_Export::MnuItemexpdatacsv_Click);
+    on("mnuItemexpdata1perLine", *export_, &TLY_Export::mnuItemexpdata1perLine_Click);
     on("mnuItemPrintSum", *paper_, &TLY_Paper::mnuItemPrintSum_Click);
     on("mnuItemPrintpwrSum", *paper_, &TLY_Paper::mnuItemPrintpwrSum_Click);
     on("mnuItemPrintTable", *paper_, &TLY_Paper::mnuItemPrintTable_Click);

@@ -17,6 +17,7 @@ class NoticeBar;
 class Screen;
 class StatusPanels;
 class TLY_Edit;
+class TLY_Export;
 class TLY_File;
 class TLY_Help;
 class TLY_Options;
@@ -85,6 +86,7 @@ private:
     std::unique_ptr<TLY_Power> power_;
     std::unique_ptr<TLY_Edit> edit_;
     std::unique_ptr<TLY_Paper> paper_;
+    std::unique_ptr<TLY_Export> export_;
     std::unique_ptr<TLY_Options> options_;
     std::unique_ptr<TLY_Help> help_;
     bool painted_ = false;

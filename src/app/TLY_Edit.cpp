@@ -86,6 +86,7 @@ void TLY_Edit::mnuItemForceRdg_Click() {
         return;
     }
     unsaved_[std::size_t(s.recordings.ginx)] = true;
+    forcings_.push_back(s.recordings.ginx);
     window_.menus().apply(MenuEvent::forced);
     showForced();
     window_.view().refresh();
@@ -93,9 +94,11 @@ void TLY_Edit::mnuItemForceRdg_Click() {
 
 void TLY_Edit::undo() {
     const Services& s = window_.services();
-    const int slot = s.recordings.ginx;
-    if (!isSlot(slot) || undoForcing(s.recordings, slot) == 0)
+    if (forcings_.empty())
         return;
+    const int slot = forcings_.back();
+    forcings_.pop_back();
+    undoForcing(s.recordings, slot);
     if (forcedCount(s.recordings, slot) == 0)
         unsaved_[std::size_t(slot)] = false;
     showForced();
@@ -105,6 +108,7 @@ void TLY_Edit::undo() {
 void TLY_Edit::showForced() {
     const Recordings& recordings = window_.services().recordings;
     QStringList texts;
+    std::erase_if(forcings_, [&](int slot) { return !recordings.isOpen(slot); });
     for (int slot = 0; slot < Recordings::slotCount; ++slot) {
         unsaved_[std::size_t(slot)] = unsaved_[std::size_t(slot)] && recordings.isOpen(slot);
         if (unsaved_[std::size_t(slot)])

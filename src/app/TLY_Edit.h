@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 namespace tally {
 
@@ -31,6 +32,7 @@ private:
 
     TLY& window_;
     std::array<bool, 3> unsaved_{}; // forced readings of the slot stand in no file
+    std::vector<int> forcings_;     // slots, newest last
     float lastValue_ = 0;           // entered last
 };
 

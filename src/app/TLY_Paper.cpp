@@ -17,6 +17,23 @@
 
 namespace tally {
 
+namespace {
+
+// What goes to paper leaves the table that is shown, and that exports write, as it is.
+class TableKept {
+public:
+    explicit TableKept(Recordings& recordings) : recordings_(recordings), table_(recordings.gTable) {}
+    ~TableKept() { recordings_.gTable = std::move(table_); }
+    TableKept(const TableKept&) = delete;
+    TableKept& operator=(const TableKept&) = delete;
+
+private:
+    Recordings& recordings_;
+    std::string table_;
+};
+
+} // namespace
+
 TLY_Paper::TLY_Paper(TLY& window) : window_(window) {
     QObject::connect(&window.screen(), &Screen::printText, &window,
                      [this] { window_.dispatcher().run([this] { printShown(); }); });
@@ -58,6 +75,7 @@ void TLY_Paper::mnuItemPrintTable_Click() {
     SelectFile(s.recordings, s.chooser);
     if (s.recordings.ginx == Recordings::cancelled)
         return;
+    const TableKept kept(s.recordings);
     const std::string heading = Print(s.recordings, s.display);
     const std::string& path = s.recordings.info(s.recordings.ginx).path;
     paper().printWithDialog(report("Readings of " + fileNameOf(path), heading, s.recordings.gTable));
@@ -75,6 +93,7 @@ void TLY_Paper::mnuItemPrintPwrTable_Click() {
     const Services& s = window_.services();
     if (window_.view().noFile() || !window_.power().ensureDrawn())
         return;
+    const TableKept kept(s.recordings);
     const std::string heading = Printpwr(s.recordings, s.display);
     paper().printWithDialog(report("Power table", heading, s.recordings.gTable));
 }

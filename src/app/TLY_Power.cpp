@@ -13,25 +13,31 @@
 
 namespace tally {
 
-void TLY_Power::mnuItemViewPower_Click() {
-    if (window_.view().noFile())
-        return;
+std::optional<double> TLY_Power::askVoltage() {
     const Services& s = window_.services();
     const std::string stored = storeVline(s.settings);
     const auto answer = s.prompt.input(
         {.text = std::string(voltagePrompt), .preset = stored, .choices = lastVoltages(s.settings)});
     if (!answer || answer->empty())
-        return;
+        return std::nullopt;
     const double volts = voltsOf(*answer);
     keepVline(s.settings, *answer);
     rememberVoltage(s.settings, *answer);
-    Plot plot;
-    const PowerRefusal refusal = viewPower(s.recordings, s.display, volts, s.clock, plot);
-    if (!drawn(refusal, plot))
+    hint_ = voltageHint(*answer);
+    return volts;
+}
+
+void TLY_Power::mnuItemViewPower_Click() {
+    if (window_.view().noFile())
         return;
-    const std::string hint = voltageHint(*answer);
-    if (!hint.empty())
-        window_.status().remark(words(hint));
+    const auto volts = askVoltage();
+    if (!volts)
+        return;
+    const Services& s = window_.services();
+    Plot plot;
+    const PowerRefusal refusal = viewPower(s.recordings, s.display, *volts, s.clock, plot);
+    if (drawn(refusal, plot) && !hint_.empty())
+        window_.status().remark(words(hint_));
 }
 
 void TLY_Power::redraw() {

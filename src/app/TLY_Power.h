@@ -3,6 +3,7 @@
 
 #include "view/Power.h"
 
+#include <optional>
 #include <string>
 
 namespace tally {
@@ -27,10 +28,14 @@ public:
     // without one.
     bool ensureDrawn();
 
+    // Asks for the line voltage and keeps the answer; volts, or nothing when it was left.
+    std::optional<double> askVoltage();
+
 private:
     bool drawn(PowerRefusal refusal, const Plot& plot);
 
     TLY& window_;
+    std::string hint_; // about the voltage entered last
 };
 
 } // namespace tally

@@ -113,16 +113,25 @@ std::string TLY_View::labelAt(int point) const {
     return formatTime(time, "%b %d %H:%M");
 }
 
+void TLY_View::makeTableCurrent() {
+    const bool power = window_.screen().displaying() == powerTableName;
+    if (window_.services().display.viewKind == ViewKind::table)
+        window_.services().recordings.ginx = power ? 0 : shownSlot_;
+}
+
 void TLY_View::refresh() {
     const Services& s = window_.services();
     const Screen::Page page = window_.screen().page();
+    const int current = s.recordings.ginx;
     if (page == Screen::Page::chart && !imported_)
         redraw();
-    else if (page == Screen::Page::text && s.display.viewKind == ViewKind::summary)
+    s.recordings.ginx = shownSlot_;
+    if (page == Screen::Page::text && s.display.viewKind == ViewKind::summary)
         showSummary();
     else if (page == Screen::Page::text && s.display.viewKind == ViewKind::table &&
              window_.screen().displaying() != powerTableName)
         showTable();
+    s.recordings.ginx = current;
 }
 
 void TLY_View::mnuItemRefresh_Click() {
@@ -170,6 +179,7 @@ void TLY_View::mnuItemViewTable_Click() {
 void TLY_View::showTable() {
     const Services& s = window_.services();
     const std::string heading = Print(s.recordings, s.display);
+    shownSlot_ = s.recordings.ginx;
     window_.screen().showText(heading, s.recordings.gTable,
                               "table of " + fileNameOf(s.recordings.info(s.recordings.ginx).path));
     s.display.viewKind = ViewKind::table;
@@ -190,6 +200,7 @@ void TLY_View::mnuItemViewsummary_Click() {
 
 void TLY_View::showSummary() {
     const Services& s = window_.services();
+    shownSlot_ = s.recordings.ginx;
     window_.screen().showText({}, Printinfo(s.recordings, s.display),
                               "summary of " + fileNameOf(s.recordings.info(s.recordings.ginx).path));
     s.display.viewKind = ViewKind::summary;

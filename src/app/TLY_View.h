@@ -30,6 +30,8 @@ public:
     void refresh();
     // Shows the summary of the current file without asking which.
     void showSummary();
+    // The file whose table is shown becomes the current one again.
+    void makeTableCurrent();
     // A plot that does not belong to the open recordings: no range, no read-out.
     void showImported(const Plot& plot);
     bool noFile() const; // tells it
@@ -43,6 +45,7 @@ private:
 
     TLY& window_;
     bool imported_ = false;
+    int shownSlot_ = 0; // of the table or summary that is shown
 };
 
 } // namespace tally
