@@ -148,7 +148,7 @@ char modeLetter(const Raw& raw, bool blankMode) {
 }
 
 void readPlug(const std::string& text, Arguments& arguments) {
-    Setup& setup = arguments.setup;
+    InstrumentSetup& setup = arguments.setup;
     if (text == "open")
         return;
     if (text == "enter") {
@@ -165,7 +165,7 @@ void readPlug(const std::string& text, Arguments& arguments) {
 }
 
 void fill(const Raw& raw, Arguments& arguments, ReadingTime clock, int seconds) {
-    Setup& setup = arguments.setup;
+    InstrumentSetup& setup = arguments.setup;
     const Model& model = modelOf(raw.type);
     setup.type = raw.type;
     setup.code = raw.code.empty() ? std::string(model.code) : raw.code;

@@ -10,7 +10,7 @@ namespace tally::sim {
 
 // What was asked for on the command line.
 struct Arguments {
-    Setup setup;
+    InstrumentSetup setup;
     std::string link;
     std::string record;
     std::string replay;

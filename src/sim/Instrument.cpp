@@ -43,9 +43,9 @@ std::optional<InitRequest> parseInit(std::string_view text, bool blankMode) {
 
 } // namespace
 
-Setup setupOf(int type, ReadingTime clock, int count) {
+InstrumentSetup setupOf(int type, ReadingTime clock, int count) {
     const Model& model = modelOf(type);
-    Setup setup;
+    InstrumentSetup setup;
     setup.type = type;
     setup.code = model.code;
     setup.baud = model.baud;
@@ -55,7 +55,7 @@ Setup setupOf(int type, ReadingTime clock, int count) {
     return setup;
 }
 
-Instrument::Instrument(Setup setup)
+Instrument::Instrument(InstrumentSetup setup)
     : setup_(std::move(setup)), clockAtZero_(setup_.clock.minutes * minute + setup_.clockSeconds * 1000) {}
 
 ReadingTime Instrument::clockAt(std::int64_t time) const {

@@ -12,7 +12,7 @@
 namespace tally::sim {
 
 // How an instrument is set up.
-struct Setup {
+struct InstrumentSetup {
     int type = 7;
     std::string code = "KWT";
     int baud = 9600;
@@ -35,13 +35,13 @@ struct Setup {
 };
 
 // The setup of an instrument type, its memory holding `count` readings at `clock` (-1: as many as fit).
-Setup setupOf(int type, ReadingTime clock, int count = -1);
+InstrumentSetup setupOf(int type, ReadingTime clock, int count = -1);
 
 // A load recorder at the end of a line. When its cable goes in it sends its memory; it then listens for the
 // command that begins an initialisation.
 class Instrument : public Peer {
 public:
-    explicit Instrument(Setup setup);
+    explicit Instrument(InstrumentSetup setup);
 
     void opened(std::int64_t time) override;
     void rate(std::int64_t time, int baud) override;
@@ -62,7 +62,7 @@ public:
     // Sends characters of one's own.
     void send(std::int64_t time, std::string characters);
 
-    Setup& setup() { return setup_; }
+    InstrumentSetup& setup() { return setup_; }
     // How often the memory was erased, and the 18 characters that did it last.
     int erasures() const { return erasures_; }
     const std::string& initString() const { return initString_; }
@@ -85,7 +85,7 @@ private:
     void ended(std::int64_t time);
     std::string onLine(std::string characters) const;
 
-    Setup setup_;
+    InstrumentSetup setup_;
     std::int64_t clockAtZero_; // the instrument's clock at time 0, milliseconds
     Transmission sending_;
     std::int64_t plugAt_ = never;

@@ -131,7 +131,7 @@ std::string scriptHelp() {
     return text;
 }
 
-ScriptedInstrument::ScriptedInstrument(Setup setup, std::vector<Step> steps)
+ScriptedInstrument::ScriptedInstrument(InstrumentSetup setup, std::vector<Step> steps)
     : instrument(std::move(setup)), steps_(std::move(steps)) {
     instrument.setup().plugOnOpen = false;
 }

@@ -40,7 +40,7 @@ std::string scriptHelp();
 // An instrument whose cable and faults follow a script, step by step.
 class ScriptedInstrument : public Peer {
 public:
-    ScriptedInstrument(Setup setup, std::vector<Step> steps);
+    ScriptedInstrument(InstrumentSetup setup, std::vector<Step> steps);
 
     void opened(std::int64_t time) override;
     void rate(std::int64_t time, int baud) override { instrument.rate(time, baud); }

@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sim/Texts.h"
+
+#include <gtest/gtest.h>
+#include <numeric>
+
+namespace tally {
+namespace {
+
+using namespace sim;
+
+Header example() {
+    Header header;
+    header.code = "KWT";
+    header.mode = 'c';
+    header.serial = "0042";
+    header.time = "03-15-24 12:00";
+    header.battery = 0x0A5;
+    return header;
+}
+
+std::vector<int> counting(int count) {
+    std::vector<int> values(static_cast<std::size_t>(count));
+    std::iota(values.begin(), values.end(), 1);
+    return values;
+}
+
+std::string text(const std::vector<int>& values, const Faults& faults = {}) {
+    return memoryText(example(), Layout::brief, values, false, faults).text;
+}
+
+const std::string head = "KWTc   0042" + std::string(19, ' ') + "03-15-24 12:00\r\nT:";
+const std::string lineOne = "   1   2   3   4   5   6   7   8   9  10";
+
+TEST(HeaderText, PlacesTheFieldsOfTheCurrentLayout) {
+    const std::string text = headerText(example(), Layout::current);
+    EXPECT_EQ(text.size(), 56U);
+    EXPECT_EQ(text.substr(0, 3), "KWT");
+    EXPECT_EQ(text[3], 'c');
+    EXPECT_EQ(text.substr(7, 4), "0042");
+    EXPECT_EQ(text.substr(30, 14), "03-15-24 12:00");
+    EXPECT_EQ(text.substr(44, 8), "   Vbatt");
+    EXPECT_EQ(text.substr(53, 3), "0A5");
+}
+
+TEST(HeaderText, PlacesTheTimeOfTheOlderLayoutAtColumn47) {
+    const std::string text = headerText(example(), Layout::older);
+    EXPECT_EQ(text.size(), 60U);
+    EXPECT_EQ(text.substr(46, 14), "03-15-24 12:00");
+    EXPECT_EQ(text.substr(30, 16), std::string(16, ' '));
+}
+
+TEST(HeaderText, BriefLayoutEndsAtColumn44SoThatTheTStandsAtOffset46) {
+    EXPECT_EQ(headerText(example(), Layout::brief).size(), 44U);
+    EXPECT_EQ(text({1})[46], 'T');
+}
+
+TEST(MemoryText, TenReadingsALineNewestFirstAndCtrlZ) {
+    EXPECT_EQ(text(counting(12)), head + lineOne + "\n\r  11  12\x1a");
+}
+
+TEST(MemoryText, AFullLastLineIsNotEnded) {
+    EXPECT_EQ(text(counting(10)), head + lineOne + "\x1a");
+}
+
+TEST(MemoryText, AnEmptyMemoryIsHeaderAndEnd) {
+    EXPECT_EQ(text({}), head + "\x1a");
+}
+
+TEST(MemoryText, LowReadingsCarryOneDecimalInFiveColumns) {
+    EXPECT_EQ(memoryText(example(), Layout::brief, {5, 1234}, true, {}).text, head + "  0.5123.4\x1a");
+}
+
+TEST(MemoryText, CurrentLayoutEndsItsHeaderWithOneCarriageReturn) {
+    EXPECT_EQ(memoryText(example(), Layout::current, {7}, false, {}).text.substr(53), "0A5\rT:   7\x1a");
+}
+
+TEST(MemoryFaults, NoiseComesBeforeTheHeaderAndHasNoFamilyInitial) {
+    Faults faults;
+    faults.noise = 20;
+    const std::string all = text({1}, faults);
+    EXPECT_EQ(all.find(head), 20U);
+    EXPECT_EQ(all.substr(0, 20).find_first_of("PHKphk\x1a"), std::string::npos);
+}
+
+TEST(MemoryFaults, HeaderCutKeepsTheFirstColumns) {
+    Faults faults;
+    faults.headerCut = 9;
+    EXPECT_EQ(text({1}, faults), "KWTc   00\r\nT:   1\x1a");
+}
+
+TEST(MemoryFaults, MissingAndDoubleEnd) {
+    Faults none;
+    none.noCtrlZ = true;
+    EXPECT_EQ(text({1}, none), head + "   1");
+    Faults twice;
+    twice.doubleCtrlZ = true;
+    EXPECT_EQ(text(counting(11), twice), head + lineOne + "\x1a\n\r  11\x1a");
+}
+
+TEST(MemoryFaults, ReadingsOf999AndOver) {
+    Faults faults;
+    faults.over = 2;
+    faults.nines = 1;
+    EXPECT_EQ(text(counting(3), faults), head + " 999 1234   3\x1a");
+}
+
+TEST(MemoryFaults, LinesWithTooFewTooManyAndADamagedOne) {
+    Faults faults;
+    faults.shortLine = 1;
+    faults.longLine = 2;
+    faults.damagedLine = 3;
+    EXPECT_EQ(text(counting(21), faults),
+              head + lineOne.substr(0, 36) + "\n\r  11  12  13  14  15  16  17  18  19  20  11\n\r  21A\x1a");
+}
+
+TEST(MemoryFaults, EndlessGoesOnWithItsReadings) {
+    Faults faults;
+    faults.endless = true;
+    const MemoryText endless = memoryText(example(), Layout::brief, {1}, false, faults);
+    EXPECT_EQ(endless.text, head + "   1\n\r");
+    EXPECT_EQ(endless.repeatFrom, head.size());
+}
+
+TEST(MemoryFaults, BinaryHoldsEveryByteValue) {
+    Faults faults;
+    faults.binary = 256;
+    std::string all = text({1}, faults);
+    ASSERT_EQ(all.size(), 256U);
+    for (int value = 0; value < 256; ++value)
+        EXPECT_NE(all.find(static_cast<char>(value)), std::string::npos) << value;
+}
+
+} // namespace
+} // namespace tally
