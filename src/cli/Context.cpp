@@ -49,13 +49,11 @@ Settings& Context::settings() {
 }
 
 void Context::warn(std::string_view text) {
-    std::string lines;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '\r')
-            lines += text[i];
-        else if (i + 1 == text.size() || text[i + 1] != '\n')
-            lines += '\n';
-    }
+    // The words as they are; a lone CR would make a terminal write one line over the other.
+    std::string lines(text);
+    for (std::size_t at = 0; (at = lines.find('\r', at)) != std::string::npos; ++at)
+        if (lines.compare(at, 2, "\r\n") != 0)
+            lines[at] = '\n';
     if (lines.empty() || lines.back() != '\n')
         lines += '\n';
     std::fwrite(lines.data(), 1, lines.size(), stderr);
