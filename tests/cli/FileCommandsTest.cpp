@@ -165,7 +165,7 @@ TEST_F(FileCommands, ForceChangesTheRangeAndSavesTheWholeFile) {
         runProgram("tallyline-cli", {"force", low, "-o", folder.path("g.dat"), "--value", "100"});
     EXPECT_EQ(refused.status, 1);
     EXPECT_EQ(refused.err,
-              "Error - New reading is outside the allowable range.\n  - Must be between 0 and 99.9\n");
+              "Error - New reading is outside the allowable range.\r\n  - Must be between 0 and 99.9\n");
     EXPECT_EQ(TemporaryFolder::read(folder.path("g.dat")), "");
 }
 
