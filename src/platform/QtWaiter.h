@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+// First, because moc cannot read the standard library's <compare> on its own.
+#include <QObject>
+
 #include "link/Waiter.h"
 #include "platform/QtClock.h"
-
-#include <QObject>
 
 class QEventLoop;
 
