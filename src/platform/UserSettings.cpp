@@ -4,6 +4,7 @@
 #include "core/Fault.h"
 #include "platform/Folders.h"
 
+#include <QCoreApplication>
 #include <QLockFile>
 
 namespace tally {
@@ -22,6 +23,13 @@ std::string backup(const std::string& path) {
 
 UserSettings::UserSettings(Files& files, std::string path) : files_(files), path_(std::move(path)) {
     readBack();
+    // A command sets several values; they go to the disk together.
+    later_.setSingleShot(true);
+    QObject::connect(&later_, &QTimer::timeout, &later_, [this] { flush(); });
+}
+
+UserSettings::~UserSettings() {
+    flush();
 }
 
 std::optional<IniText> UserSettings::load(const std::string& path) const {
@@ -74,14 +82,22 @@ std::string UserSettings::get(const std::string& section, const std::string& key
 void UserSettings::set(const std::string& section, const std::string& key, const std::string& value) {
     if (get(section, key) == value)
         return;
+    values_[section][key] = value;
+    unsaved_[section][key] = value;
+    if (QCoreApplication::instance())
+        later_.start(0);
+}
+
+void UserSettings::flush() {
+    later_.stop();
+    if (unsaved_.empty())
+        return;
     const auto slash = path_.find_last_of('/');
     if (slash != std::string::npos)
         folders::make(path_.substr(0, slash));
     QLockFile lock(QString::fromStdString(path_ + ".lock"));
     // Where there can be no lock (a folder that cannot be written to), saving fails and says so.
     lock.tryLock(lockMilliseconds);
-    values_[section][key] = value;
-    unsaved_[section][key] = value;
     if (!damaged_)
         readBack();
     save();

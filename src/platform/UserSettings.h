@@ -5,6 +5,7 @@
 #include "core/Settings.h"
 #include "platform/IniText.h"
 
+#include <QTimer>
 #include <functional>
 #include <optional>
 
@@ -18,10 +19,17 @@ public:
 
     // Reads the file at once. `files` must outlive the store.
     UserSettings(Files& files, std::string path);
+    ~UserSettings() override;
+    UserSettings(const UserSettings&) = delete;
+    UserSettings& operator=(const UserSettings&) = delete;
 
     std::string get(const std::string& section, const std::string& key) const override;
-    // Written at once; what another program changed meanwhile stays.
+    // Holds at once, and is written by flush(): when the event loop comes to rest, at the latest at the end
+    // of the store.
     void set(const std::string& section, const std::string& key, const std::string& value) override;
+
+    // Writes what was set; what another program changed meanwhile stays.
+    void flush();
 
     // Who hears of the first trouble, also of one that has already happened. UTF-8.
     void onProblem(Report report);
@@ -40,6 +48,7 @@ private:
     std::string problem_;
     bool reported_ = false;
     Report report_;
+    QTimer later_;
 };
 
 } // namespace tally

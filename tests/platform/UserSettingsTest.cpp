@@ -4,6 +4,7 @@
 #include "platform/SafeFile.h"
 #include "support/MemoryFiles.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
@@ -35,6 +36,7 @@ TEST_F(UserSettingsTest, MissingKeyReadsAsTheEmptyText) {
 TEST_F(UserSettingsTest, KeysStandInTheFileAsTheyAre) {
     UserSettings settings(files, path);
     settings.set("Comm", "TLY.MSComm1.CommPort", "3");
+    settings.flush();
     EXPECT_EQ(files.contents[path], "[Comm]\nTLY.MSComm1.CommPort=3\n");
 }
 
@@ -51,10 +53,18 @@ TEST_F(UserSettingsTest, EveryTextComesBack) {
                                             "[x]",
                                             ""};
     for (const auto& text : texts) {
-        UserSettings settings(files, path);
-        settings.set("Security", "userid", text);
+        UserSettings(files, path).set("Security", "userid", text);
         EXPECT_EQ(UserSettings(files, path).get("Security", "userid"), text);
     }
+}
+
+TEST_F(UserSettingsTest, ValuesGoToTheFileTogetherWhenTheEventLoopComesToRest) {
+    UserSettings settings(files, path);
+    settings.set("Settings", "mrufile1", "/d/a.dat");
+    settings.set("Settings", "mrufile2", "/d/b.dat");
+    EXPECT_TRUE(files.contents.empty());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(files.contents[path], "[Settings]\nmrufile1=/d/a.dat\nmrufile2=/d/b.dat\n");
 }
 
 TEST_F(UserSettingsTest, HandWrittenWindowsPathIsTakenAsItStands) {
@@ -66,7 +76,9 @@ TEST_F(UserSettingsTest, TwoProgramsMergeKeyByKey) {
     UserSettings one(files, path);
     UserSettings two(files, path);
     one.set("Settings", "Vline", "4160");
+    one.flush();
     two.set("Security", "userid", "Ann");
+    two.flush();
     const UserSettings third(files, path);
     EXPECT_EQ(third.get("Settings", "Vline"), "4160");
     EXPECT_EQ(third.get("Security", "userid"), "Ann");
@@ -79,6 +91,7 @@ TEST_F(UserSettingsTest, DamagedFileGivesTheLastGoodCopyAndIsReportedOnce) {
     EXPECT_EQ(settings.get("Settings", "Vline"), "4160");
     listen(settings);
     settings.set("Security", "userid", "Ann");
+    settings.flush();
     ASSERT_EQ(reports.size(), 1U);
     EXPECT_THAT(reports[0], HasSubstr("damaged. The last good copy is used."));
     // The damaged file is kept, and what stands now is whole.
@@ -127,7 +140,9 @@ TEST_F(UserSettingsTest, WhatCannotBeSavedHoldsWhileTheProgramRunsAndIsReportedO
     listen(settings);
     files.failWrite = fault::diskFull();
     settings.set("Settings", "Vline", "13800");
+    settings.flush();
     settings.set("Security", "userid", "Ann");
+    settings.flush();
     EXPECT_EQ(settings.get("Settings", "Vline"), "13800");
     EXPECT_EQ(settings.get("Security", "userid"), "Ann");
     ASSERT_EQ(reports.size(), 1U);
@@ -136,6 +151,7 @@ TEST_F(UserSettingsTest, WhatCannotBeSavedHoldsWhileTheProgramRunsAndIsReportedO
     // With room again everything that was set is saved.
     files.failWrite.reset();
     settings.set("Directory", "default", "/data");
+    settings.flush();
     EXPECT_EQ(UserSettings(files, path).get("Settings", "Vline"), "13800");
     EXPECT_EQ(UserSettings(files, path).get("Security", "userid"), "Ann");
 }
@@ -146,6 +162,7 @@ TEST_F(UserSettingsTest, UnreadableFileIsReportedAndNeverOverwritten) {
     UserSettings settings(files, path);
     listen(settings);
     settings.set("Settings", "Vline", "1");
+    settings.flush();
     EXPECT_EQ(settings.get("Settings", "Vline"), "1");
     EXPECT_EQ(files.contents[path], "[Settings]\nVline=4160\n");
     EXPECT_EQ(reports.size(), 1U);
