@@ -80,6 +80,26 @@ void applySelection(InstrumentState& instrument, int code) {
     }
 }
 
+void TypeChoice::apply(std::optional<int> code) {
+    applySelection(instrument_, code.value_or(instrument_.instSelection));
+}
+
+void TypeChoice::cancel() {
+    instrument_.instSelection = before_.instSelection;
+    force(instrument_, before_.portSettings, before_.maxSamples, before_.gCableFirst);
+}
+
+bool hasOwnProperties(const InstrumentState& instrument) {
+    return instrument.instSelection == customType;
+}
+
+void setProperties(InstrumentState& instrument, const std::string& settings, std::int32_t samples) {
+    if (!hasOwnProperties(instrument))
+        return;
+    instrument.portSettings = instrument.portSettingsCustom = settings;
+    instrument.maxSamples = instrument.maxSamplesCustom = samples;
+}
+
 bool isVoltageRecorder(int code) {
     return code == 3 || code == 6;
 }

@@ -24,6 +24,25 @@ std::string_view optionCaption(int code);
 // 0 to 11.
 void applySelection(InstrumentState& instrument, int code);
 
+// The selection of a type while its dialog is open: taken into force step by step, or put back.
+class TypeChoice {
+public:
+    explicit TypeChoice(InstrumentState& instrument) : instrument_(instrument), before_(instrument) {}
+    // Takes a type code 1 to 11 into force; with none the selection keeps its code.
+    void apply(std::optional<int> code);
+    // Puts back what was in force before; values set for the Custom type stay.
+    void cancel();
+
+private:
+    InstrumentState& instrument_;
+    InstrumentState before_;
+};
+
+// Whether the properties of the type in force can be changed: those of Custom alone.
+bool hasOwnProperties(const InstrumentState& instrument);
+// Sets the properties of the Custom type and takes them into force; nothing is done for any other type.
+void setProperties(InstrumentState& instrument, const std::string& settings, std::int32_t samples);
+
 // Whether a type is a voltage recorder, which asks for its display switch before a download.
 bool isVoltageRecorder(int code);
 

@@ -119,6 +119,46 @@ TEST(Instruments, BeforeAnyChoiceTheCableGoesFirst) {
     EXPECT_EQ(state.instAutoCurrent, 7);
 }
 
+TEST(TypeChoice, CancelPutsBackWhatWasInForceBefore) {
+    InstrumentState state = chosen(1);
+    TypeChoice choice(state);
+    choice.apply(8);
+    EXPECT_EQ(state.portSettings, "115200,N,8,1");
+    choice.cancel();
+    EXPECT_EQ(state.instSelection, 1);
+    EXPECT_EQ(state.portSettings, "9600,N,8,1");
+    EXPECT_EQ(state.maxSamples, 2091);
+    EXPECT_FALSE(state.gCableFirst);
+}
+
+TEST(TypeChoice, NoneOfTheTypesKeepsTheCode) {
+    InstrumentState state = chosen(8);
+    TypeChoice(state).apply({});
+    EXPECT_EQ(state.instSelection, 8);
+    EXPECT_EQ(state.maxSamples, 42966);
+}
+
+TEST(Properties, CustomTakesThemIntoForceAndKeepsThem) {
+    InstrumentState state = chosen(9);
+    EXPECT_TRUE(hasOwnProperties(state));
+    setProperties(state, "115200,N,8,1", 21462);
+    EXPECT_EQ(state.portSettings, "115200,N,8,1");
+    EXPECT_EQ(state.maxSamples, 21462);
+    applySelection(state, 1);
+    applySelection(state, 9);
+    EXPECT_EQ(state.portSettings, "115200,N,8,1");
+    EXPECT_EQ(state.maxSamples, 21462);
+}
+
+TEST(Properties, ThoseOfAFixedTypeCannotBeChanged) {
+    InstrumentState state = chosen(7);
+    EXPECT_FALSE(hasOwnProperties(state));
+    setProperties(state, "115200,N,8,1", 294);
+    EXPECT_EQ(state.portSettings, "9600,N,8,1");
+    EXPECT_EQ(state.maxSamples, 10710);
+    EXPECT_EQ(state.maxSamplesCustom, 10710);
+}
+
 TEST(Instruments, ThreeAndSixAreVoltageRecorders) {
     for (int code = 0; code <= 11; ++code)
         EXPECT_EQ(isVoltageRecorder(code), code == 3 || code == 6) << code;

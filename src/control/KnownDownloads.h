@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/Journal.h"
+
+#include <string>
+#include <vector>
+
+namespace tally {
+
+// One line about the last receptions, with serial number and whether each is saved, for someone who is about
+// to erase an instrument (UTF-8, without a line end).
+std::string knownDownloads(const std::vector<JournalEntry>& newestFirst);
+
+} // namespace tally

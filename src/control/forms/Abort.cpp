@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "control/forms/Abort.h"
+
+#include "control/Initialize.h"
+#include "control/KnownDownloads.h"
+#include "control/ModeLetter.h"
+#include "control/forms/InitInst.h"
+#include "link/forms/DialogText.h"
+
+namespace tally {
+
+Abort::Abort(const SessionContext& context, QWidget* parent)
+    : SessionDialog(context, QStringLiteral("Abort"), tr("Initialize"), parent),
+      label1_(addText(QStringLiteral("Label1"))) {
+    label1_->setText(QStringLiteral("NO REPONSE"));
+    addLog();
+    addCancel(QStringLiteral("Command1"), QStringLiteral("CANCEL"));
+}
+
+void Abort::prompt(const std::string& text) {
+    status(text);
+}
+
+void Abort::status(const std::string& text) {
+    label1_->setText(shown(text));
+    if (!isVisible())
+        start();
+}
+
+void runInitialize(QWidget* parent, const SessionContext& context, const Journal& journal) {
+    if (!mnuItemInitialize_Click(context.line, context.instrument, context.prompt))
+        return;
+    ModeChoice choice;
+    {
+        InitInst options(knownDownloads(journal.list()), parent);
+        if (options.exec() != QDialog::Accepted)
+            return;
+        choice = options.choice();
+    }
+    Abort dialog(context, parent);
+    InitializeSession(context.line, context.waiter, context.prompt, dialog, context.instrument,
+                      context.gErrorCallPoint)
+        .Initialize(modeLetter(choice));
+}
+
+} // namespace tally

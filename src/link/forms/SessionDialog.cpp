@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/forms/SessionDialog.h"
+
+#include "link/forms/DialogText.h"
+
+#include <QEventLoop>
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace tally {
+
+namespace {
+
+constexpr int progressMaximum = 20000;
+constexpr int columns = 74; // of the widest text that is laid out with blanks
+constexpr int lines = 34;   // leaves room for a message box below what it is about
+
+} // namespace
+
+SessionDialog::SessionDialog(const SessionContext& context, const QString& name, const QString& title,
+                             QWidget* parent)
+    : QDialog(parent), context_(context), down_(new QVBoxLayout(this)) {
+    setObjectName(name);
+    setWindowTitle(title);
+    setModal(true);
+}
+
+Session SessionDialog::session() {
+    return {context_.line,       context_.waiter,  context_.prompt,         *this,
+            context_.instrument, context_.journal, context_.gErrorCallPoint};
+}
+
+QLabel* SessionDialog::addText(const QString& name, bool fixed) {
+    QLabel* label = namedLabel(name, fixed);
+    if (fixed)
+        setMinimumWidth(label->fontMetrics().horizontalAdvance(QLatin1Char('m')) * columns);
+    else
+        label->setWordWrap(true);
+    down_->addWidget(label, 0, fixed ? Qt::AlignHCenter : Qt::Alignment());
+    return label;
+}
+
+void SessionDialog::addProgressBar() {
+    bar_ = new QProgressBar;
+    bar_->setObjectName(QStringLiteral("ProgressBar1"));
+    bar_->setAccessibleName(tr("Progress"));
+    bar_->setRange(0, progressMaximum);
+    bar_->setTextVisible(false); // it starts anew when it is full
+    QSizePolicy policy = bar_->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    bar_->setSizePolicy(policy);
+    bar_->hide();
+    down_->addWidget(bar_);
+}
+
+void SessionDialog::addLog() {
+    log_ = namedLabel(QStringLiteral("Label3"));
+    log_->setText(QStringLiteral("Debugging log:\n"));
+    log_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    log_->setMargin(4);
+    auto* area = new QScrollArea;
+    area->setWidget(log_);
+    area->setWidgetResizable(true);
+    // The last line stays in sight.
+    QScrollBar* scroll = area->verticalScrollBar();
+    connect(scroll, &QScrollBar::rangeChanged, scroll, [scroll](int, int end) { scroll->setValue(end); });
+    down_->addWidget(area, 1);
+    setMinimumHeight(log_->fontMetrics().lineSpacing() * lines);
+}
+
+QHBoxLayout& SessionDialog::buttonRow() {
+    if (!buttons_) {
+        buttons_ = new QHBoxLayout;
+        buttons_->addStretch(1);
+        down_->addLayout(buttons_);
+    }
+    return *buttons_;
+}
+
+void SessionDialog::addOk() {
+    ok_ = new QPushButton(QStringLiteral("OK"));
+    ok_->setObjectName(QStringLiteral("OK"));
+    ok_->setDefault(true);
+    connect(ok_, &QPushButton::clicked, this, [this] {
+        okPressed_ = true;
+        if (waiting_)
+            waiting_->quit();
+    });
+    buttonRow().addWidget(ok_);
+}
+
+void SessionDialog::addCancel(const QString& name, const QString& caption) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, &SessionDialog::reject);
+    buttonRow().addWidget(button);
+}
+
+bool SessionDialog::waitForOk() {
+    show();
+    QEventLoop loop;
+    waiting_ = &loop;
+    loop.exec();
+    waiting_ = nullptr;
+    return okPressed_;
+}
+
+void SessionDialog::start() {
+    running_ = true;
+    if (ok_)
+        ok_->hide();
+    show();
+}
+
+void SessionDialog::reject() {
+    if (running_) {
+        context_.requestCancel();
+        return;
+    }
+    if (waiting_)
+        waiting_->quit();
+    QDialog::reject();
+}
+
+void SessionDialog::appendLog(const std::string& text) {
+    log_->setText(log_->text() + shown(text));
+}
+
+void SessionDialog::progressVisible(bool visible) {
+    if (bar_)
+        bar_->setVisible(visible);
+}
+
+void SessionDialog::progress(int value) {
+    if (bar_)
+        bar_->setValue(value);
+}
+
+void SessionDialog::busy(bool busy) {
+    if (!parentWidget())
+        return;
+    if (busy)
+        parentWidget()->setCursor(Qt::WaitCursor);
+    else
+        parentWidget()->unsetCursor();
+}
+
+void SessionDialog::mainStatus(const std::string& text) {
+    context_.mainStatus(text);
+}
+
+} // namespace tally

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/forms/Status.h"
+
+#include "link/forms/DialogText.h"
+
+namespace tally {
+
+Status::Status(const SessionContext& context, QWidget* parent)
+    : SessionDialog(context, QStringLiteral("status"), tr("Status Check"), parent),
+      result_(addText(QStringLiteral("Label2"), true)),
+      label1_(addText(QStringLiteral("Label1"))) {
+    addLog();
+    addCancel(QStringLiteral("Command2"), tr("Cancel"));
+}
+
+void Status::prompt(const std::string& text) {
+    result_->setText(shown(text));
+}
+
+void Status::status(const std::string& text) {
+    label1_->setText(shown(text));
+}
+
+std::optional<StatusFields> runStatusCheck(QWidget* parent, const SessionContext& context) {
+    Status dialog(context, parent);
+    Session session = dialog.session();
+    StatusCheckSession check(session);
+    check.mnuItemStatusCheck_Click();
+    dialog.start();
+    return check.StatusCheck();
+}
+
+} // namespace tally
