@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "sim/Instrument.h"
+#include "sim/Pty.h"
+#include "sim/Wire.h"
+
+#include <memory>
+#include <optional>
+#include <thread>
+
+namespace tally::testing {
+
+// A peer that lives on a pseudo-terminal of its own, in a thread, until the test is over or its adapter is
+// pulled out.
+class LivePeer {
+public:
+    explicit LivePeer(sim::Peer& peer) : peer_(peer), path_(pty_->path()), wire_(peer_, *pty_) {
+        thread_ = std::thread([this] {
+            if (wire_.run() != sim::Wire::End::stopped)
+                pty_.reset();
+        });
+    }
+    ~LivePeer() {
+        wire_.stop();
+        thread_.join();
+    }
+    LivePeer(const LivePeer&) = delete;
+    LivePeer& operator=(const LivePeer&) = delete;
+
+    const std::string& path() const { return path_; }
+
+private:
+    sim::Peer& peer_;
+    std::optional<sim::Pty> pty_{std::in_place};
+    std::string path_;
+    sim::Wire wire_;
+    std::thread thread_;
+};
+
+// An instrument that lives that way. Look into it only when the line is closed and quiet.
+struct LiveInstrument {
+    explicit LiveInstrument(sim::InstrumentSetup setup) : instrument(std::move(setup)) {}
+
+    sim::Instrument instrument;
+    LivePeer live{instrument};
+};
+
+} // namespace tally::testing
