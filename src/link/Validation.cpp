@@ -5,6 +5,7 @@
 #include "link/TextBlocks.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <string_view>
 #include <vector>
@@ -23,15 +24,23 @@ bool isOver999(std::string_view reading) {
     return end > first + 3;
 }
 
+constexpr auto bitsInByte = [] {
+    std::array<std::uint8_t, 256> bits = {};
+    for (unsigned i = 0; i < bits.size(); ++i)
+        bits[i] = static_cast<std::uint8_t>(std::popcount(i));
+    return bits;
+}();
+
 // Scans a data section: whole blocks where nothing needs a closer look, else one character after the other.
 class Scanner {
 public:
     Scanner(std::string_view text, std::size_t section) : text_(text), at_(section) {}
 
     void run() {
-        while (at_ < text_.size())
-            if (text_.size() - at_ < TextBlock::size || !plainBlock())
-                stepBlock();
+        while (at_ < text_.size()) {
+            plainBlocks();
+            stepBlock();
+        }
         endReading();
     }
 
@@ -39,33 +48,48 @@ public:
     int over999 = 0;
     int ctrlZ = 0;
     int badChars = 0;
-    std::optional<unsigned char> firstBadChar;
+    int firstBadChar = 0;           // when there is one
     std::vector<std::size_t> at999; // where the readings of "999" begin
 
 private:
-    // A block of digits and white space without a run of four digits or three nines only adds readings to
-    // lines. A reading that it ends in is left to the next block. False when it is not such a block; no
-    // reading is open before or after it.
-    bool plainBlock() {
-        const TextBlock block = classify(text_.data() + at_);
-        const std::uint64_t digits = block.digits;
-        const std::uint64_t nines = block.nines;
-        const std::uint64_t pairs = digits & digits << 1;
-        if ((block.others | (pairs & pairs << 2) | (nines & nines << 1 & nines << 2)) != 0)
-            return false;
-        const int cut = std::countl_one(digits);
-        std::uint64_t starts = digits & ~(digits << 1) & (~0ULL >> cut);
-        for (std::uint64_t feeds = block.lineFeeds; feeds != 0; feeds &= feeds - 1) {
-            const std::uint64_t before = (feeds & (~feeds + 1)) - 1;
-            readings_ += std::popcount(starts & before);
-            starts &= ~before;
-            endLine();
+    // Blocks of digits and white space without a run of four digits or a "999" only add readings to lines;
+    // runs of digits may reach over their borders. Stops before the first block that is not such a one, with
+    // the reading open that the block before ended in.
+    void plainBlocks() {
+        std::uint64_t digitsBefore = 0; // of the block before
+        std::uint64_t pairsBefore = 0;
+        for (; text_.size() - at_ >= TextBlock::looksAt; at_ += TextBlock::size) {
+            const TextBlock block = classify(text_.data() + at_);
+            const std::uint64_t pairs = block.digits & (block.digits << 1 | digitsBefore >> 63);
+            const std::uint64_t fours = pairs & (pairs << 2 | pairsBefore >> 62);
+            if (!block.plain || fours != 0)
+                break;
+            addStarts(block.digits ^ pairs, block.lineFeeds);
+            digitsBefore = block.digits;
+            pairsBefore = pairs;
         }
-        readings_ += std::popcount(starts);
-        at_ += TextBlock::size - static_cast<std::size_t>(cut);
-        return true;
+        if (const auto length = static_cast<std::size_t>(std::countl_one(digitsBefore)); length > 0)
+            start_ = at_ - length;
     }
 
+    // Adds the readings that start in a block to its lines.
+    void addStarts(std::uint64_t starts, std::uint64_t feeds) {
+        const std::uint64_t upTo = bitsUpToByte(starts);
+        int ended = 0; // readings of the block in lines that have ended
+        for (; feeds != 0; feeds &= feeds - 1) {
+            const int at = std::countr_zero(feeds);
+            // All up to the byte of the line feed, without those behind it in that byte.
+            const int byte = at & ~7;
+            const int before = static_cast<int>(upTo >> byte & 0xff) -
+                               bitsInByte[static_cast<std::size_t>(starts >> byte & 0xff) >> (at & 7)];
+            readings_ += before - ended;
+            ended = before;
+            endLine();
+        }
+        readings_ += static_cast<int>(upTo >> 56) - ended;
+    }
+
+    // One block character by character, and on to the end of a reading.
     void stepBlock() {
         const std::size_t end = std::min(at_ + TextBlock::size, text_.size());
         for (; at_ < text_.size() && (at_ < end || start_ != none); ++at_)
@@ -128,12 +152,13 @@ ValidationCounts validate(std::string& gText, bool change999sTo000) {
         return {};
     Scanner scanner(gText, mark + 2);
     scanner.run();
-    const ValidationCounts counts{.badLines = toInt16(scanner.badLines),
-                                  .over999 = toInt16(scanner.over999),
-                                  .count999 = toInt16(static_cast<double>(scanner.at999.size())),
-                                  .ctrlZ = toInt16(scanner.ctrlZ),
-                                  .badChars = toInt16(scanner.badChars),
-                                  .firstBadChar = scanner.firstBadChar};
+    ValidationCounts counts{.badLines = toInt16(scanner.badLines),
+                            .over999 = toInt16(scanner.over999),
+                            .count999 = toInt16(static_cast<double>(scanner.at999.size())),
+                            .ctrlZ = toInt16(scanner.ctrlZ),
+                            .badChars = toInt16(scanner.badChars)};
+    if (counts.badChars > 0)
+        counts.firstBadChar = static_cast<unsigned char>(scanner.firstBadChar);
     if (change999sTo000)
         for (const std::size_t at : scanner.at999)
             gText.replace(at, 3, "000");
