@@ -20,20 +20,26 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+bool isLineEnd(char c) {
+    return c == '\n' || c == '\r';
+}
+
 // Goes through the text once. The file lists the newest reading first: readings are stored downwards from the
 // end of a work list, so that they stand oldest first without being turned round.
 class ItemReader {
 public:
     ItemReader(std::string_view text, bool low)
-        : text_(withoutClosingQuote(text)), low_(low), work_(mostItems), next_(mostItems) {}
+        : text_(withoutClosingQuote(text)),
+          low_(low),
+          work_(std::min(mostItems, text_.size() + 1)),
+          next_(work_.size()) {}
 
     DataItems read() {
-        bool lineStart = true;
-        while (!items_.outOfRange && next_ > 0) {
-            if (lineStart)
-                readRows();
-            lineStart = skipSeparators();
-            if (at_ == text_.size())
+        readRows();
+        while (!full()) {
+            skipSeparators();
+            // Rows may have filled the work list.
+            if (full() || at_ == text_.size())
                 break;
             if (text_[at_] == terminator) {
                 items_.ended = true;
@@ -56,9 +62,11 @@ private:
         return end > 0 && text[end - 1] == '"' ? text.substr(0, end - 1) : text;
     }
 
+    // As many full rows as stand from here on, where a line begins.
     void readRows() {
         const std::size_t length = low_ ? DataRow::lowLength : DataRow::highLength;
-        while (text_.size() - at_ >= DataRow::reach + 2 && next_ >= DataRow::fields) {
+        bool lineStart = true;
+        while (lineStart && text_.size() - at_ >= DataRow::reach && next_ >= DataRow::fields) {
             const char* row = text_.data() + at_;
             std::int16_t* last = work_.data() + next_ - 1;
             // A row that goes on is something else: its last token is not complete.
@@ -68,18 +76,26 @@ private:
                 return;
             next_ -= DataRow::fields;
             at_ += length;
-            if (row[length] != '\n' || row[length + 1] != '\r')
-                return;
-            at_ += 2;
+            lineStart = skipLineEnds();
         }
     }
 
-    // True when a line ended.
-    bool skipSeparators() {
-        bool lineEnd = false;
-        for (; at_ < text_.size() && isDataSeparator(text_[at_]); ++at_)
-            lineEnd = text_[at_] == '\n' || text_[at_] == '\r';
-        return lineEnd;
+    // True when a line ended here.
+    bool skipLineEnds() {
+        const std::size_t begin = at_;
+        while (at_ < text_.size() && isLineEnd(text_[at_]))
+            ++at_;
+        return at_ != begin;
+    }
+
+    // To the next item; full rows on the way are read.
+    void skipSeparators() {
+        while (at_ < text_.size() && isDataSeparator(text_[at_])) {
+            if (skipLineEnds())
+                readRows();
+            else
+                ++at_;
+        }
     }
 
     // One run of characters between separators: an item, or several that touch.
@@ -142,14 +158,14 @@ private:
 
     void keepNewest() {
         const std::size_t count =
-            std::min(mostItems - next_, static_cast<std::size_t>(Recordings::mostReadings));
+            std::min(work_.size() - next_, static_cast<std::size_t>(Recordings::mostReadings));
         items_.readings.assign(work_.end() - static_cast<std::ptrdiff_t>(count), work_.end());
     }
 
     std::string_view text_;
     bool low_;
-    std::vector<std::int16_t> work_;
-    std::size_t next_; // where in the work list the last item was stored
+    std::vector<std::int16_t> work_; // an item takes a character at least
+    std::size_t next_;               // where in the work list the last item was stored
     std::size_t at_ = 0;
     DataItems items_;
 };

@@ -119,6 +119,31 @@ TEST(DataItems, MoreThanTheMostReadingsKeepTheNewest) {
     EXPECT_TRUE(items.ended);
 }
 
+TEST(DataItems, FullRowsBeyondTheItemsThatAreLookedAtAreLeft) {
+    for (const std::size_t count : {43050U, 43060U, 50000U}) {
+        const std::vector<std::string> ones(count, "1");
+        const std::vector<std::string> tenths(count, "0.1");
+        EXPECT_EQ(high(testing::fieldLines(ones, 4) + "\x1a"), Readings(42966, 10)) << count;
+        EXPECT_EQ(low(testing::fieldLines(tenths, 5) + "\x1a"), Readings(42966, 1)) << count;
+        EXPECT_TRUE(readDataItems(testing::fieldLines(ones, 4), false).ended) << count;
+    }
+}
+
+TEST(DataItems, FullRowsAreFoundAfterEveryLineEndAndAfterADamagedLine) {
+    const std::string row = "   1   2   3   4   5   6   7   8   9  10";
+    Readings oneRow = {100, 90, 80, 70, 60, 50, 40, 30, 20, 10};
+    for (const std::string lineEnd : {"\n\r", "\r\n", "\n", "\r", "\r\n\n\n"}) {
+        std::string text = " x 5";
+        Readings expected = {50, 0};
+        for (int i = 0; i < 4; ++i) {
+            text += lineEnd + row;
+            expected.insert(expected.begin(), oneRow.begin(), oneRow.end());
+        }
+        EXPECT_EQ(high(text + "\x1a"), expected);
+        EXPECT_EQ(high(text), expected) << "the last row stands at the end of the text";
+    }
+}
+
 TEST(DataItems, ReadingStopsAfterTheItemsThatAreLookedAt) {
     std::string text;
     for (int i = 0; i < 43050; ++i)
