@@ -46,8 +46,12 @@ std::string receive(const std::string& device, const std::string& settings = "96
     line.PortOpen(true);
     std::string all;
     while (all.find('\x1a') == std::string::npos &&
-           waiter.until(waiter.now() + testing::patience) == Wake::data)
-        all += line.Input();
+           waiter.until(waiter.now() + testing::patience) == Wake::data) {
+        const std::string next = line.Input();
+        if (next.empty() && !line.isOpen())
+            break;
+        all += next;
+    }
     return all;
 }
 
