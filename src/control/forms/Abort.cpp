@@ -9,9 +9,15 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int widestText = 60; // columns
+
+} // namespace
+
 Abort::Abort(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("Abort"), tr("Initialize"), parent),
-      label1_(addText(QStringLiteral("Label1"))) {
+      label1_(addFixedText(QStringLiteral("Label1"), widestText)) {
     label1_->setText(QStringLiteral("NO REPONSE"));
     addLog();
     addCancel(QStringLiteral("Command1"), QStringLiteral("CANCEL"));

@@ -11,6 +11,12 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int leastWidth = 80; // characters of the line about downloads
+
+} // namespace
+
 InitInst::InitInst(const std::string& known, QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("InitInst"));
     setWindowTitle(QStringLiteral("Initialization Options"));
@@ -28,6 +34,8 @@ InitInst::InitInst(const std::string& known, QWidget* parent) : QDialog(parent) 
 
     QLabel* downloads = namedLabel(QStringLiteral("KnownDownloads"));
     downloads->setText(shown(known));
+    downloads->setWordWrap(true);
+    downloads->setMinimumWidth(downloads->fontMetrics().averageCharWidth() * leastWidth);
     downloads->setAccessibleName(tr("Last downloads"));
     layout()->addWidget(downloads);
 

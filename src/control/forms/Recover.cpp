@@ -6,9 +6,15 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int widestText = 74; // columns
+
+} // namespace
+
 Recover::Recover(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("recover"), QStringLiteral("failed battery recovery"), parent),
-      label1_(addText(QStringLiteral("Label1"), true)) {
+      label1_(addFixedText(QStringLiteral("Label1"), widestText)) {
     addProgressBar();
     addLog();
     addOk();

@@ -5,9 +5,15 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int widestText = 74; // columns
+
+} // namespace
+
 Dwnloaditem::Dwnloaditem(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("Dwnloaditem"), tr("DownLoad"), parent),
-      prompt_(addText(QStringLiteral("PromptLabel"), true)),
+      prompt_(addFixedText(QStringLiteral("PromptLabel"), widestText)),
       label1_(addText(QStringLiteral("Label1"))),
       label2_(addText(QStringLiteral("Label2"))) {
     addProgressBar();

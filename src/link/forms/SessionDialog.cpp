@@ -4,6 +4,7 @@
 #include "link/forms/DialogText.h"
 
 #include <QEventLoop>
+#include <QFontInfo>
 #include <QHBoxLayout>
 #include <QProgressBar>
 #include <QPushButton>
@@ -16,8 +17,15 @@ namespace tally {
 namespace {
 
 constexpr int progressMaximum = 20000;
-constexpr int columns = 74; // of the widest text that is laid out with blanks
-constexpr int lines = 34;   // leaves room for a message box below what it is about
+constexpr int lines = 30; // leaves room for a message box below what it is about
+constexpr int logLines = 7;
+constexpr double largeText = 1.2; // read at arm's length, in a truck
+
+void enlarge(QLabel& label) {
+    QFont font = label.font();
+    font.setPointSizeF(QFontInfo(font).pointSizeF() * largeText);
+    label.setFont(font);
+}
 
 } // namespace
 
@@ -34,13 +42,19 @@ Session SessionDialog::session() {
             context_.instrument, context_.journal, context_.gErrorCallPoint};
 }
 
-QLabel* SessionDialog::addText(const QString& name, bool fixed) {
-    QLabel* label = namedLabel(name, fixed);
-    if (fixed)
-        setMinimumWidth(label->fontMetrics().horizontalAdvance(QLatin1Char('m')) * columns);
-    else
-        label->setWordWrap(true);
-    down_->addWidget(label, 0, fixed ? Qt::AlignHCenter : Qt::Alignment());
+QLabel* SessionDialog::addText(const QString& name) {
+    QLabel* label = namedLabel(name);
+    label->setWordWrap(true);
+    enlarge(*label);
+    down_->addWidget(label);
+    return label;
+}
+
+QLabel* SessionDialog::addFixedText(const QString& name, int columns) {
+    QLabel* label = namedLabel(name, true);
+    enlarge(*label);
+    setMinimumWidth(label->fontMetrics().horizontalAdvance(QLatin1Char('m')) * columns);
+    down_->addWidget(label, 0, Qt::AlignHCenter);
     return label;
 }
 
@@ -68,7 +82,9 @@ void SessionDialog::addLog() {
     // The last line stays in sight.
     QScrollBar* scroll = area->verticalScrollBar();
     connect(scroll, &QScrollBar::rangeChanged, scroll, [scroll](int, int end) { scroll->setValue(end); });
-    down_->addWidget(area, 1);
+    area->setFixedHeight(log_->fontMetrics().lineSpacing() * logLines);
+    down_->addStretch(1);
+    down_->addWidget(area);
     setMinimumHeight(log_->fontMetrics().lineSpacing() * lines);
 }
 

@@ -44,7 +44,9 @@ public:
 
 protected:
     // Parts of a dialog, from top to bottom.
-    QLabel* addText(const QString& name, bool fixed = false);
+    QLabel* addText(const QString& name);
+    // A text that is laid out with blanks, at most so many columns wide.
+    QLabel* addFixedText(const QString& name, int columns);
     void addProgressBar();
     void addLog();
     void addOk();

@@ -5,9 +5,15 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int widestText = 104; // columns
+
+} // namespace
+
 Status::Status(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("status"), tr("Status Check"), parent),
-      result_(addText(QStringLiteral("Label2"), true)),
+      result_(addFixedText(QStringLiteral("Label2"), widestText)),
       label1_(addText(QStringLiteral("Label1"))) {
     addLog();
     addCancel(QStringLiteral("Command2"), tr("Cancel"));
