@@ -6,9 +6,29 @@
 #include "core/Prompt.h"
 #include "core/Recordings.h"
 #include "core/Settings.h"
+#include "link/InstrumentState.h"
+#include "link/Journal.h"
+#include "link/Line.h"
+#include "link/PortChoice.h"
+#include "link/Waiter.h"
 #include "view/DisplayState.h"
 
+#include <functional>
+#include <string>
+
 namespace tally {
+
+// What the sessions with an instrument work with.
+struct LinkServices {
+    Line& line;
+    Waiter& waiter;
+    Journal& journal;
+    InstrumentState& instrument;
+    const PortCatalogue& ports;
+    std::function<void()> requestCancel;
+    std::string workingDirectory; // current directory at start
+    std::string temporary;        // file of the recover command
+};
 
 // What the main window works with; owned by main, or by a test.
 struct Services {
@@ -19,6 +39,7 @@ struct Services {
     Clock& clock;
     Prompt& prompt;
     SlotChooser& chooser;
+    LinkServices& link;
 };
 
 } // namespace tally

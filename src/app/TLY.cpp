@@ -6,13 +6,16 @@
 #include "app/NoticeBar.h"
 #include "app/Screen.h"
 #include "app/StatusPanels.h"
+#include "app/TLY_Downloads.h"
 #include "app/TLY_Edit.h"
 #include "app/TLY_Export.h"
 #include "app/TLY_File.h"
 #include "app/TLY_Help.h"
+#include "app/TLY_Instrument.h"
 #include "app/TLY_Options.h"
 #include "app/TLY_Paper.h"
 #include "app/TLY_Power.h"
+#include "app/TLY_Survey.h"
 #include "app/TLY_View.h"
 
 #include <QMenuBar>
@@ -35,6 +38,9 @@ TLY::TLY(const Services& services, QWidget* parent)
     edit_ = std::make_unique<TLY_Edit>(*this);
     paper_ = std::make_unique<TLY_Paper>(*this);
     export_ = std::make_unique<TLY_Export>(*this);
+    downloads_ = std::make_unique<TLY_Downloads>(*this);
+    instrument_ = std::make_unique<TLY_Instrument>(*this);
+    survey_ = std::make_unique<TLY_Survey>(*this);
     options_ = std::make_unique<TLY_Options>(*this);
     help_ = std::make_unique<TLY_Help>(*this);
     connectMenus();
@@ -84,6 +90,13 @@ void TLY::connectMenus() {
     on("mnuItemForceRdg", *edit_, &TLY_Edit::mnuItemForceRdg_Click);
     on("mnuItemadd", *edit_, &TLY_Edit::mnuItemadd_Click);
     on("mnuItemClearNote", *edit_, &TLY_Edit::mnuItemClearNote_Click);
+    connectMoreMenus();
+}
+
+void TLY::connectMoreMenus() {
+    const auto on = [this](std::string_view name, auto& group, auto handler) {
+        menus_->handle(name, [this, &group, handler] { dispatcher_.run([&] { (group.*handler)(); }); });
+    };
     on("mnuItemViewPlot", *view_, &TLY_View::mnuItemViewPlot_Click);
     on("mnuItemViewTable", *view_, &TLY_View::mnuItemViewTable_Click);
     on("mnuItemRefresh", *view_, &TLY_View::mnuItemRefresh_Click);
@@ -95,6 +108,13 @@ void TLY::connectMenus() {
     on("mnuItemViewPwrTable", *power_, &TLY_Power::mnuItemViewPwrTable_Click);
     on("mnuItemViewpwrsummry", *power_, &TLY_Power::mnuItemViewpwrsummry_Click);
     on("mnuItemPF", *power_, &TLY_Power::mnuItemPF_Click);
+    on("mnuItemDownload", *instrument_, &TLY_Instrument::mnuItemDownload_Click);
+    on("mnuItemInitialize", *instrument_, &TLY_Instrument::mnuItemInitialize_Click);
+    on("mnuItemRecover", *instrument_, &TLY_Instrument::mnuItemRecover_Click);
+    on("mnuItemStatusCheck", *instrument_, &TLY_Instrument::mnuItemStatusCheck_Click);
+    on("mnuItemPortSelect", *instrument_, &TLY_Instrument::mnuItemPortSelect_Click);
+    on("mnuItemInstSelect", *instrument_, &TLY_Instrument::mnuItemInstSelect_Click);
+    on("mnuitemsurvfil", *survey_, &TLY_Survey::mnuitemsurvfil_Click);
     on("SpecialTest", *options_, &TLY_Options::SpecialTest_Click);
     on("mnuItemDefaultDir", *options_, &TLY_Options::mnuItemDefaultDir_Click);
     on("mnuItemUserID", *options_, &TLY_Options::mnuItemUserID_Click);

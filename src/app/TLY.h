@@ -16,11 +16,14 @@ class Menus;
 class NoticeBar;
 class Screen;
 class StatusPanels;
+class TLY_Downloads;
 class TLY_Edit;
 class TLY_Export;
 class TLY_File;
 class TLY_Help;
+class TLY_Instrument;
 class TLY_Options;
+class TLY_Survey;
 class TLY_Paper;
 class TLY_Power;
 class TLY_View;
@@ -49,6 +52,7 @@ public:
     TLY_Power& power() { return *power_; }
     TLY_Edit& edit() { return *edit_; }
     TLY_Paper& paper() { return *paper_; }
+    TLY_Downloads& downloads() { return *downloads_; }
     TLY_Help& help() { return *help_; }
 
     // Opens files as File > Open does, at most three; shows the plot instead of the summary when asked.
@@ -70,6 +74,7 @@ protected:
 private:
     void layOut();
     void connectMenus();
+    void connectMoreMenus();
     void connectStartPage();
     void addShortcuts();
     void placeWindow();
@@ -87,7 +92,10 @@ private:
     std::unique_ptr<TLY_Edit> edit_;
     std::unique_ptr<TLY_Paper> paper_;
     std::unique_ptr<TLY_Export> export_;
+    std::unique_ptr<TLY_Downloads> downloads_;
+    std::unique_ptr<TLY_Instrument> instrument_;
     std::unique_ptr<TLY_Options> options_;
+    std::unique_ptr<TLY_Survey> survey_;
     std::unique_ptr<TLY_Help> help_;
     bool painted_ = false;
 };

@@ -6,6 +6,7 @@
 #include "app/Screen.h"
 #include "app/StatusPanels.h"
 #include "app/TLY.h"
+#include "app/TLY_Downloads.h"
 #include "app/TLY_Edit.h"
 #include "app/TLY_View.h"
 #include "app/forms/Words.h"
@@ -129,6 +130,8 @@ void TLY_File::reset() {
     window_.edit().showForced();
     window_.updateTitle();
     window_.menus().apply(MenuEvent::close);
+    if (window_.downloads().pending())
+        window_.menus().apply(MenuEvent::textKept);
 }
 
 // The applied span, else the whole of the chosen file, whatever the first one covers.
@@ -159,12 +162,16 @@ void TLY_File::mnuItemSave_Click() {
         saved = saveRange();
         buildRange(saved);
     }
-    const std::string text = tally::quoted(s.recordings.gText);
+    const bool download = !s.recordings.isOpen(0) && window_.downloads().pending();
+    const std::string text =
+        tally::quoted(download ? window_.downloads().pending()->text : s.recordings.gText);
     const auto path =
         s.prompt.chooseFile({.save = true, .filter = std::string(saveFilter), .folder = folder()});
     if (!path)
         return;
     s.files.write(*path, text);
+    if (download)
+        window_.downloads().pendingSaved();
     window_.edit().saved(s.recordings.ginx, saved.first, saved.last);
     window_.menus().apply(MenuEvent::saved);
 }

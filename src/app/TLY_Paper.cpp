@@ -98,6 +98,14 @@ void TLY_Paper::mnuItemPrintPwrTable_Click() {
     paper().printWithDialog(report("Power table", heading, s.recordings.gTable));
 }
 
+void TLY_Paper::print(const std::string& title, const std::string& text) {
+    paper().printWithDialog(report(title, {}, text));
+}
+
+void TLY_Paper::preview(const std::string& title, const std::string& text) {
+    paper().preview(report(title, {}, text));
+}
+
 TextReport TLY_Paper::shownText() const {
     const TextView& shown = window_.screen().text();
     std::string title = window_.screen().displaying();

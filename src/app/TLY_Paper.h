@@ -17,6 +17,9 @@ public:
     void mnuItemPrintpwrSum_Click();
     void mnuItemPrintPwrTable_Click();
 
+    // A text that needs no heading.
+    void print(const std::string& title, const std::string& text);
+    void preview(const std::string& title, const std::string& text);
     // What is shown: the chart or the text.
     void printShown();
     void previewShown();

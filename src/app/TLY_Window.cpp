@@ -5,6 +5,7 @@
 #include "app/Screen.h"
 #include "app/StartPage.h"
 #include "app/TLY.h"
+#include "app/TLY_Downloads.h"
 #include "app/TLY_Edit.h"
 #include "app/TLY_File.h"
 #include "app/TLY_Help.h"
@@ -90,13 +91,18 @@ bool TLY::event(QEvent* event) {
     const bool done = QMainWindow::event(event);
     if (!painted_ && event->type() == QEvent::Paint) {
         painted_ = true;
-        QTimer::singleShot(0, this, [this] { Q_EMIT firstFrame(); });
+        QTimer::singleShot(0, this, [this] {
+            Q_EMIT firstFrame();
+            downloads_->showNotices();
+        });
     }
     return done;
 }
 
 void TLY::closeEvent(QCloseEvent* event) {
-    // A session with an instrument ends first; it is told by the closing of its own dialog.
+    // A session with an instrument ends first.
+    if (dispatcher_.running())
+        services_.link.requestCancel();
     if (dispatcher_.running() || !edit_->mayLeave()) {
         event->ignore();
         return;

@@ -4,16 +4,32 @@
 #include "app/forms/QtPrompt.h"
 #include "app/forms/Words.h"
 #include "platform/Folders.h"
+#include "platform/JournalFolder.h"
+#include "platform/PortList.h"
 #include "platform/QtClock.h"
+#include "platform/QtWaiter.h"
 #include "platform/SafeFile.h"
+#include "platform/SerialLine.h"
+#include "platform/SimulatedInstrument.h"
 #include "platform/UserSettings.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QTimer>
 
 namespace {
+
+// Where the recover command reads its text back from: never a folder that others can write to.
+std::string temporaryFile() {
+#ifdef Q_OS_WIN
+    return "c:\\temp.dat";
+#else
+    tally::folders::make(tally::folders::cache());
+    return tally::folders::cache() + "/temp.dat";
+#endif
+}
 
 struct Arguments {
     std::vector<std::string> files;
@@ -43,6 +59,39 @@ Arguments parse(const QApplication& application) {
     return arguments;
 }
 
+// The serial line and what keeps what comes over it.
+struct Link {
+    Link(tally::SafeFile& files, const tally::Settings& settings)
+        : line([this, &settings](int commPort) { return device(commPort, settings); }),
+          waiter(line),
+          journal(tally::folders::data() + "/journal", files) {}
+
+    // The simulated instrument is started when its port is opened; it plays the chosen type.
+    std::string device(int commPort, const tally::Settings& settings) {
+        const std::string path = tally::devicePath(commPort, settings);
+        constexpr int automatic = 11;
+        const int type = instrument.instSelection;
+        if (path == tally::simulatedInstrument())
+            simulated.start(type < 1 || type == automatic ? instrument.instAutoCurrent : type);
+        return path;
+    }
+
+    tally::InstrumentState instrument;
+    tally::SimulatedInstrument simulated;
+    tally::PortList ports;
+    tally::SerialLine line;
+    tally::QtWaiter waiter;
+    tally::JournalFolder journal;
+    tally::LinkServices services{line,
+                                 waiter,
+                                 journal,
+                                 instrument,
+                                 ports,
+                                 [this] { waiter.cancel(); },
+                                 QDir::currentPath().toStdString(),
+                                 temporaryFile()};
+};
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -58,7 +107,8 @@ int main(int argc, char** argv) {
     tally::DisplayState display;
     tally::QtPrompt prompt;
     tally::AppSlotChooser chooser(prompt);
-    tally::TLY window({recordings, display, settings, files, clock, prompt, chooser});
+    Link link(files, settings);
+    tally::TLY window({recordings, display, settings, files, clock, prompt, chooser, link.services});
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });

@@ -108,7 +108,7 @@ TEST_F(WindowTest, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
 TEST_F(WindowTest, RecentEntriesOfTheSettingsAreShownAtStartUp) {
     settings.set("Settings", "mrufile1", "/d/x.dat");
     settings.set("Settings", "mrufile3", "/d/y.dat");
-    TLY another({recordings, display, settings, files, clock, prompt, chooser});
+    TLY another(services);
     EXPECT_THAT(mruShown(another), ElementsAre("/d/x.dat", "/d/y.dat"));
 }
 

@@ -12,12 +12,12 @@ namespace {
 using testing::WindowTest;
 
 // The tree as it must be: depth, control name, caption.
-struct Line {
+struct Entry {
     int depth;
     const char* name;
     const char* caption;
 };
-constexpr Line tree[] = {
+constexpr Entry tree[] = {
     {0, "mnuFile", "&File"},
     {1, "mnuItemOpen", "&Open"},
     {1, "mnuItemClose", "&Close"},
@@ -87,8 +87,8 @@ void collect(const QList<QAction*>& actions, int depth, std::vector<std::string>
 
 TEST_F(WindowTest, MenuTreeHasEveryItemInOrderUnderItsNameAndCaption) {
     std::vector<std::string> expected;
-    for (const Line& line : tree)
-        expected.push_back(std::to_string(line.depth) + " " + line.name + " " + line.caption);
+    for (const Entry& entry : tree)
+        expected.push_back(std::to_string(entry.depth) + " " + entry.name + " " + entry.caption);
     std::vector<std::string> found;
     collect(window.menuBar()->actions(), 0, found);
     EXPECT_EQ(found, expected);

@@ -130,7 +130,7 @@ TEST_F(WindowTest, PlaceOfTheWindowIsRemembered) {
     window.resize(777, 555);
     QCloseEvent close;
     QApplication::sendEvent(&window, &close);
-    TLY another({recordings, display, settings, files, clock, prompt, chooser});
+    TLY another(services);
     EXPECT_EQ(another.size(), QSize(777, 555));
 }
 
@@ -138,7 +138,7 @@ TEST_F(WindowTest, NonsenseInTheSettingsDoesNoHarm) {
     settings.set("Window", "geometry", "rubbish!!");
     settings.set("Settings", "Vline", "many");
     settings.set("Settings", "LastVoltages", "x -3 1e999 4160");
-    TLY another({recordings, display, settings, files, clock, prompt, chooser});
+    TLY another(services);
     EXPECT_EQ(another.size(), QSize(1000, 700));
 }
 

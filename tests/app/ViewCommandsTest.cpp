@@ -193,6 +193,19 @@ TEST_F(WindowTest, OnePagePlotShowsItsLabelAndTurnsZoomOff) {
     EXPECT_NE(window.screen().chartBar().print->text(), QStringLiteral("print on one page"));
 }
 
+TEST_F(WindowTest, OnePagePlotOfAZoomedSpanShowsTheWholeRecording) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    EXPECT_EQ(recordings.gDatastart, 5);
+    click("mnuItemOnepgPlot");
+    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_EQ(window.screen().chart().plot().points, 20);
+    EXPECT_FALSE(display.spanApplied);
+}
+
 TEST_F(WindowTest, SeveralMinMaxAvgFilesAskWhichStatistic) {
     open("/d/g.dat", dataFile('g', tenTriples()));
     open("/d/h.dat", dataFile('g', tenTriples()));

@@ -7,8 +7,11 @@
 #include "app/TLY.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFiles.h"
+#include "support/MemoryJournal.h"
 #include "support/MemorySettings.h"
 #include "support/QueuedPrompt.h"
+#include "support/VirtualLine.h"
+#include "support/VirtualWaiter.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"
 
@@ -34,6 +37,13 @@ public:
     }
 };
 
+// A machine whose ports are all free and that lists no device.
+class NoPorts : public PortCatalogue {
+public:
+    std::vector<PortDevice> devices() const override { return {}; }
+    PortPresence presence(const std::string&) const override { return PortPresence::free; }
+};
+
 // The data text of a recording: readings in tenths, oldest first; the header carries the time given.
 std::string dataFile(char modeLetter, const std::vector<int>& tenths, char typeLetter = 'X', bool low = false,
                      const std::string& time = "03-15-24 10:00");
@@ -48,7 +58,15 @@ protected:
     FixedClock clock;
     QueuedPrompt prompt;
     QueuedChooser chooser;
-    TLY window{{recordings, display, settings, files, clock, prompt, chooser}};
+    VirtualWaiter waiter;
+    VirtualLine line{waiter};
+    MemoryJournal journal;
+    InstrumentState instrument;
+    NoPorts ports;
+    LinkServices link{line,    waiter,         journal, instrument, ports, [this] { waiter.cancelNow(); },
+                      "/work", "/tmp/temp.dat"};
+    Services services{recordings, display, settings, files, clock, prompt, chooser, link};
+    TLY window{services};
 
     // Puts a file in memory and opens it by the menu.
     void open(const std::string& path, const std::string& bytes);
