@@ -17,7 +17,8 @@ namespace tally {
 namespace {
 
 constexpr int progressMaximum = 20000;
-constexpr int lines = 30; // leaves room for a message box below what it is about
+constexpr int leastWidth = 90; // characters
+constexpr int lines = 30;      // leaves room for a message box below what it is about
 constexpr int logLines = 7;
 constexpr double largeText = 1.2; // read at arm's length, in a truck
 
@@ -35,6 +36,7 @@ SessionDialog::SessionDialog(const SessionContext& context, const QString& name,
     setObjectName(name);
     setWindowTitle(title);
     setModal(true);
+    setMinimumWidth(fontMetrics().averageCharWidth() * leastWidth);
 }
 
 Session SessionDialog::session() {

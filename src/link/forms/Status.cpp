@@ -5,15 +5,9 @@
 
 namespace tally {
 
-namespace {
-
-constexpr int widestText = 104; // columns
-
-} // namespace
-
 Status::Status(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("status"), tr("Status Check"), parent),
-      result_(addFixedText(QStringLiteral("Label2"), widestText)),
+      result_(addText(QStringLiteral("Label2"))),
       label1_(addText(QStringLiteral("Label1"))) {
     addLog();
     addCancel(QStringLiteral("Command2"), tr("Cancel"));
