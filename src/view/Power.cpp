@@ -10,6 +10,7 @@
 #include "view/PowerValues.h"
 #include "view/ShownRange.h"
 #include "view/Span.h"
+#include "view/ViewRollback.h"
 
 #include <utility>
 
@@ -142,27 +143,11 @@ PowerRefusal DisplPlotPwr(Recordings& recordings, DisplayState& state, double vo
 
 PowerRefusal viewPower(Recordings& recordings, DisplayState& state, double volts, const Clock& clock,
                        Plot& out) {
-    const int start = recordings.gDatastart;
-    const int end = recordings.gdataend;
-    const bool zoomed = recordings.gZoomFlag;
-    DisplayState next = state;
-    PowerRefusal refusal = PowerRefusal::none;
-    const auto putBack = [&] {
-        recordings.gDatastart = start;
-        recordings.gdataend = end;
-        recordings.gZoomFlag = zoomed;
-    };
-    try {
-        startPower(recordings, next);
-        refusal = DisplPlotPwr(recordings, next, volts, clock, out);
-    } catch (const Fault&) {
-        putBack();
-        throw;
-    }
+    ViewRollback rollback(recordings, state);
+    startPower(recordings, state);
+    const PowerRefusal refusal = DisplPlotPwr(recordings, state, volts, clock, out);
     if (refusal == PowerRefusal::none)
-        state = std::move(next);
-    else
-        putBack();
+        rollback.keep();
     return refusal;
 }
 

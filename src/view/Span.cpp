@@ -22,6 +22,18 @@ int entryOf(const Plot& plot, int point) {
     return plot.firstEntry + plot.entriesPerPoint * std::clamp(point, 0, std::max(plot.points - 1, 0));
 }
 
+void showWholeRange(Recordings& recordings, DisplayState& state) {
+    recordings.gDatastart = 0;
+    recordings.gdataend = recordings.info(0).count - 1;
+    recordings.gZoomFlag = false;
+    state.spanApplied = false;
+    state.spanSelected = false;
+    state.zoomRequest = false;
+    // A zoom without a new mark shows the whole file.
+    const ShownRange whole = wholeFile(recordings, 0);
+    setSpan(recordings, state, whole.first, whole.last);
+}
+
 } // namespace
 
 void forgetViews(DisplayState& state) {
@@ -29,17 +41,9 @@ void forgetViews(DisplayState& state) {
 }
 
 void startPlot(Recordings& recordings, DisplayState& state) {
-    recordings.gDatastart = 0;
-    recordings.gdataend = recordings.info(0).count - 1;
-    recordings.gZoomFlag = false;
-    state.spanApplied = false;
-    state.spanSelected = false;
-    state.zoomRequest = false;
+    showWholeRange(recordings, state);
     state.onePage = false;
     state.powerView = false;
-    // A zoom without a new mark shows the whole file.
-    const ShownRange whole = wholeFile(recordings, 0);
-    setSpan(recordings, state, whole.first, whole.last);
 }
 
 void markSpanStart(const Recordings& recordings, DisplayState& state, const Plot& plot, int point) {
@@ -98,9 +102,9 @@ void setScale(DisplayState& state, std::string_view answer) {
     state.userScale = true;
 }
 
-void startOnePage(DisplayState& state) {
+void startOnePage(Recordings& recordings, DisplayState& state) {
+    showWholeRange(recordings, state);
     state.onePage = true;
-    state.spanSelected = false;
 }
 
 } // namespace tally

@@ -39,8 +39,8 @@ bool applyRange(Recordings& recordings, DisplayState& state, int from, int to);
 void setScale(DisplayState& state, std::string_view answer);
 inline constexpr std::string_view scalePrompt = "Enter min value for Y Scale";
 
-// One-page plot: sets the flag and drops the marked span; redraw afterwards.
-void startOnePage(DisplayState& state);
+// One-page plot: the whole first file, no span, no zoom; redraw the current view afterwards.
+void startOnePage(Recordings& recordings, DisplayState& state);
 inline constexpr std::string_view onePageButton = "print on one page";
 inline constexpr std::string_view onePageLabel =
     "\r\nONE PAGE PLOT IS ENABLED\r\nClick the Print Icon to print this report";

@@ -5,6 +5,7 @@
 #include "support/FixedClock.h"
 #include "support/SampleFile.h"
 #include "view/PlotModel.h"
+#include "view/Power.h"
 
 #include <gtest/gtest.h>
 
@@ -247,18 +248,40 @@ TEST_F(Span, ScaleRefusesWhatIsNoNumber) {
     EXPECT_FALSE(state.userScale);
 }
 
-TEST_F(Span, OnePagePlotDropsTheMarkAndKeepsTheRange) {
+TEST_F(Span, OnePagePlotDropsTheMarkAndShowsTheWholeRange) {
     addFile(recordings, "a.dat", ramp(10));
     const Plot whole = viewPlot();
     markSpanStart(recordings, state, whole, 2);
     markSpanEnd(recordings, state, whole, 5);
-    startOnePage(state);
+    requestZoom(recordings, state);
+    EXPECT_EQ(DisplPlot(recordings, state, clock).points, 4);
+    state.spanSelected = true;
+    startOnePage(recordings, state);
     EXPECT_TRUE(state.onePage);
     EXPECT_FALSE(state.spanSelected);
+    EXPECT_FALSE(state.spanApplied);
+    EXPECT_FALSE(recordings.gZoomFlag);
     EXPECT_EQ(DisplPlot(recordings, state, clock).points, 10);
+    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(recordings.gdataend, 9);
     EXPECT_TRUE(state.onePage);
     startPlot(recordings, state);
     EXPECT_FALSE(state.onePage);
+}
+
+TEST_F(Span, OnePagePlotOfThePowerViewShowsItsWholeRange) {
+    addFile(recordings, "a.dat", ramp(10));
+    const Plot whole = viewPlot();
+    markSpanStart(recordings, state, whole, 2);
+    markSpanEnd(recordings, state, whole, 5);
+    requestZoom(recordings, state);
+    Plot plot;
+    ASSERT_EQ(DisplPlotPwr(recordings, state, 1000, clock, plot), PowerRefusal::none);
+    EXPECT_EQ(plot.points, 4);
+    startOnePage(recordings, state);
+    EXPECT_TRUE(state.powerView) << "the power plot stays the current view";
+    ASSERT_EQ(DisplPlotPwr(recordings, state, 1000, clock, plot), PowerRefusal::none);
+    EXPECT_EQ(plot.points, 10);
 }
 
 TEST_F(Span, FixedTexts) {
