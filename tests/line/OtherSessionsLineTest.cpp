@@ -1,0 +1,151 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SessionDesk.h"
+#include "control/Initialize.h"
+#include "control/Recover.h"
+#include "link/StatusCheck.h"
+
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace tally {
+namespace {
+
+using testing::LiveInstrument;
+using testing::memoryOf;
+using testing::quickInstrument;
+using testing::SessionDesk;
+
+int initialize(SessionDesk& desk, char mode) {
+    InitializeSession session(desk.line, desk.waiter, desk.prompt, desk.panel, desk.state, desk.callPoint);
+    return session.Initialize(mode);
+}
+
+// The instrument's own view, once its thread is done with the exchange.
+template <typename Check>
+void settled(QtWaiter& waiter, Check check) {
+    for (int i = 0; i < 100 && !check(); ++i)
+        waiter.until(waiter.now() + 10);
+}
+
+TEST(StatusOnTheLine, ShowsTheFieldsOfTheHeader) {
+    sim::InstrumentSetup setup = quickInstrument(7, 100);
+    setup.memory = sim::filledMemory('i', 10710, 99, setup.clock);
+    const LiveInstrument instrument(setup);
+    SessionDesk desk(instrument.live.path(), 7);
+    desk.prompt.answers = {Answer::Ok, Answer::No};
+    const auto fields = StatusCheckSession(desk.session).StatusCheck();
+    ASSERT_TRUE(fields) << desk.lastText();
+    EXPECT_EQ(fields->type, "KWT");
+    EXPECT_EQ(fields->serial, "1234");
+    EXPECT_EQ(fields->state, "Running");
+    EXPECT_EQ(fields->interval, 1);
+    EXPECT_EQ(fields->timeOn, "12:00  Mar 15, 24");
+    // 3E8 is 1,000: 1,000 x 0.003656 + 0.15 volts.
+    EXPECT_NEAR(fields->vbatt.value_or(0), 3.806, 1e-9);
+    EXPECT_FALSE(desk.line.isOpen());
+}
+
+TEST(InitializationOnTheLine, EveryModeIsSetAndReadBack) {
+    for (char mode = 'a'; mode <= 'l'; ++mode) {
+        LiveInstrument instrument(quickInstrument(7, 50));
+        SessionDesk desk(instrument.live.path(), 7);
+        desk.prompt.answers = {Answer::Ok, Answer::No};
+        EXPECT_EQ(initialize(desk, mode), 1) << mode << desk.lastText();
+        EXPECT_FALSE(desk.line.isOpen());
+        settled(desk.waiter, [&] { return instrument.instrument.erasures() == 1; });
+        EXPECT_EQ(instrument.instrument.erasures(), 1);
+        const char reduced = mode > 'f' ? static_cast<char>(mode - 6) : mode;
+        EXPECT_EQ(instrument.instrument.initString().substr(14),
+                  std::string(" ") + reduced + (mode > 'f' ? "1\r" : "0\r"));
+    }
+}
+
+TEST(InitializationOnTheLine, TheBlankModeIsSetToo) {
+    LiveInstrument instrument(quickInstrument(1, 50));
+    SessionDesk desk(instrument.live.path(), 1);
+    desk.prompt.answers = {Answer::Ok, Answer::No};
+    EXPECT_EQ(initialize(desk, 'a'), 1) << desk.lastText();
+    EXPECT_EQ(instrument.instrument.initString().substr(14), "  0\r");
+}
+
+TEST(InitializationOnTheLine, TwoInstrumentsOneAfterTheOther) {
+    LiveInstrument instrument(quickInstrument(8, 50));
+    SessionDesk desk(instrument.live.path(), 8);
+    desk.prompt.answers = {Answer::Ok, Answer::Yes, Answer::Ok, Answer::No};
+    EXPECT_EQ(initialize(desk, 'e'), 2) << desk.lastText();
+    EXPECT_EQ(instrument.instrument.erasures(), 2);
+}
+
+TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
+    sim::InstrumentSetup setup = quickInstrument(7, 50);
+    setup.faults.noAnswer = true;
+    LiveInstrument instrument(setup);
+    SessionDesk desk(instrument.live.path(), 7);
+    // After the cancel the prompt comes again, and Cancel there ends it.
+    desk.prompt.answers = {Answer::Ok, Answer::Cancel};
+    QTimer::singleShot(1500, &desk.waiter, &QtWaiter::cancel);
+    EXPECT_EQ(initialize(desk, 'e'), 0);
+    EXPECT_FALSE(desk.line.isOpen());
+    EXPECT_EQ(instrument.instrument.erasures(), 0);
+}
+
+TEST(InitializationOnTheLine, ThePulledAdapterIsTold) {
+    sim::InstrumentSetup setup = quickInstrument(7, 50);
+    setup.faults.gone = 30;
+    LiveInstrument instrument(setup);
+    SessionDesk desk(instrument.live.path(), 7);
+    desk.prompt.answers = {Answer::Ok};
+    EXPECT_EQ(initialize(desk, 'e'), 0);
+    EXPECT_FALSE(desk.prompt.shown.empty());
+    EXPECT_FALSE(desk.line.isOpen());
+}
+
+sim::InstrumentSetup batteryFailed(char mode, int count) {
+    sim::InstrumentSetup setup = quickInstrument(7, 0);
+    setup.memory = sim::filledMemory(mode, 10710, count, setup.clock);
+    setup.batteryFailed = true;
+    setup.layout = sim::Layout::brief;
+    return setup;
+}
+
+std::optional<PendingDownload> recover(SessionDesk& desk) {
+    RecoverSession session(desk.session);
+    if (!session.mnuItemRecover_Click())
+        return {};
+    return session.RecoverProc(desk.files, desk.folder.path().toStdString() + "/temp.dat");
+}
+
+TEST(RecoverOnTheLine, WritesTheStopTimeIntoTheHeader) {
+    // 60 readings of a minute each, begun at 11:00: stopped at 12:00.
+    const sim::InstrumentSetup setup = batteryFailed('f', 60);
+    const LiveInstrument instrument(setup);
+    SessionDesk desk(instrument.live.path(), 7);
+    const auto recovered = recover(desk);
+    ASSERT_TRUE(recovered) << desk.lastText();
+    std::string expected = memoryOf(setup);
+    ASSERT_EQ(expected.substr(30, 14), "03-15-24 11:00");
+    expected.replace(30, 14, "03-15-24 12:00");
+    EXPECT_EQ(recovered->text, expected);
+}
+
+TEST(RecoverOnTheLine, AFullStopMemoryIsRecoveredAndAFullLoopIsNot) {
+    const LiveInstrument stopped(batteryFailed('f', 10710));
+    SessionDesk good(stopped.live.path(), 7);
+    EXPECT_TRUE(recover(good)) << good.lastText();
+
+    const LiveInstrument looping(batteryFailed('c', 10710));
+    SessionDesk bad(looping.live.path(), 7);
+    EXPECT_FALSE(recover(bad));
+    EXPECT_NE(bad.lastText().find("CONTINUOUS DATA; NOT RECOVERABLE"), std::string::npos);
+}
+
+TEST(RecoverOnTheLine, AnInstrumentWithAUsableClockIsNotTaken) {
+    const LiveInstrument instrument(quickInstrument(7, 60));
+    SessionDesk desk(instrument.live.path(), 7);
+    EXPECT_FALSE(recover(desk));
+    EXPECT_NE(desk.lastText().find("NOT A VALID INSTRUMENT"), std::string::npos);
+    EXPECT_FALSE(desk.line.isOpen());
+}
+
+} // namespace
+} // namespace tally
