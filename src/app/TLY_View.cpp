@@ -12,7 +12,6 @@
 #include "view/Printinfo.h"
 #include "view/ShownRange.h"
 #include "view/Span.h"
-#include "view/ViewRollback.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"
 #include "view/forms/DisplaySel.h"
@@ -162,10 +161,8 @@ void TLY_View::mnuItemOnepgPlot_Click() {
     if (noFile())
         return;
     const Services& s = window_.services();
-    ViewRollback rollback(s.recordings, s.display);
     startOnePage(s.recordings, s.display);
     redraw();
-    rollback.keep();
     window_.menus().apply(MenuEvent::onePage);
 }
 
