@@ -93,6 +93,7 @@ TEST_F(Forcing, BeyondTheLimitOfAHighFileIsRefused) {
     expectRefused("999.1", "999");
     EXPECT_EQ(lastValue, 999.1F) << "it is remembered all the same";
     expectRefused("1e300", "999");
+    expectRefused("1e999", "999");
 }
 
 TEST_F(Forcing, ExactlyTheLimitOfALowFileIsAllowed) {

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <string>
+
 namespace tally {
 namespace {
 
@@ -44,12 +47,25 @@ TEST(Numbers, ValTakesTheLeadingNumber) {
     EXPECT_EQ(Val(".5"), 0.5);
     EXPECT_EQ(Val("1.2.3"), 1.2);
     EXPECT_EQ(Val("5e"), 5);
+    EXPECT_EQ(Val("1 200 V"), 1200) << "blanks are passed over";
+}
+
+TEST(Numbers, ValOfANumberBeyondAllRangesIsNotZero) {
+    const std::string digits(400, '9');
+    EXPECT_EQ(Val("1e999"), HUGE_VAL);
+    EXPECT_EQ(Val("-1e999"), -HUGE_VAL);
+    EXPECT_EQ(Val(digits), HUGE_VAL);
+    EXPECT_EQ(Val(digits + ".5"), HUGE_VAL);
+    EXPECT_EQ(Val("1e-999"), 0);
+    EXPECT_EQ(Val("0." + std::string(400, '0') + "1"), 0);
 }
 
 TEST(Numbers, TextToWholeNumberRefusesWhatIsNoNumber) {
     EXPECT_EQ(textToInt16("12"), 12);
     EXPECT_EQ(textToInt16(" 2.5 "), 2);
-    for (const char* text : {"", "abc", "12a", "-", "."}) {
+    EXPECT_EQ(textToInt16("-3."), -3);
+    EXPECT_EQ(textToInt16("1e3"), 1000);
+    for (const char* text : {"", "abc", "12a", "-", ".", "1 2", "1e", "1e+", "1,5", "- 3"}) {
         try {
             textToInt16(text);
             ADD_FAILURE() << text;
@@ -57,7 +73,14 @@ TEST(Numbers, TextToWholeNumberRefusesWhatIsNoNumber) {
             EXPECT_EQ(fault.number(), 13) << text;
         }
     }
-    EXPECT_THROW(textToInt16("40000"), Fault);
+    for (const char* text : {"40000", "1e999", "-1e999"}) {
+        try {
+            textToInt16(text);
+            ADD_FAILURE() << text;
+        } catch (const Fault& fault) {
+            EXPECT_EQ(fault.number(), 6) << text;
+        }
+    }
 }
 
 TEST(Numbers, FormatPatterns) {

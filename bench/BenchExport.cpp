@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "Goals.h"
+
+#include "core/Prompt.h"
+#include "export/CsvData.h"
+#include "export/Export.h"
+#include "platform/SafeFile.h"
+#include "view/Print.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <filesystem>
+#include <memory>
+#include <string>
+
+namespace tally::bench {
+
+namespace {
+
+class SilentPrompt : public Prompt {
+public:
+    Answer show(const Message&) override { return Answer::Ok; }
+    std::optional<std::string> input(const InputQuestion&) override { return std::nullopt; }
+    std::optional<std::string> chooseFile(const FileQuestion&) override { return std::nullopt; }
+};
+
+// A recording of the largest size with a day curve, its table shown, in a folder of its own.
+struct Desk {
+    std::string folder;
+    Recordings recordings;
+    DisplayState state;
+    SafeFile files;
+    SilentPrompt prompt;
+    std::string heading;
+    std::string bytes; // of the export
+
+    explicit Desk(bool low) {
+        std::string pattern = (std::filesystem::temp_directory_path() / "tally-bench-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+        FileFacts& info = recordings.gInfo[0];
+        info.low = low;
+        info.path = folder + "/x.dat";
+        info.start = toReadingTime({2024, 3, 1, 0, 0});
+        info.count = Recordings::mostReadings;
+        for (int i = 0; i < info.count; ++i)
+            recordings.gReadings[0].push_back(
+                static_cast<std::int16_t>(2000 + 1500 * std::sin(i / 200.0) + i * 7919 % 101));
+        recordings.ginx = 0;
+        recordings.gDatastart = 0;
+        recordings.gdataend = info.count - 1;
+        heading = Print(recordings, state);
+    }
+    ~Desk() { std::filesystem::remove_all(folder); }
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
+
+    ExportDesk exports() { return {recordings, state, files, prompt, folder}; }
+};
+
+// An export against writing the bytes that it writes, in the same safe way.
+void exportGoal(const std::string& name, const std::shared_ptr<Desk>& desk, const std::string& file,
+                Run run) {
+    run();
+    desk->bytes = desk->files.read(desk->folder + "/" + file, std::uint64_t{1} << 30);
+    goal(
+        name, std::move(run), [desk] { desk->files.write(desk->folder + "/plain.txt", desk->bytes); }, 1.5);
+}
+
+void csvGoal(const std::string& name, bool low) {
+    const auto desk = std::make_shared<Desk>(low);
+    exportGoal(name, desk, "Lotusint.csv", [desk] { CsvData(desk->exports()); });
+}
+
+void textGoal(const std::string& name, bool perLine) {
+    const auto desk = std::make_shared<Desk>(true);
+    exportGoal(name, desk, "x.prn", [desk, perLine] { Export(desk->exports(), desk->heading, perLine); });
+}
+
+} // namespace
+
+void registerGoals() {
+    csvGoal("export-csv", true);
+    csvGoal("export-csv-high", false);
+    textGoal("export-table", false);
+    textGoal("export-one-per-line", true);
+}
+
+} // namespace tally::bench
