@@ -35,7 +35,10 @@ struct Program {
         process.terminate();
         return status();
     }
-    int status() { return process.waitForFinished(waitFor) ? process.exitCode() : -1; }
+    int status() {
+        const bool ended = process.state() == QProcess::NotRunning || process.waitForFinished(waitFor);
+        return ended ? process.exitCode() : -1;
+    }
 };
 
 std::string receive(const std::string& device, const std::string& settings = "9600,N,8,1") {
