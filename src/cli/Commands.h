@@ -9,11 +9,17 @@ namespace tally::cli {
 void addInfo(CLI::App& program, Context& context);
 void addReadings(CLI::App& program, Context& context);
 void addSave(CLI::App& program, Context& context);
+void addCheck(CLI::App& program, Context& context);
 void addTable(CLI::App& program, Context& context);
 void addSummary(CLI::App& program, Context& context);
 void addPower(CLI::App& program, Context& context);
 void addPlot(CLI::App& program, Context& context);
 void addNotes(CLI::App& program, Context& context);
 void addForce(CLI::App& program, Context& context);
+void addPorts(CLI::App& program, Context& context);
+void addDownload(CLI::App& program, Context& context);
+void addStatus(CLI::App& program, Context& context);
+void addRecover(CLI::App& program, Context& context);
+void addInit(CLI::App& program, Context& context);
 
 } // namespace tally::cli

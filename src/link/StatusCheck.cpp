@@ -72,17 +72,15 @@ std::optional<StatusFields> StatusCheckSession::checkOnce() {
         return {};
     }
     session_.gErrorCallPoint = beforeReading;
-    const auto fields = readStatusHeader(wait.scan().line(), wait.scan().lowBattery());
+    auto fields = readStatusHeader(wait.scan().line(), wait.scan().lowBattery());
     if (!fields) {
         session_.prompt.tell("Invalid header fragment received: '" + toUtf8(wait.scan().line()) + "'\r\n" +
                              tryAnotherType);
         return {};
     }
-    std::string text = fields->text();
     if (session_.instrument.instSelection == autoSelectType)
-        text += "\rAuto-selected settings now being used are for the " +
-                InstrumentName(session_.instrument.instAutoCurrent);
-    session_.panel.prompt(text);
+        fields->autoSelected = InstrumentName(session_.instrument.instAutoCurrent);
+    session_.panel.prompt(fields->text());
     if (fields->lowBattery)
         session_.prompt.show({.text = std::string("Status Check OK but...\r\n\r\n") + lowBatteryText,
                               .title = "WARNING",

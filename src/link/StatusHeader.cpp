@@ -91,6 +91,8 @@ std::string StatusFields::text() const {
     all += "     Condition: " + state;
     if (vbatt)
         all += "\r" + batteryText(*vbatt);
+    if (!autoSelected.empty())
+        all += "\rAuto-selected settings now being used are for the " + autoSelected;
     return all;
 }
 

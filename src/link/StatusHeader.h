@@ -18,6 +18,7 @@ struct StatusFields {
     std::string timeOnHeader;    // "mm-dd-yy hh:mm"; empty when it is no time
     std::optional<double> vbatt; // volts
     bool lowBattery = false;
+    std::string autoSelected; // with automatic selection: the type whose settings work
 
     // The text of the result label (UTF-8).
     std::string text() const;

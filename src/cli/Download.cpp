@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Commands.h"
+#include "cli/InstrumentLink.h"
+#include "cli/OpenFiles.h"
+#include "core/SaveText.h"
+#include "link/DownloadSession.h"
+
+#include <QDir>
+
+namespace tally::cli {
+
+namespace {
+
+struct DownloadOptions {
+    std::shared_ptr<LinkOptions> link;
+    std::shared_ptr<double> wait;
+    std::string output;
+    bool yes = false;
+    bool no = false;
+};
+
+int download(Context& context, const DownloadOptions& options) {
+    InstrumentLink link(context, *options.link, options.yes ? Answer::Yes : Answer::No);
+    DownloadSession session(link.session, waitFor(*options.wait));
+    if (!session.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString()))
+        return status::refused;
+    const auto pending = session.DownLoadProc();
+    if (!pending) {
+        if (link.waiter.cancelRequested())
+            context.warn("Cancelled");
+        return status::refused;
+    }
+    writeFile(context, options.output, tally::quoted(pending->text));
+    if (!pending->id.empty())
+        link.journal.mark(pending->id, JournalState::saved);
+    return status::done;
+}
+
+} // namespace
+
+void addDownload(CLI::App& program, Context& shared) {
+    auto options = std::make_shared<DownloadOptions>();
+    CLI::App& command =
+        addCommand(program, shared, "download", "receive the recording of an instrument into a data file",
+                   [options](Context& context) { return download(context, *options); });
+    options->link = addLink(command);
+    options->wait = addWait(command);
+    command.add_option("-o,--output", options->output, "the data file to write")->required();
+    CLI::Option* yes = command.add_flag("--yes", options->yes, "keep a download with errors");
+    command.add_flag("--no", options->no, "drop a download with errors (as without it)")->excludes(yes);
+}
+
+} // namespace tally::cli

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/InstrumentLink.h"
+
+#include "link/Instruments.h"
+#include "link/PortChoice.h"
+#include "platform/Folders.h"
+
+#include <cmath>
+
+namespace tally::cli {
+
+namespace {
+
+// A device, or nothing for a COM port number.
+std::string deviceOf(const std::string& port) {
+    if (port.find_first_of("/\\") != std::string::npos)
+        return port;
+    return {};
+}
+
+int commPortOf(const std::string& port, const Settings& settings) {
+    if (port.empty() || !deviceOf(port).empty())
+        return storedCommPort(settings);
+    if (port.size() != 1 || port[0] < '1' || port[0] > '8')
+        throw WrongUsage("--port: '" + port + "' is neither a COM port, 1 to 8, nor the path of a device");
+    return port[0] - '0';
+}
+
+SerialLine::DeviceOf deviceFinder(Context& context, const std::string& port) {
+    return [&context, device = deviceOf(port)](int commPort) {
+        return device.empty() ? devicePath(commPort, context.settings()) : device;
+    };
+}
+
+InstrumentState stateOf(Context& context, const LinkOptions& options) {
+    const auto type = typeFromText(options.type);
+    if (!type)
+        throw WrongUsage("--type: '" + options.type + "' is no instrument type");
+    InstrumentState state;
+    state.gCommPort = commPortOf(options.port, context.settings());
+    applySelection(state, *type);
+    return state;
+}
+
+Context& ready(Context& context) {
+    context.needEventLoop();
+    return context;
+}
+
+} // namespace
+
+std::shared_ptr<LinkOptions> addLink(CLI::App& command) {
+    auto options = std::make_shared<LinkOptions>();
+    command.add_option("--port", options->port,
+                       "COM port, 1 to 8, or the path of a device (default: the stored port)");
+    command.add_option("--type", options->type, "instrument type: its code or display name")->required();
+    command.add_flag("--log", options->log, "show the debugging log on standard error");
+    return options;
+}
+
+std::shared_ptr<double> addWait(CLI::App& command) {
+    auto seconds = std::make_shared<double>(0);
+    command.add_option("--wait", *seconds, "seconds to wait for the first character (default: no limit)")
+        ->check(CLI::Range(0.001, 1e9));
+    return seconds;
+}
+
+std::int64_t waitFor(double seconds) {
+    return seconds > 0 ? static_cast<std::int64_t>(std::ceil(seconds * 1000)) : Waiter::never;
+}
+
+Answer LinkPrompt::show(const Message& message) {
+    context_.warn(message.title == Message().title ? message.text : message.title + ": " + message.text);
+    return message.buttons == Buttons::YesNo ? yesOrNo_ : Answer::Ok;
+}
+
+std::optional<std::string> LinkPrompt::input(const InputQuestion& question) {
+    context_.warn(question.text);
+    return {};
+}
+
+std::optional<std::string> LinkPrompt::chooseFile(const FileQuestion&) {
+    return {};
+}
+
+void LinkPanel::show(std::string& last, const std::string& text) {
+    if (text == last)
+        return;
+    last = text;
+    if (!text.empty())
+        context_.warn(text);
+}
+
+void LinkPanel::prompt(const std::string& text) {
+    if (prompts_)
+        show(prompt_, text);
+}
+
+void LinkPanel::appendLog(const std::string& text) {
+    if (log_)
+        context_.warn(text);
+}
+
+InstrumentLink::InstrumentLink(Context& context, const LinkOptions& options, Answer yesOrNo)
+    : line(deviceFinder(ready(context), options.port)),
+      waiter(line, context.clock()),
+      prompt(context, yesOrNo),
+      panel(context, options.log),
+      instrument(stateOf(context, options)),
+      journal(folders::data() + "/journal", context.files()),
+      session(line, waiter, prompt, panel, instrument, journal, gErrorCallPoint) {
+    journal.onProblem([&context](const std::string& text) { context.warn(text); });
+}
+
+} // namespace tally::cli
