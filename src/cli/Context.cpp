@@ -7,10 +7,21 @@
 #include "platform/UserSettings.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 #include <cstdio>
 
 namespace tally::cli {
+
+namespace {
+
+// Qt misses the run-time folder of a session that a script does not have, and nothing here needs one.
+void passMessageOn(QtMsgType, const QMessageLogContext&, const QString& text) {
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+} // namespace
 
 // Stands still at the time of --at; waiting goes on by the machine's clock.
 class Context::FixedClock : public QtClock {
@@ -67,8 +78,11 @@ void Context::needEventLoop() {
 void Context::needPainting() {
     if (application_)
         return;
+    qInstallMessageHandler(passMessageOn);
     // No command needs a display, and none may open one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // What a desktop session would provide and nothing here needs is not worth a warning on standard error.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
 }
 
