@@ -69,16 +69,22 @@ void TLY::layOut() {
     status_ = std::make_unique<StatusPanels>(*statusBar());
 }
 
+// The word about a menu item goes when the item has been chosen.
+void TLY::command(const std::function<void()>& handler) {
+    statusBar()->clearMessage();
+    dispatcher_.run(handler);
+}
+
 void TLY::connectMenus() {
     const auto on = [this](std::string_view name, auto& group, auto handler) {
-        menus_->handle(name, [this, &group, handler] { dispatcher_.run([&] { (group.*handler)(); }); });
+        menus_->handle(name, [this, &group, handler] { command([&] { (group.*handler)(); }); });
     };
     on("mnuItemOpen", *file_, &TLY_File::mnuItemOpen_Click);
     on("mnuItemClose", *file_, &TLY_File::mnuItemClose_Click);
     on("mnuItemSave", *file_, &TLY_File::mnuItemSave_Click);
     on("mnuItemImport", *file_, &TLY_File::mnuItemImport_Click);
     menus_->handle("mnuItemExit", [this] { file_->mnuItemExit_Click(); });
-    menus_->handleMru([this](int index) { dispatcher_.run([&] { file_->mnuMRU_Click(index); }); });
+    menus_->handleMru([this](int index) { command([&] { file_->mnuMRU_Click(index); }); });
     on("mnuitemexprep", *export_, &TLY_Export::mnuitemexprep_Click);
     on("MnuItemexpdatacsv", *export_, &TLY_Export::MnuItemexpdatacsv_Click);
     on("mnuItemexpdata1perLine", *export_, &TLY_Export::mnuItemexpdata1perLine_Click);
@@ -95,7 +101,7 @@ void TLY::connectMenus() {
 
 void TLY::connectMoreMenus() {
     const auto on = [this](std::string_view name, auto& group, auto handler) {
-        menus_->handle(name, [this, &group, handler] { dispatcher_.run([&] { (group.*handler)(); }); });
+        menus_->handle(name, [this, &group, handler] { command([&] { (group.*handler)(); }); });
     };
     on("mnuItemViewPlot", *view_, &TLY_View::mnuItemViewPlot_Click);
     on("mnuItemViewTable", *view_, &TLY_View::mnuItemViewTable_Click);

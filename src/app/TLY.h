@@ -75,6 +75,7 @@ private:
     void layOut();
     void connectMenus();
     void connectMoreMenus();
+    void command(const std::function<void()>& handler);
     void connectStartPage();
     void addShortcuts();
     void placeWindow();

@@ -19,12 +19,12 @@ std::shared_ptr<PowerOptions> addPowerOptions(CLI::App& command) {
 
 Plot drawPower(Context& context, OpenFiles& open, const PowerOptions& options) {
     const std::string vline = options.vline(context);
+    const double volts = voltsOf(vline);
     if (const std::string hint = voltageHint(vline); !hint.empty())
         context.warn(hint);
     setPowerFactor(open.recordings, options.powerFactor);
     Plot plot;
-    const PowerRefusal refusal =
-        DisplPlotPwr(open.recordings, open.state, voltsOf(vline), context.clock(), plot);
+    const PowerRefusal refusal = DisplPlotPwr(open.recordings, open.state, volts, context.clock(), plot);
     if (refusal != PowerRefusal::none)
         throw Refused(std::string(refusalText(refusal)));
     return plot;

@@ -155,7 +155,7 @@ InitializeSession::Outcome InitializeSession::report(const std::string& answer, 
     if (settings.blankMode)
         prompt.tell(blankModeText);
     const Message question = {
-        .text = settings.report, .buttons = Buttons::YesNo, .defaultAnswer = Answer::No};
+        .text = settings.report + anotherQuestion, .buttons = Buttons::YesNo, .defaultAnswer = Answer::No};
     return prompt.show(question) == Answer::Yes ? Outcome::another : Outcome::done;
 }
 

@@ -9,6 +9,7 @@
 namespace tally {
 
 const char* const blankModeText = "HVN 40 or 80 only have 15 min average, continuoue mode";
+const char* const anotherQuestion = " Do you want to do another?     \r";
 
 namespace {
 
@@ -51,8 +52,7 @@ ReadBack readBack(std::string_view answer) {
                     displayTime(field(answer, 31, 14)) +
                     "\r\r"
                     "       RETURN THE SWITCH TO 'STANDBY'   \r"
-                    "           OR REMOVE THE CABLE NOW       \r\r"
-                    " Do you want to do another?     \r";
+                    "           OR REMOVE THE CABLE NOW       \r\r";
     return result;
 }
 

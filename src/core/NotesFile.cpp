@@ -144,6 +144,11 @@ void saveNotes(Recordings& recordings, Files& files, int slot, const Notes& note
     // A data file that is called like its notes file must not be replaced by them.
     if (path == info.path)
         throw fault::pathFileAccess();
+    // Notes that nobody has seen must not be replaced; say again what is wrong with their file.
+    if (info.notesUnreadable) {
+        static_cast<void>(readNotes(files, info.path));
+        throw fault::pathFileAccess();
+    }
     files.write(path, formatNotes(notes));
     recordings.gNotes.at(static_cast<std::size_t>(slot)) = clean(notes);
 }

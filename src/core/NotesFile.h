@@ -25,7 +25,8 @@ std::string formatNotes(const Notes& notes);
 // The notes beside a data file; empty ones when there are none. Throws file faults other than a missing file.
 Notes readNotes(const Files& files, const std::string& dataPath);
 
-// Writes the notes file of an open slot, then keeps the notes in gNotes. Throws file faults, nothing changed.
+// Writes the notes file of an open slot, then keeps the notes in gNotes. Throws file faults, nothing
+// changed; also when the notes file was there but could not be read when the data file was opened.
 void saveNotes(Recordings& recordings, Files& files, int slot, const Notes& notes);
 
 } // namespace tally

@@ -66,12 +66,22 @@ std::string numberPart(std::string_view text, std::size_t& used) {
     return part;
 }
 
+// The number at the beginning of a part; infinite where it is too large, so that every range check refuses
+// it.
 double parse(std::string_view part) {
     if (!part.empty() && part.front() == '+')
         part.remove_prefix(1);
     double value = 0;
-    std::from_chars(part.data(), part.data() + part.size(), value);
-    return value;
+    const auto result = std::from_chars(part.data(), part.data() + part.size(), value);
+    if (result.ec != std::errc::result_out_of_range)
+        return value;
+    const bool negative = part.front() == '-';
+    const auto digit = part.find_first_of("123456789");
+    const auto exponent = part.find('e');
+    // Too small to be told from 0 rather than too large.
+    if (exponent == std::string_view::npos ? part.find('.') < digit : part.substr(exponent, 2) == "e-")
+        return 0;
+    return negative ? -HUGE_VAL : HUGE_VAL;
 }
 
 // Digits of a value without exponent, as many as it takes to read it back.
@@ -158,9 +168,15 @@ std::int32_t toInt32(double value) {
 }
 
 std::int16_t textToInt16(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
     std::size_t used = 0;
     const std::string part = numberPart(text, used);
-    if (used != text.size() || part.find_first_of("0123456789") == std::string::npos)
+    // All of it, with no blanks inside and with digits also behind an exponent's letter.
+    if (part.size() != text.size() || part.find_first_of("0123456789") == std::string::npos ||
+        !(isDigit(part.back()) || part.back() == '.'))
         throw fault::typeMismatch();
     return toInt16(parse(part));
 }

@@ -21,7 +21,8 @@ std::int16_t addInt16(std::int16_t a, std::int16_t b);
 // The largest whole number not above the value.
 double Int(double value);
 
-// The leading number of a text (blanks skipped, point as decimal sign, exponent allowed); 0 for none.
+// The leading number of a text (blanks skipped, point as decimal sign, exponent allowed); 0 for none,
+// infinite for one that is too large.
 double Val(std::string_view text);
 
 // A number as text, shortest form that reads back: "12", "12.5", "-.5" is written "-0.5".

@@ -42,6 +42,15 @@ std::string settingsFile() {
     return config() + "/Tallyline.ini";
 }
 
+std::string recoverFile() {
+#ifdef Q_OS_WIN
+    return "c:\\temp.dat";
+#else
+    make(cache());
+    return cache() + "/temp.dat";
+#endif
+}
+
 bool make(const std::string& folder) {
     return QDir().mkpath(QString::fromStdString(folder));
 }

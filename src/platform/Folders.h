@@ -15,6 +15,9 @@ std::string cache();  // what may go
 // "Tallyline.ini" in config().
 std::string settingsFile();
 
+// Where a recover reads its text back from: never a folder that others can write to. Makes the folder.
+std::string recoverFile();
+
 // Makes a folder and those above it; false when that cannot be done.
 bool make(const std::string& folder);
 

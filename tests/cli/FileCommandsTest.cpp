@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace tally {
 namespace {
 
@@ -152,6 +154,17 @@ TEST_F(FileCommands, NotesAreSetAndComeBack) {
     EXPECT_EQ(TemporaryFolder::read(folder.path("high.not")), "North yard\r\n\r\n\r\nspare\r\n");
     const auto shown = runProgram("tallyline-cli", {"notes", high});
     EXPECT_EQ(shown.out, "Location: North yard\nCircuit: \nName: \nOther: spare\n");
+    const auto json = runProgram("tallyline-cli", {"notes", high, "--json"});
+    EXPECT_EQ(json.out, "{\n  \"location\": \"North yard\",\n  \"circuit\": \"\",\n  \"name\": \"\",\n"
+                        "  \"other\": \"spare\"\n}\n");
+}
+
+TEST_F(FileCommands, NotesThatCannotBeReadAreNotReplaced) {
+    std::filesystem::create_directory(folder.path("high.not"));
+    const auto set = runProgram("tallyline-cli", {"notes", high, "--name", "x"});
+    EXPECT_EQ(set.status, 1);
+    EXPECT_NE(set.err.find(folder.path("high.not") + " was not written."), std::string::npos) << set.err;
+    EXPECT_TRUE(std::filesystem::is_directory(folder.path("high.not")));
 }
 
 TEST_F(FileCommands, ForceChangesTheRangeAndSavesTheWholeFile) {

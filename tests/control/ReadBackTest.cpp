@@ -21,8 +21,7 @@ TEST(ReadBack, TheReportShowsEveryFieldInItsPlace) {
               " Mode setting:       Average    Cont     1  min interval\r"
               " Time                     14:05 Mar 15, 24\r\r"
               "       RETURN THE SWITCH TO 'STANDBY'   \r"
-              "           OR REMOVE THE CABLE NOW       \r\r"
-              " Do you want to do another?     \r");
+              "           OR REMOVE THE CABLE NOW       \r\r");
 }
 
 TEST(ReadBack, AllTwelveModesAreNamed) {

@@ -118,6 +118,23 @@ TEST_F(NotesOfASlot, NeverReplaceADataFileOfTheSameName) {
     EXPECT_EQ(readNotes(files, "/d/a.not"), Notes{});
 }
 
+TEST_F(NotesOfASlot, NotesThatCouldNotBeReadAreNeverReplaced) {
+    recordings.gInfo[1].notesUnreadable = true;
+    files.contents["/d/a.not"] = "old\r\n";
+    files.failRead = fault::permissionDenied();
+    try {
+        saveNotes(recordings, files, 1, {"North", "", "", ""});
+        ADD_FAILURE() << "written";
+    } catch (const Fault& fault) {
+        EXPECT_EQ(fault.number(), 70);
+    }
+    files.failRead.reset();
+    EXPECT_THROW(saveNotes(recordings, files, 1, {"North", "", "", ""}), Fault)
+        << "readable again, but not seen";
+    EXPECT_EQ(files.contents.at("/d/a.not"), "old\r\n");
+    EXPECT_EQ(recordings.gNotes[1][0], "old");
+}
+
 TEST_F(NotesOfASlot, AMissingFileIsNoError) {
     EXPECT_EQ(readNotes(files, "/d/none.dat"), Notes{});
     files.contents["/d/a.not"] = "x";

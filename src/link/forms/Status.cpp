@@ -5,10 +5,17 @@
 
 namespace tally {
 
+namespace {
+
+constexpr int resultWidth = 100; // characters of the longest line
+
+} // namespace
+
 Status::Status(const SessionContext& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("status"), tr("Status Check"), parent),
       result_(addText(QStringLiteral("Label2"))),
       label1_(addText(QStringLiteral("Label1"))) {
+    setMinimumWidth(result_->fontMetrics().averageCharWidth() * resultWidth);
     addLog();
     addCancel(QStringLiteral("Command2"), tr("Cancel"));
 }

@@ -171,6 +171,8 @@ void LoadSurv::Command1_Click() {
 void LoadSurv::loadPhase(int phase) {
     services_.attempt([&] { desk_.askAndLoad(phase, services_.folder, services_.files, services_.prompt); });
     refresh();
+    if (result_->isEnabled())
+        result_->setFocus();
 }
 
 void LoadSurv::red_Click() {
