@@ -7,7 +7,6 @@
 #include "platform/UserSettings.h"
 
 #include <QApplication>
-#include <QLoggingCategory>
 
 #include <cstdio>
 
@@ -81,8 +80,6 @@ void Context::needPainting() {
     qInstallMessageHandler(passMessageOn);
     // No command needs a display, and none may open one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // What a desktop session would provide and nothing here needs is not worth a warning on standard error.
-    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     application_ = std::make_unique<QApplication>(argc_, argv_);
 }
 
