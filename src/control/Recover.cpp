@@ -50,7 +50,6 @@ public:
         session_.closePort();
         session_.waiter.resetCancel();
         session_.panel.progressVisible(false);
-        session_.panel.mainStatus("");
         if (!judged)
             session_.journal.end(JournalState::interrupted);
     }
@@ -92,7 +91,6 @@ std::optional<PendingDownload> RecoverSession::RecoverProc(Files& files, const s
     RecoverEnd end(session_);
     session_.panel.status(" Cancel or Escape to quit\rCOM" + std::to_string(instrument.gCommPort) +
                           "  in use");
-    session_.panel.mainStatus(portInUseText(instrument.gCommPort));
     session_.line.DTREnable(true);
     try {
         session_.openPort();

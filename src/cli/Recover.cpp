@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "control/Recover.h"
+#include "cli/Commands.h"
+#include "cli/InstrumentLink.h"
+#include "cli/OpenFiles.h"
+#include "core/SaveText.h"
+#include "platform/Folders.h"
+
+namespace tally::cli {
+
+namespace {
+
+struct RecoverOptions {
+    std::shared_ptr<LinkOptions> link;
+    std::string output;
+};
+
+int recover(Context& context, const RecoverOptions& options) {
+    InstrumentLink link(context, *options.link);
+    RecoverSession session(link.session);
+    if (!session.mnuItemRecover_Click())
+        return status::refused;
+    const auto pending = session.RecoverProc(context.files(), folders::recoverFile());
+    if (!pending) {
+        if (link.waiter.cancelRequested())
+            context.warn("Cancelled");
+        return status::refused;
+    }
+    writeFile(context, options.output, tally::quoted(pending->text));
+    if (!pending->id.empty())
+        link.journal.mark(pending->id, JournalState::saved);
+    return status::done;
+}
+
+} // namespace
+
+void addRecover(CLI::App& program, Context& shared) {
+    auto options = std::make_shared<RecoverOptions>();
+    CLI::App& command =
+        addCommand(program, shared, "recover", "recover the recording of an instrument whose battery failed",
+                   [options](Context& context) { return recover(context, *options); });
+    options->link = addLink(command);
+    command.add_option("-o,--output", options->output, "the data file to write")->required();
+}
+
+} // namespace tally::cli
