@@ -6,6 +6,8 @@
 #include "core/NotesFile.h"
 #include "view/Span.h"
 
+#include <QFileInfo>
+
 #include <charconv>
 
 namespace tally::cli {
@@ -21,6 +23,11 @@ int indexOf(const std::string& text, int whenEmpty) {
     if (error != std::errc() || stopped != end)
         throw WrongUsage("'" + text + "' is no reading index");
     return index;
+}
+
+// A recording knows its file by the full path, from wherever it was named.
+std::string fullPath(const std::string& path) {
+    return path.empty() ? path : QFileInfo(QString::fromStdString(path)).absoluteFilePath().toStdString();
 }
 
 void warnOfUnreadable(Context& context, const FileFacts& info) {
@@ -54,10 +61,11 @@ std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command) {
 
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
     OpenFiles open;
-    for (const std::string& path : paths) {
+    for (const std::string& typed : paths) {
+        const std::string path = fullPath(typed);
         const OpenOutcome outcome = Fileopen(open.recordings, context.files(), path);
         if (outcome != OpenOutcome::opened)
-            throw Refused(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + path + ")" : ""));
+            throw Refused(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + typed + ")" : ""));
         warnOfUnreadable(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;

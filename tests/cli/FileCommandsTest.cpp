@@ -42,6 +42,13 @@ TEST_F(FileCommands, InfoPrintsTheFactsAsJson) {
         EXPECT_NE(run.out.find(fact), std::string::npos) << fact << "\n" << run.out;
 }
 
+TEST_F(FileCommands, AFileIsKnownByItsFullPathFromWhereverItIsNamed) {
+    const std::string near = std::filesystem::relative(high).string();
+    ASSERT_NE(near, high);
+    const auto run = runProgram("tallyline-cli", {"info", near, "--json"});
+    EXPECT_NE(run.out.find("\"path\": \"" + high + "\""), std::string::npos) << run.out;
+}
+
 TEST_F(FileCommands, ReadingsPrintsIndexTimeAndValue) {
     const auto run = runProgram("tallyline-cli", {"readings", low, "--from", "1", "--to", "2"});
     EXPECT_EQ(run.status, 0) << run.err;
