@@ -83,6 +83,7 @@ void TLY_View::showImported(const Plot& plot) {
     window_.menus().apply(MenuEvent::textShown);
     window_.menus().set("mnuZoom", false);
     window_.menus().set("mnuItemAnnot", true);
+    window_.menus().set("mnuItemClose", true);
 }
 
 void TLY_View::spanEnded(int point) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Splash.h"
 #include "app/TLY.h"
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
@@ -100,6 +101,9 @@ int main(int argc, char** argv) {
     QCoreApplication::setApplicationVersion(QStringLiteral(TALLY_VERSION));
     const Arguments arguments = parse(application);
 
+    tally::Splash splash;
+    if (tally::Splash::wanted())
+        splash.show();
     tally::SafeFile files;
     tally::UserSettings settings(files, tally::folders::settingsFile());
     tally::QtClock clock;
@@ -112,6 +116,7 @@ int main(int argc, char** argv) {
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });
+    QObject::connect(&window, &tally::TLY::firstFrame, &splash, &QWidget::close);
     if (arguments.quitAfterFirstFrame)
         QObject::connect(&window, &tally::TLY::firstFrame, &application, &QCoreApplication::quit);
     window.show();

@@ -6,6 +6,7 @@
 #include "view/forms/DisplaySel.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStatusBar>
@@ -138,6 +139,42 @@ TEST_F(WindowTest, DragPastTheRightEdgeEndsAtTheLastReading) {
     EXPECT_EQ(values.back(), 119.0F);
     EXPECT_EQ(*std::min_element(values.begin(), values.end()), float(100 + recordings.gDatastart));
     EXPECT_EQ(display.extremeMin, (100 + recordings.gDatastart) * 10);
+}
+
+TEST_F(WindowTest, KeysMoveThePictureButNotTheRange) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    Chart& chart = window.screen().chart();
+    const auto width = [&chart] { return chart.visiblePoints().second - chart.visiblePoints().first; };
+    const double whole = width();
+    QTest::keyClick(&chart, Qt::Key_Plus);
+    EXPECT_LT(width(), whole);
+    const double left = chart.visiblePoints().first;
+    QTest::keyClick(&chart, Qt::Key_Right);
+    EXPECT_GT(chart.visiblePoints().first, left);
+    QTest::keyClick(&chart, Qt::Key_Minus);
+    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(recordings.gdataend, 19);
+}
+
+TEST_F(WindowTest, ShortcutsStandWhereUsersLookForThem) {
+    EXPECT_EQ(item("mnuItemOpen").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+    EXPECT_EQ(item("mnuItemSave").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_S));
+    EXPECT_EQ(item("mnuItemRefresh").shortcut(), QKeySequence(Qt::Key_F5));
+    EXPECT_EQ(item("mnuItemHelp").shortcut(), QKeySequence(Qt::Key_F1));
+    for (const auto& [name, key] : {std::pair{"printShown", Qt::Key_P}, std::pair{"copyShown", Qt::Key_C},
+                                    std::pair{"undoForced", Qt::Key_Z}})
+        EXPECT_EQ(window.findChild<QAction*>(QString::fromLatin1(name))->shortcut(),
+                  QKeySequence(Qt::CTRL | key));
+}
+
+TEST_F(WindowTest, CopyTakesTheTextOrThePicture) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    window.findChild<QAction*>(QStringLiteral("copyShown"))->trigger();
+    EXPECT_THAT(QGuiApplication::clipboard()->text().toStdString(), HasSubstr("/d/a.dat"));
+    click("mnuItemViewPlot");
+    window.findChild<QAction*>(QStringLiteral("copyShown"))->trigger();
+    EXPECT_FALSE(QGuiApplication::clipboard()->image().isNull());
 }
 
 TEST_F(WindowTest, PointerOverTheChartReadsTimeAndValue) {

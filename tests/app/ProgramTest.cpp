@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "platform/SafeFile.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+
+namespace tally {
+namespace {
+
+using ::testing::HasSubstr;
+
+// The program started as a process with a home of its own.
+class ProgramTest : public ::testing::Test {
+protected:
+    QTemporaryDir home;
+    SafeFile files;
+
+    std::string settings() const {
+        return home.filePath(QStringLiteral("config/Tallyline/Tallyline.ini")).toStdString();
+    }
+    int run(const QStringList& arguments) {
+        QProcess program;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+        environment.insert(QStringLiteral("HOME"), home.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), home.filePath(QStringLiteral("config")));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral("cache")));
+        program.setProcessEnvironment(environment);
+        program.start(QStringLiteral(TALLY_BIN_DIR "/tallyline"), arguments);
+        if (!program.waitForFinished(30000))
+            return -1;
+        output = program.readAllStandardOutput().toStdString();
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -2;
+    }
+    std::string output;
+};
+
+TEST_F(ProgramTest, OpensAFileOfTheCommandLineAndKeepsItInTheRecentList) {
+    const QString file = QStringLiteral(TALLY_SOURCE_DIR "/samples/feeder-15min.dat");
+    EXPECT_EQ(run({QStringLiteral("--quit-after-first-frame"), QStringLiteral("--plot"), file}), 0);
+    EXPECT_THAT(files.read(settings(), 10000), HasSubstr("mrufile1=" + file.toStdString()));
+}
+
+TEST_F(ProgramTest, StartsWithDamagedSettings) {
+    ASSERT_TRUE(QDir(home.path()).mkpath(QStringLiteral("config/Tallyline")));
+    files.write(settings(), std::string("\x00\xff[[[", 5));
+    EXPECT_EQ(run({QStringLiteral("--quit-after-first-frame")}), 0);
+}
+
+TEST_F(ProgramTest, SaysItsVersion) {
+    EXPECT_EQ(run({QStringLiteral("--version")}), 0);
+    EXPECT_THAT(output, HasSubstr("tallyline "));
+}
+
+} // namespace
+} // namespace tally
