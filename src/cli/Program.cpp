@@ -9,14 +9,16 @@ namespace tally::cli {
 namespace {
 
 void warnUsage(Context& context, const CLI::App& program) {
-    const auto chosen = program.get_subcommands();
     std::string line = "Usage: tallyline-cli ";
-    if (chosen.empty())
+    const CLI::App* chosen = &program;
+    for (auto named = program.get_subcommands(); !named.empty(); named = chosen->get_subcommands()) {
+        chosen = named.front();
+        line += (chosen->get_parent() == &program ? "" : " ") + chosen->get_name();
+    }
+    if (chosen == &program)
         line += "COMMAND [ARG...]";
     else
-        line += chosen.front()->get_name();
-    if (!chosen.empty())
-        for (const CLI::Option* option : chosen.front()->get_options())
+        for (const CLI::Option* option : chosen->get_options())
             if (option->get_positional())
                 line += " " + option->get_name(true, false);
     context.warn(line + " [--option VALUE]; see tallyline-cli --help");
@@ -56,13 +58,19 @@ int runProgram(int argc, char** argv) {
     CLI::App program("Recordings of portable load recorders, and the instruments, without a window",
                      "tallyline-cli");
     program.set_version_flag("--version", std::string("tallyline-cli ") + TALLY_VERSION);
-    program.require_subcommand(1);
+    program.require_subcommand(0, 1);
     for (const AddCommand add : allCommands())
         add(program, context);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
         return parseFailure(program, context, error);
+    }
+    // Asked for here, so that a word that is no command is named as such.
+    if (!context.action) {
+        context.warn("Name a command");
+        warnUsage(context, program);
+        return status::usage;
     }
     return runAction(context, program);
 }

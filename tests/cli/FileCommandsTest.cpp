@@ -112,6 +112,15 @@ TEST_F(FileCommands, WrongCallsEndWithTwoAndAUsageLine) {
     }
 }
 
+TEST_F(FileCommands, AWordThatIsNoCommandIsNamed) {
+    const auto word = runProgram("tallyline-cli", {"infos", high});
+    EXPECT_EQ(word.status, 2);
+    EXPECT_NE(word.err.find("infos"), std::string::npos) << word.err;
+    const auto nothing = runProgram("tallyline-cli", {});
+    EXPECT_EQ(nothing.status, 2);
+    EXPECT_EQ(nothing.err.rfind("Name a command\nUsage: tallyline-cli COMMAND", 0), 0U) << nothing.err;
+}
+
 TEST_F(FileCommands, ItemsThatAreNoNumbersAreWarnedOf) {
     const auto file = folder.write("odd.dat", header('a') + "  40 A30  20  10\x1a");
     const auto run = runProgram("tallyline-cli", {"info", file, "--json"});
