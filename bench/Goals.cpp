@@ -16,7 +16,7 @@ struct Goal {
     double limit;
 };
 
-constexpr int repetitions = 9;
+constexpr int repetitions = 21;
 
 std::vector<Goal>& goals() {
     static std::vector<Goal> all;
@@ -30,7 +30,7 @@ void add(const std::string& name, Run run) {
                                          run();
                                  })
         ->Repetitions(repetitions)
-        ->MinTime(0.05);
+        ->MinTime(0.02);
 }
 
 void addTimed(const std::string& name, TimedRun run) {
@@ -40,7 +40,7 @@ void addTimed(const std::string& name, TimedRun run) {
                                          state.SetIterationTime(run());
                                  })
         ->Repetitions(repetitions)
-        ->MinTime(0.05)
+        ->MinTime(0.02)
         ->UseManualTime();
 }
 
