@@ -59,6 +59,7 @@ private:
 
     std::string kept_;
     std::size_t used_ = 0;
+    std::int64_t looked_ = 0; // what the clock said last while kept characters were used
 };
 
 // Closes the port at the end of a procedure, however it ends.

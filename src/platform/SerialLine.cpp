@@ -82,7 +82,7 @@ void SerialLine::Settings(const std::string& settings) {
 }
 
 void SerialLine::InputLen(int length) {
-    inputLen_ = length;
+    inputLen_ = length > 0 ? static_cast<std::size_t>(length) : 0;
 }
 
 void SerialLine::EOFEnable(bool on) {
@@ -197,20 +197,19 @@ bool SerialLine::fill() {
 std::string SerialLine::Input() {
     if (ended_ || (used_ == arrived_.size() && !fill()))
         return {};
-    qsizetype length = arrived_.size() - used_;
+    const char* const first = arrived_.constData() + used_;
+    auto length = static_cast<std::size_t>(arrived_.size() - used_);
     if (inputLen_ > 0)
         length = std::min(length, inputLen_);
     if (eofEnable_) {
-        const std::string_view piece(arrived_.constData() + used_, static_cast<std::size_t>(length));
-        const std::size_t end = piece.find(endOfFile);
-        if (end != std::string_view::npos) {
-            length = static_cast<qsizetype>(end) + 1;
-            ended_ = true;
-        }
+        // One character a read is what every session asks for.
+        const std::size_t end = length == 1 ? (*first == endOfFile ? 0 : std::string_view::npos)
+                                            : std::string_view(first, length).find(endOfFile);
+        ended_ = end != std::string_view::npos;
+        length = ended_ ? end + 1 : length;
     }
-    const char* first = arrived_.constData() + used_;
-    used_ += length;
-    return std::string(first, static_cast<std::size_t>(length));
+    used_ += static_cast<qsizetype>(length);
+    return std::string(first, length);
 }
 
 void SerialLine::Output(std::string_view characters) {

@@ -54,7 +54,7 @@ private:
     std::string problem_;
     QByteArray arrived_; // characters from used_ on are unread
     qsizetype used_ = 0;
-    qsizetype inputLen_ = 0; // 0: all that has arrived
+    std::size_t inputLen_ = 0; // 0: all that has arrived
     int commPort_ = 1;
     bool eofEnable_ = false;
     bool ended_ = false; // ctrl/Z was read
