@@ -16,6 +16,8 @@ void addPower(CLI::App& program, Context& context);
 void addPlot(CLI::App& program, Context& context);
 void addNotes(CLI::App& program, Context& context);
 void addForce(CLI::App& program, Context& context);
+void addExport(CLI::App& program, Context& context);
+void addSurvey(CLI::App& program, Context& context);
 void addPorts(CLI::App& program, Context& context);
 void addDownload(CLI::App& program, Context& context);
 void addStatus(CLI::App& program, Context& context);
