@@ -7,6 +7,7 @@
 #include "app/TLY.h"
 #include "app/TLY_Power.h"
 #include "app/forms/Words.h"
+#include "view/PlotAxis.h"
 #include "view/PlotModel.h"
 #include "view/Print.h"
 #include "view/Printinfo.h"
@@ -108,10 +109,7 @@ std::string TLY_View::labelAt(int point) const {
     const Recordings& recordings = window_.services().recordings;
     if (imported_ || !recordings.isOpen(0))
         return {};
-    const Plot& plot = window_.screen().chart().plot();
-    const ReadingTime time =
-        timeOf(recordings.gInfo[0], plot.firstEntry + std::int64_t(point) * plot.entriesPerPoint);
-    return formatTime(time, "%b %d %H:%M");
+    return axisLabel(window_.screen().chart().plot(), recordings.gInfo[0], point);
 }
 
 void TLY_View::makeTableCurrent() {

@@ -9,14 +9,19 @@
 
 namespace tally {
 
+std::string axisLabel(const Plot& plot, const FileFacts& info, int point) {
+    const ReadingTime time = intervalTime(info, plot.firstEntry + plot.entriesPerPoint * point);
+    // Minutes of an hour are whole intervals: moving each time back is moving the first one back.
+    return formatTime(time - toCivil(time).minute % modeRow(info.modeLetter).minutes, "%b %d %H:%M");
+}
+
 void labelAxis(Plot& plot, const FileFacts& info) {
-    const int interval = modeRow(info.modeLetter).minutes;
-    ReadingTime start = intervalTime(info, plot.firstEntry);
-    start = start - toCivil(start).minute % interval;
     plot.labelStep = std::max(plot.points / 8, 1);
-    for (std::size_t i = 0; i < plot.labels.size(); ++i)
-        plot.labels[i] =
-            formatTime(start + static_cast<std::int64_t>(i) * plot.labelStep * interval, "%b %d %H:%M");
+    int point = 0;
+    for (std::string& label : plot.labels) {
+        label = axisLabel(plot, info, point);
+        point += plot.labelStep;
+    }
 }
 
 void scaleAxis(Plot& plot, std::int16_t smallest, std::int16_t largest) {

@@ -5,11 +5,14 @@
 #include "view/Plot.h"
 
 #include <cstdint>
+#include <string>
 
 namespace tally {
 
-// Nine labels, one every Int(points / 8) points (at least 1), the first one moved back to a whole multiple of
-// the interval.
+// What the x axis says at a point ("Mar 15 14:00"): its time, moved back to a whole multiple of the interval.
+std::string axisLabel(const Plot& plot, const FileFacts& info, int point);
+
+// Nine labels, one every Int(points / 8) points (at least 1).
 void labelAxis(Plot& plot, const FileFacts& info);
 
 // The y axis of a data plot: 10% of room above the largest reading (never below 10.0) and below the smallest;

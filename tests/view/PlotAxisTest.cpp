@@ -76,6 +76,22 @@ TEST(PlotAxis, StartIsMovedBackToAMultipleOfTheInterval) {
     EXPECT_EQ(plot.labels[0], "Mar 15 14:59");
 }
 
+TEST(PlotAxis, EveryPointHasTheLabelThatTheNineHave) {
+    Plot plot;
+    plot.points = 80;
+    plot.firstEntry = 2;
+    plot.entriesPerPoint = 3;
+    FileFacts info = facts('j', toReadingTime({2024, 3, 15, 14, 7}));
+    info.count = 242; // two odd entries before the first whole triple
+    labelAxis(plot, info);
+    for (int i = 0; i < 9; ++i)
+        EXPECT_EQ(axisLabel(plot, info, 10 * i), plot.labels[static_cast<std::size_t>(i)]) << i;
+    // The first triple ends with reading 4, in the interval after reading 0.
+    EXPECT_EQ(axisLabel(plot, info, 0), "Mar 15 14:15");
+    EXPECT_EQ(axisLabel(plot, info, 1), "Mar 15 14:30");
+    EXPECT_EQ(axisLabel(plot, info, 9), "Mar 15 16:30");
+}
+
 TEST(PlotAxis, LabelsBeginAtTheFirstShownEntry) {
     Plot plot;
     plot.points = 4;
