@@ -99,6 +99,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyline"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TALLY_VERSION));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/tallyline.png")));
     const Arguments arguments = parse(application);
 
     tally::Splash splash;
