@@ -85,6 +85,9 @@ void TLY_Edit::mnuItemForceRdg_Click() {
         s.prompt.tell(result.message);
         return;
     }
+    // A shorter file may have no reading in the range; there is nothing to take back or to save then.
+    if (result.count == 0)
+        return;
     unsaved_[std::size_t(s.recordings.ginx)] = true;
     forcings_.push_back(s.recordings.ginx);
     window_.menus().apply(MenuEvent::forced);

@@ -75,6 +75,15 @@ TEST_F(EditTest, ForcingChangesTheZoomedRangeAndSaysSoWithUndo) {
     EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 10.0F);
 }
 
+TEST_F(EditTest, ForcingARangeWithoutReadingsLeavesNothingToSave) {
+    openZoomed();
+    recordings.gDatastart = recordings.gdataend = int(recordings.gReadings[0].size());
+    force("60");
+    EXPECT_TRUE(changed().empty());
+    EXPECT_FALSE(window.notices().has(QStringLiteral("forced")));
+    EXPECT_TRUE(closes()) << "nothing is asked";
+}
+
 TEST_F(EditTest, LeftmostAndRightmostForceOneReading) {
     openZoomed();
     force("50", "Option2");
