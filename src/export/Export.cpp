@@ -17,6 +17,7 @@ namespace {
 constexpr std::size_t dateChars = 18;
 constexpr std::size_t mostFields = 10;
 constexpr std::string_view timePattern = "%y %m %d %H %M";
+constexpr std::string_view screenPattern = "%H:%M  %b %d, %y";
 constexpr std::string_view averageHeader = "yy mm dd hh mm Reading\r\n";
 constexpr std::string_view minMaxAvgHeader = "yy mm dd hh mm Avg Max Min\r\n";
 
@@ -64,22 +65,49 @@ std::string_view nextLine(std::string_view& table) {
     return line;
 }
 
-void addIntervals(std::string& text, const Fields& fields, const ModeParameters& mode, RunningTime& time) {
+// Text that grows at its end; room is made ahead, so that a field costs no more than its copy.
+class Appender {
+public:
+    explicit Appender(std::string text) : text_(std::move(text)), used_(text_.size()) {}
+
+    // Makes room for so many characters.
+    void reserve(std::size_t more) {
+        if (text_.size() - used_ < more)
+            text_.resize(2 * text_.size() + more);
+    }
+    void add(std::string_view part) {
+        std::copy(part.begin(), part.end(), text_.begin() + static_cast<std::ptrdiff_t>(used_));
+        used_ += part.size();
+    }
+    std::string take() {
+        text_.resize(used_);
+        return std::move(text_);
+    }
+
+private:
+    std::string text_;
+    std::size_t used_;
+};
+
+// What an interval has besides its values: the time, its line end, a blank for each value.
+constexpr std::size_t mostBesideValues = 24;
+
+void addIntervals(Appender& text, const Fields& fields, const ModeParameters& mode, RunningTime& time) {
     for (std::size_t j = 0; j < mode.intervals(); ++j) {
         bool ended = false;
-        for (std::size_t k = 0; k < mode.perInterval && !ended; ++k) {
+        for (std::size_t k = 0; k < mode.perInterval; ++k) {
             const std::string_view field = fields[j * mode.perInterval + k];
             ended = field.empty();
             if (ended)
                 break;
             if (k == 0) {
-                text += time.text();
+                text.add(time.text());
                 time.advance(mode.minutes);
             }
-            text += ' ';
-            text += field;
+            text.add(" ");
+            text.add(field);
         }
-        text += "\r\n";
+        text.add("\r\n");
         if (ended)
             return;
     }
@@ -89,20 +117,25 @@ void addIntervals(std::string& text, const Fields& fields, const ModeParameters&
 
 PerLineText onePerLineText(std::string_view table, char modeLetter) {
     const ModeParameters mode = parametersOf(modeLetter);
-    PerLineText made{std::string(isMinMaxAvg(modeLetter) ? minMaxAvgHeader : averageHeader), false};
-    // A value of the table makes at most three times its characters.
-    made.text.reserve(made.text.size() + 3 * table.size());
+    Appender text{std::string(isMinMaxAvg(modeLetter) ? minMaxAvgHeader : averageHeader)};
+    text.reserve(2 * table.size());
     RunningTime time(timePattern, {});
+    // The time that a line has when it follows on the one before, as it is written there.
+    RunningTime expected(screenPattern, {});
+    bool tooShort = false;
     while (!table.empty()) {
         const std::string_view line = nextLine(table);
-        if (line.size() < dateChars) {
-            made.lineTooShort = true;
+        tooShort = line.size() < dateChars;
+        if (tooShort)
             break;
-        }
-        time.set(parseScreenTime(line));
-        addIntervals(made.text, fieldsOf(line), mode, time);
+        if (!line.starts_with(expected.text()))
+            expected.set(parseScreenTime(line));
+        time.set(expected.time());
+        text.reserve(mode.intervals() * mostBesideValues + line.size());
+        addIntervals(text, fieldsOf(line), mode, time);
+        expected.advance(mode.minutes * static_cast<int>(mode.intervals()));
     }
-    return made;
+    return {text.take(), tooShort};
 }
 
 ExportOutcome Export(const ExportDesk& desk, const std::string& title, bool onePerLine) {

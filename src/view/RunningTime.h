@@ -23,8 +23,13 @@ public:
     void advance(int minutes);
 
 private:
+    static constexpr int minutesPerDay = 24 * 60;
+
     void setDate();
-    void setClock();
+    void putPair(std::size_t at, int value) {
+        text_[at] = static_cast<char>('0' + value / 10);
+        text_[at + 1] = static_cast<char>('0' + value % 10);
+    }
 
     std::string pattern_;
     std::string text_;
@@ -33,5 +38,16 @@ private:
     std::size_t hourAt_ = 0;
     std::size_t minuteAt_ = 0;
 };
+
+inline void RunningTime::advance(int minutes) {
+    time_ = time_ + minutes;
+    minuteOfDay_ += minutes;
+    if (minuteOfDay_ >= minutesPerDay) {
+        setDate();
+        return;
+    }
+    putPair(hourAt_, minuteOfDay_ / 60);
+    putPair(minuteAt_, minuteOfDay_ % 60);
+}
 
 } // namespace tally
