@@ -167,12 +167,7 @@ void PlotScene::placeLabels(int width) {
 
 void PlotScene::layOut(QSize size) {
     const int width = std::max(size.width() - 2 * margin, 1);
-    QFont letters = look_.font;
-    int height = title_.layOut(width, letters);
-    while (height > size.height() * 2 / 5 && letters.pixelSize() > leastLetters) {
-        letters.setPixelSize(letters.pixelSize() - 1);
-        height = title_.layOut(width, letters);
-    }
+    const int height = title_.layOut(width, size.height() / 3, look_.font, leastLetters);
     legendTop_ = margin + height + (height > 0 ? 4 : 0);
     const int legendHeight = legend_.layOut(width, look_.font);
     const int top = legendTop_ + legendHeight + (legendHeight > 0 ? 4 : 0);

@@ -8,15 +8,31 @@
 #include <QRegularExpression>
 
 #include <algorithm>
-#include <cmath>
+#include <numeric>
 #include <utility>
 
 namespace tally {
 namespace {
 
-constexpr int gap = 16; // pixels between columns
-constexpr int mostColumns = 4;
+constexpr int gap = 16; // pixels between columns, at least
+constexpr int widestGap = 48;
 constexpr int side = Qt::AlignLeft | Qt::AlignTop;
+
+// The widths of columns that would like to be so wide: none wider than it needs, the wide ones cut to one
+// width where there is no room for all.
+std::vector<int> shared(std::vector<int> wanted, int room) {
+    std::vector<int> order(wanted.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(),
+              [&](int a, int b) { return wanted[std::size_t(a)] < wanted[std::size_t(b)]; });
+    int left = int(order.size());
+    for (const int index : order) {
+        int& width = wanted[std::size_t(index)];
+        width = std::min(width, std::max(room, 0) / left--);
+        room -= width;
+    }
+    return wanted;
+}
 
 } // namespace
 
@@ -28,7 +44,7 @@ void TitleBlock::setText(const QString& text) {
         line.remove(trailing); // nobody sees them, and they would take room
     while (!lines_.isEmpty() && lines_.back().isEmpty())
         lines_.removeLast();
-    placed_.clear();
+    room_ = {}; // no places yet
     group();
 }
 
@@ -43,19 +59,18 @@ void TitleBlock::group() {
     files_.clear();
     head_ = {0, tail};
     for (int line = 0; line < tail; ++line) {
-        if (!starts(line, QStringLiteral("Location: ")))
+        if (!starts(line, QStringLiteral("Location:")))
             continue;
         (files_.empty() ? head_ : files_.back()).last = line;
         files_.push_back({line, tail});
     }
 }
 
-bool TitleBlock::fits(const Group& group, int width) const {
-    const QFontMetrics metrics(font_);
+int TitleBlock::widest(const Group& group) const {
+    int widest = 0;
     for (int line = group.first; line < group.last; ++line)
-        if (metrics.horizontalAdvance(lines_[line]) > width)
-            return false;
-    return true;
+        widest = std::max(widest, lengths_[std::size_t(line)]);
+    return widest;
 }
 
 int TitleBlock::place(const Group& group, int left, int top, int width, std::vector<Placed>& placed) const {
@@ -64,7 +79,7 @@ int TitleBlock::place(const Group& group, int left, int top, int width, std::vec
     for (int line = group.first; line < group.last; ++line) {
         const QRect room(left, top + height, width, 1 << 20);
         int taken = metrics.height();
-        if (metrics.horizontalAdvance(lines_[line]) > width)
+        if (lengths_[std::size_t(line)] > width)
             taken =
                 metrics.boundingRect(room, wrapFlags(lines_[line], width, metrics), lines_[line]).height();
         placed.push_back({QRectF(left, top + height, width, taken), line});
@@ -73,42 +88,83 @@ int TitleBlock::place(const Group& group, int left, int top, int width, std::vec
     return height;
 }
 
-// The head stands beside the notes where it fits into a column, else above them.
-int TitleBlock::placeAll(int columns, int width, std::vector<Placed>& placed) const {
-    const int columnWidth =
-        std::max((width - (columns - 1) * gap) / columns, QFontMetrics(font_).averageCharWidth());
+// Bit k of `breaks` begins a column at part k + 1.
+std::vector<TitleBlock::Column> TitleBlock::columns(const std::vector<Group>& parts, unsigned breaks,
+                                                    int width) const {
+    std::vector<Column> all;
+    for (std::size_t part = 0; part < parts.size(); ++part) {
+        if (part == 0 || (breaks >> (part - 1) & 1U) != 0)
+            all.push_back({{}, 0});
+        all.back().groups.push_back(parts[part]);
+        all.back().width = std::max(all.back().width, widest(parts[part]));
+    }
+    std::vector<int> widths;
+    for (const Column& column : all)
+        widths.push_back(column.width);
+    widths = shared(widths, width - (int(all.size()) - 1) * gap);
+    for (std::size_t index = 0; index < all.size(); ++index)
+        all[index].width = std::max(widths[index], QFontMetrics(font_).averageCharWidth());
+    return all;
+}
+
+int TitleBlock::placeAll(bool headAbove, unsigned breaks, int width, std::vector<Placed>& placed) const {
     std::vector<Group> parts = files_;
-    int above = 0;
-    if (fits(head_, columnWidth))
+    if (!headAbove)
         parts.insert(parts.begin(), head_);
-    else
-        above = place(head_, 0, 0, width, placed);
-    const int perColumn = std::max((int(parts.size()) + columns - 1) / columns, 1);
+    const int above = headAbove ? place(head_, 0, 0, width, placed) : 0;
+    const std::vector<Column> all = columns(parts, breaks, width);
+    int spare = width;
+    for (const Column& column : all)
+        spare -= column.width;
+    const int between = all.size() > 1 ? std::clamp(spare / (int(all.size()) - 1), gap, widestGap) : 0;
     int deepest = above;
-    for (int part = 0, top = above; part < int(parts.size()); ++part) {
-        const int column = part / perColumn;
-        if (part % perColumn == 0)
-            top = above;
-        top += place(parts[std::size_t(part)], column * (columnWidth + gap), top, columnWidth, placed);
+    int left = 0;
+    for (const Column& column : all) {
+        int top = above;
+        for (const Group& group : column.groups)
+            top += place(group, left, top, column.width, placed);
         deepest = std::max(deepest, top);
+        left += column.width + between;
     }
     return deepest + place(tail_, 0, deepest, width, placed);
 }
 
-int TitleBlock::layOut(int width, const QFont& font) {
-    font_ = font;
+// The lowest of all ways to stand in columns; among equals that with most columns.
+int TitleBlock::placeBest(int width) {
+    const QFontMetrics metrics(font_);
+    lengths_.clear();
+    for (const QString& line : lines_)
+        lengths_.push_back(metrics.horizontalAdvance(line));
     placed_.clear();
     int best = 0;
-    for (int columns = std::clamp(int(files_.size()) + 1, 1, mostColumns); columns > 0 && !isEmpty();
-         --columns) {
-        std::vector<Placed> placed;
-        const int height = placeAll(columns, width, placed);
-        if (placed_.empty() || height < best) {
-            best = height;
-            placed_ = std::move(placed);
+    for (const bool headAbove : {false, true}) {
+        const std::size_t parts = files_.size() + (headAbove ? 0 : 1);
+        const unsigned ways = parts > 1 ? 1U << (parts - 1) : 1U;
+        for (unsigned breaks = ways; breaks-- > 0 && !isEmpty();) {
+            std::vector<Placed> placed;
+            const int height = placeAll(headAbove, breaks, width, placed);
+            if (placed_.empty() || height < best) {
+                best = height;
+                placed_ = std::move(placed);
+            }
         }
     }
     return best;
+}
+
+int TitleBlock::layOut(int width, int height, const QFont& font, int leastLetters) {
+    const QSize room(width, height);
+    if (room == room_ && font == wanted_)
+        return height_; // panning and zooming change nothing here
+    room_ = room;
+    wanted_ = font;
+    font_ = font;
+    height_ = placeBest(width);
+    while (height_ > height && font_.pixelSize() > leastLetters) {
+        font_.setPixelSize(font_.pixelSize() - 1);
+        height_ = placeBest(width);
+    }
+    return height_;
 }
 
 void TitleBlock::paint(QPainter& painter, int left, int top) const {
