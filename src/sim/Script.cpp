@@ -35,24 +35,22 @@ const Entry entries[] = {
     {"repeat", "", Kind::repeat, "begins again with the first step"},
 };
 
-bool readNumber(std::string_view text, double most, double& value) {
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    return result.ec == std::errc() && result.ptr == text.data() + text.size() && value >= 0 && value <= most;
+// A number from 0 to `most`, taken so many times.
+bool readNumber(std::string_view text, double most, int times, std::int64_t& result) {
+    double value = 0;
+    const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() || !(value >= 0 && value <= most))
+        return false;
+    result = static_cast<std::int64_t>(value * times);
+    return true;
 }
 
 bool readArgument(std::string_view argument, Step& step) {
-    double value = 0;
     switch (step.kind) {
-    case Kind::wait: {
-        const bool good = readNumber(argument, 1e6, value);
-        step.number = static_cast<std::int64_t>(value * 1000);
-        return good;
-    }
-    case Kind::untilReceived: {
-        const bool good = readNumber(argument, 1e9, value);
-        step.number = static_cast<std::int64_t>(value);
-        return good;
-    }
+    case Kind::wait:
+        return readNumber(argument, 1e6, 1000, step.number);
+    case Kind::untilReceived:
+        return readNumber(argument, 1e9, 1, step.number);
     case Kind::fault: {
         Faults scratch;
         addFault(scratch, argument);

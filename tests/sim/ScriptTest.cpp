@@ -89,8 +89,8 @@ TEST(ParseScript, RemarksAndBlankLinesSayNothing) {
 }
 
 TEST(ParseScript, RefusesWithTheNumberOfTheLine) {
-    for (const char* line : {"plugg", "wait", "wait x", "wait -1", "plug now", "fault nonsense", "send abc",
-                             "until-received", "repeat"}) {
+    for (const char* line : {"plugg", "wait", "wait x", "wait -1", "wait 1e40", "wait nan", "plug now",
+                             "fault nonsense", "send abc", "until-received", "repeat"}) {
         try {
             parseScript(std::string("unplug\n") + line);
             ADD_FAILURE() << line;
