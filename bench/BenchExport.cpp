@@ -35,7 +35,8 @@ struct Desk {
     std::string bytes; // of the export
 
     explicit Desk(bool low) {
-        std::string pattern = (std::filesystem::temp_directory_path() / "tally-bench-XXXXXX").string();
+        // On the disk of the build: the folder for temporary files may be memory.
+        std::string pattern = TALLY_BIN_DIR "/export-XXXXXX";
         folder = mkdtemp(pattern.data());
         FileFacts& info = recordings.gInfo[0];
         info.low = low;

@@ -7,7 +7,6 @@
 #include "view/RunningTime.h"
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 namespace tally {
@@ -15,7 +14,7 @@ namespace tally {
 namespace {
 
 constexpr std::size_t dateChars = 18;
-constexpr std::size_t mostFields = 10;
+constexpr std::size_t timeChars = 14; // of timePattern
 constexpr std::string_view timePattern = "%y %m %d %H %M";
 constexpr std::string_view screenPattern = "%H:%M  %b %d, %y";
 constexpr std::string_view averageHeader = "yy mm dd hh mm Reading\r\n";
@@ -37,24 +36,6 @@ ModeParameters parametersOf(char letter) {
     return {minutes == 15 ? 8U : minutes == 5 ? 6U : 10U, 1, minutes};
 }
 
-using Fields = std::array<std::string_view, mostFields>;
-
-// The values of a line; those that it does not have are empty.
-Fields fieldsOf(std::string_view line) {
-    Fields fields;
-    std::size_t from = dateChars;
-    for (std::string_view& field : fields) {
-        while (from < line.size() && line[from] == ' ')
-            ++from;
-        auto to = from;
-        while (to < line.size() && line[to] != ' ')
-            ++to;
-        field = line.substr(from, to - from);
-        from = to;
-    }
-    return fields;
-}
-
 // Takes the next line from a table; line feeds do not count.
 std::string_view nextLine(std::string_view& table) {
     const auto end = std::min(table.find('\r'), table.size());
@@ -65,77 +46,64 @@ std::string_view nextLine(std::string_view& table) {
     return line;
 }
 
-// Text that grows at its end; room is made ahead, so that a field costs no more than its copy.
-class Appender {
-public:
-    explicit Appender(std::string text) : text_(std::move(text)), used_(text_.size()) {}
+// What an interval has at most besides its values: the time, its line end, a blank for each value.
+constexpr std::size_t mostBesideValues = timeChars + 2 + 3;
 
-    // Makes room for so many characters.
-    void reserve(std::size_t more) {
-        if (text_.size() - used_ < more)
-            text_.resize(2 * text_.size() + more);
-    }
-    void add(std::string_view part) {
-        std::copy(part.begin(), part.end(), text_.begin() + static_cast<std::ptrdiff_t>(used_));
-        used_ += part.size();
-    }
-    std::string take() {
-        text_.resize(used_);
-        return std::move(text_);
-    }
-
-private:
-    std::string text_;
-    std::size_t used_;
-};
-
-// What an interval has besides its values: the time, its line end, a blank for each value.
-constexpr std::size_t mostBesideValues = 24;
-
-void addIntervals(Appender& text, const Fields& fields, const ModeParameters& mode, RunningTime& time) {
+// Writes the intervals of a table line, whose values begin at `values`, and gives the end.
+char* writeIntervals(char* to, std::string_view values, const ModeParameters& mode, RunningTime& time) {
+    const char* from = values.data();
+    const char* const end = from + values.size();
     for (std::size_t j = 0; j < mode.intervals(); ++j) {
         bool ended = false;
         for (std::size_t k = 0; k < mode.perInterval; ++k) {
-            const std::string_view field = fields[j * mode.perInterval + k];
-            ended = field.empty();
+            while (from != end && *from == ' ')
+                ++from;
+            ended = from == end;
             if (ended)
                 break;
             if (k == 0) {
-                text.add(time.text());
+                to = std::copy_n(time.text().data(), timeChars, to);
                 time.advance(mode.minutes);
             }
-            text.add(" ");
-            text.add(field);
+            *to++ = ' ';
+            while (from != end && *from != ' ')
+                *to++ = *from++;
         }
-        text.add("\r\n");
+        *to++ = '\r';
+        *to++ = '\n';
         if (ended)
-            return;
+            break;
     }
+    return to;
 }
 
 } // namespace
 
 PerLineText onePerLineText(std::string_view table, char modeLetter) {
     const ModeParameters mode = parametersOf(modeLetter);
-    Appender text{std::string(isMinMaxAvg(modeLetter) ? minMaxAvgHeader : averageHeader)};
-    text.reserve(2 * table.size());
+    PerLineText made{std::string(isMinMaxAvg(modeLetter) ? minMaxAvgHeader : averageHeader), false};
+    std::string& text = made.text;
+    std::size_t used = text.size();
     RunningTime time(timePattern, {});
-    // The time that a line has when it follows on the one before, as it is written there.
+    // The time of a line that follows on the one before, as it is written there.
     RunningTime expected(screenPattern, {});
-    bool tooShort = false;
     while (!table.empty()) {
         const std::string_view line = nextLine(table);
-        tooShort = line.size() < dateChars;
-        if (tooShort)
+        made.lineTooShort = line.size() < dateChars;
+        if (made.lineTooShort)
             break;
         if (!line.starts_with(expected.text()))
             expected.set(parseScreenTime(line));
         time.set(expected.time());
-        text.reserve(mode.intervals() * mostBesideValues + line.size());
-        addIntervals(text, fieldsOf(line), mode, time);
+        const std::size_t most = mode.intervals() * mostBesideValues + line.size();
+        if (text.size() - used < most)
+            text.resize(text.size() + std::max(most, 2 * table.size()));
+        char* const to = text.data() + used;
+        used += static_cast<std::size_t>(writeIntervals(to, line.substr(dateChars), mode, time) - to);
         expected.advance(mode.minutes * static_cast<int>(mode.intervals()));
     }
-    return {text.take(), tooShort};
+    text.resize(used);
+    return made;
 }
 
 ExportOutcome Export(const ExportDesk& desk, const std::string& title, bool onePerLine) {
