@@ -23,8 +23,9 @@ TEST(AddFault, ReadsFlagsNumbersAndStalls) {
 
 TEST(AddFault, RefusesWhatIsNone) {
     Faults faults;
-    for (const char* text : {"", "low-batery", "noise", "noise=", "noise=x", "noise=-1", "noise=2x",
-                             "silent=1", "stall=500", "stall=:", "cable=99999999999999999999", "=3"})
+    for (const char* text :
+         {"", "low-batery", "noise", "noise=", "noise=x", "noise=-1", "noise=2x", "noise=1000001", "silent=1",
+          "stall=500", "stall=:", "cable=99999999999999999999", "=3"})
         EXPECT_THROW(addFault(faults, text), std::invalid_argument) << text;
 }
 
