@@ -78,7 +78,7 @@ std::string paperHead(const SurveyData& survey) {
     return text.append(paperSeparator).append(lineEnd);
 }
 
-SurveyPaper paper(std::string text, ReadingTime date) {
+SurveyPaper paper(const std::string& text, ReadingTime date) {
     std::string title(paperTitle);
     title.resize(paperTitleColumns, ' ');
     return {title + formatTime(date, "%b %d, %Y"), expandTabs(text)};
