@@ -21,9 +21,12 @@ public:
                 pty_.reset();
         });
     }
-    ~LivePeer() {
+    ~LivePeer() { stop(); }
+    // Its life is over; what it holds can be looked into.
+    void stop() {
         wire_.stop();
-        thread_.join();
+        if (thread_.joinable())
+            thread_.join();
     }
     LivePeer(const LivePeer&) = delete;
     LivePeer& operator=(const LivePeer&) = delete;
@@ -38,7 +41,7 @@ private:
     std::thread thread_;
 };
 
-// An instrument that lives that way. Look into it only when the line is closed and quiet.
+// An instrument that lives that way. Stop it before you look into it.
 struct LiveInstrument {
     explicit LiveInstrument(sim::InstrumentSetup setup) : instrument(std::move(setup)) {}
 

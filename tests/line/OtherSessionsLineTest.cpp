@@ -20,13 +20,6 @@ int initialize(SessionDesk& desk, char mode) {
     return session.Initialize(mode);
 }
 
-// The instrument's own view, once its thread is done with the exchange.
-template <typename Check>
-void settled(QtWaiter& waiter, Check check) {
-    for (int i = 0; i < 100 && !check(); ++i)
-        waiter.until(waiter.now() + 10);
-}
-
 TEST(StatusOnTheLine, ShowsTheFieldsOfTheHeader) {
     sim::InstrumentSetup setup = quickInstrument(7, 100);
     setup.memory = sim::filledMemory('i', 10710, 99, setup.clock);
@@ -52,7 +45,7 @@ TEST(InitializationOnTheLine, EveryModeIsSetAndReadBack) {
         desk.prompt.answers = {Answer::Ok, Answer::No};
         EXPECT_EQ(initialize(desk, mode), 1) << mode << desk.lastText();
         EXPECT_FALSE(desk.line.isOpen());
-        settled(desk.waiter, [&] { return instrument.instrument.erasures() == 1; });
+        instrument.live.stop();
         EXPECT_EQ(instrument.instrument.erasures(), 1);
         const char reduced = mode > 'f' ? static_cast<char>(mode - 6) : mode;
         EXPECT_EQ(instrument.instrument.initString().substr(14),
@@ -65,6 +58,7 @@ TEST(InitializationOnTheLine, TheBlankModeIsSetToo) {
     SessionDesk desk(instrument.live.path(), 1);
     desk.prompt.answers = {Answer::Ok, Answer::No};
     EXPECT_EQ(initialize(desk, 'a'), 1) << desk.lastText();
+    instrument.live.stop();
     EXPECT_EQ(instrument.instrument.initString().substr(14), "  0\r");
 }
 
@@ -73,6 +67,7 @@ TEST(InitializationOnTheLine, TwoInstrumentsOneAfterTheOther) {
     SessionDesk desk(instrument.live.path(), 8);
     desk.prompt.answers = {Answer::Ok, Answer::Yes, Answer::Ok, Answer::No};
     EXPECT_EQ(initialize(desk, 'e'), 2) << desk.lastText();
+    instrument.live.stop();
     EXPECT_EQ(instrument.instrument.erasures(), 2);
 }
 
@@ -86,6 +81,7 @@ TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
     QTimer::singleShot(1500, &desk.waiter, &QtWaiter::cancel);
     EXPECT_EQ(initialize(desk, 'e'), 0);
     EXPECT_FALSE(desk.line.isOpen());
+    instrument.live.stop();
     EXPECT_EQ(instrument.instrument.erasures(), 0);
 }
 
