@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,11 @@ public:
     virtual bool isOpen() const = 0;
     // What has arrived, at most InputLen characters; empty when nothing has.
     virtual std::string Input() = 0;
+    // The same again and again: appends what has arrived until `into` holds `most` characters.
+    virtual void inputAll(std::string& into, std::size_t most) {
+        for (std::string next; into.size() < most && !(next = Input()).empty();)
+            into += next;
+    }
     virtual void Output(std::string_view characters) = 0;
     // Why the line closed itself, in words for a user that name port and cause; empty otherwise.
     virtual std::string problem() const = 0;

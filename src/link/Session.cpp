@@ -28,8 +28,7 @@ void Session::closePort() {
 
 void Session::drain(std::size_t most) {
     const std::size_t before = kept_.size();
-    for (std::string next; kept_.size() < most && !(next = line.Input()).empty();)
-        kept_ += next;
+    line.inputAll(kept_, most);
     if (kept_.size() > before)
         journal.append(std::string_view(kept_).substr(before));
 }

@@ -194,22 +194,32 @@ bool SerialLine::fill() {
     return !arrived_.isEmpty();
 }
 
-std::string SerialLine::Input() {
+// The next characters, up to `most` and to ctrl/Z; they stay valid until the next call.
+std::string_view SerialLine::take(std::size_t most) {
     if (ended_ || (used_ == arrived_.size() && !fill()))
         return {};
-    const char* const first = arrived_.constData() + used_;
-    auto length = static_cast<std::size_t>(arrived_.size() - used_);
-    if (inputLen_ > 0)
-        length = std::min(length, inputLen_);
+    std::string_view piece(arrived_.constData() + used_, static_cast<std::size_t>(arrived_.size() - used_));
+    piece = piece.substr(0, most);
     if (eofEnable_) {
-        // One character a read is what every session asks for.
-        const std::size_t end = length == 1 ? (*first == endOfFile ? 0 : std::string_view::npos)
-                                            : std::string_view(first, length).find(endOfFile);
+        const std::size_t end = piece.find(endOfFile);
         ended_ = end != std::string_view::npos;
-        length = ended_ ? end + 1 : length;
+        piece = piece.substr(0, ended_ ? end + 1 : piece.size());
     }
-    used_ += static_cast<qsizetype>(length);
-    return std::string(first, length);
+    used_ += static_cast<qsizetype>(piece.size());
+    return piece;
+}
+
+std::string SerialLine::Input() {
+    return std::string(take(inputLen_ > 0 ? inputLen_ : std::string_view::npos));
+}
+
+void SerialLine::inputAll(std::string& into, std::size_t most) {
+    while (into.size() < most) {
+        const std::string_view piece = take(most - into.size());
+        if (piece.empty())
+            return;
+        into += piece;
+    }
 }
 
 void SerialLine::Output(std::string_view characters) {

@@ -29,6 +29,7 @@ public:
     void PortOpen(bool open) override;
     bool isOpen() const override { return port_.isOpen(); }
     std::string Input() override;
+    void inputAll(std::string& into, std::size_t most) override;
     // Does nothing on a closed line.
     void Output(std::string_view characters) override;
     std::string problem() const override { return problem_; }
@@ -45,6 +46,7 @@ private:
     void onError(QSerialPort::SerialPortError error);
     void close();
     bool fill();
+    std::string_view take(std::size_t most);
     // "COM3 (/dev/ttyUSB0)"
     std::string name() const;
 

@@ -89,6 +89,23 @@ TEST(SerialLine, InputStopsAtCtrlZUntilTheNextOpening) {
     EXPECT_EQ(port.read(2), "gh");
 }
 
+TEST(SerialLine, TakesAllThatHasArrivedUpToABoundAndToCtrlZ) {
+    OpenLine port;
+    port.line.EOFEnable(true);
+    port.line.InputLen(1);
+    port.open();
+    port.pty->write("abcd\x1a"
+                    "ef");
+    ASSERT_EQ(port.waiter.until(port.waiter.now() + testing::patience), Wake::data);
+    std::string all = "kept ";
+    port.line.inputAll(all, 7);
+    EXPECT_EQ(all, "kept ab");
+    port.line.inputAll(all, 100);
+    EXPECT_EQ(all, "kept abcd\x1a");
+    port.line.inputAll(all, 100);
+    EXPECT_EQ(all, "kept abcd\x1a");
+}
+
 TEST(SerialLine, CtrlZIsPlainDataWhenTheRuleIsOff) {
     OpenLine port;
     port.open();
