@@ -1,62 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "Fuzz.h"
-
-#include "core/DataText.h"
-#include "core/SaveText.h"
-
-#include <algorithm>
-#include <cstdlib>
-
-namespace tally::fuzz {
-
-namespace {
-
-void requireFacts(const Recording& recording) {
-    const FileFacts& facts = recording.facts;
-    const auto& readings = recording.readings;
-    require(!readings.empty() && readings.size() <= Recordings::mostReadings, "1 to 42,966 readings");
-    require(static_cast<std::size_t>(facts.count) == readings.size(), "the count is that of the readings");
-    require(facts.largest == *std::max_element(readings.begin(), readings.end()),
-            "the largest is one of them");
-    require(facts.smallest == *std::min_element(readings.begin(), readings.end()), "so is the smallest");
-    require(facts.header.size() >= 44 && facts.serial.size() == 4, "the header holds serial and time");
-    require(facts.start < facts.headerTime + 60, "reading 0 is before the header time");
-}
-
-// A field that is too narrow for its sign, or rounded out of range, is not read back.
-bool savedAsItIs(const FileFacts& facts) {
-    return facts.low || (facts.smallest >= 0 && facts.largest < 32765);
-}
-
-void requireReadBack(Recording recording) {
-    Recordings model;
-    model.ginx = 0;
-    model.gDatastart = 0;
-    model.gdataend = recording.facts.count - 1;
-    model.gInfo[0] = recording.facts;
-    model.gReadings[0] = recording.readings;
-    const auto again = readDataText(quoted(buildDataText(model)));
-    const auto* saved = std::get_if<Recording>(&again);
-    require(saved != nullptr, "a saved file can be opened");
-    if (!recording.facts.low)
-        for (std::int16_t& tenths : recording.readings)
-            tenths = static_cast<std::int16_t>((tenths + 5) / 10 * 10);
-    require(saved->readings == recording.readings, "and says the same");
-    require(saved->facts.unreadable == 0, "and all of it is numbers");
-    require(saved->facts.serial == recording.facts.serial, "of the same instrument");
-}
-
-} // namespace
-
-} // namespace tally::fuzz
+#include "DataFileRules.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    using namespace tally;
-    const auto result = readDataText(fuzz::asText(data, size));
-    if (const auto* recording = std::get_if<Recording>(&result)) {
-        fuzz::requireFacts(*recording);
-        if (fuzz::savedAsItIs(recording->facts))
-            fuzz::requireReadBack(*recording);
-    }
+    tally::fuzz::requireRules(tally::fuzz::asText(data, size));
     return 0;
 }
