@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <stdexcept>
+#include <utility>
 
 namespace tally {
 
@@ -81,6 +82,11 @@ void Menus::set(std::string_view name, bool on) {
 void Menus::refresh(std::string_view name) {
     const Item& entry = items_[words(name)];
     entry.action->setEnabled(entry.wanted && entry.handled);
+}
+
+void Menus::refreshAll() {
+    for (const Item& entry : std::as_const(items_))
+        entry.action->setEnabled(entry.wanted && entry.handled);
 }
 
 QAction* Menus::mru(int index) const {

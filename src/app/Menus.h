@@ -30,6 +30,8 @@ public:
     void apply(MenuEvent event);
     // One row of the table by hand, where a rule lies outside it.
     void set(std::string_view name, bool on);
+    // Puts every item into its state again: a menu that its bar enables enables its own item.
+    void refreshAll();
 
     // Captions of the recent files; empty ones and, when `shown` is false, all are hidden.
     void showMru(const std::array<std::string, 4>& paths, bool shown);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Instrument.h"
 
+#include "app/Menus.h"
 #include "app/StatusPanels.h"
 #include "app/TLY.h"
 #include "app/TLY_Downloads.h"
@@ -21,7 +22,10 @@ namespace {
 class MenusOff {
 public:
     explicit MenusOff(TLY& window) : window_(window) { window_.menuBar()->setEnabled(false); }
-    ~MenusOff() { window_.menuBar()->setEnabled(true); }
+    ~MenusOff() {
+        window_.menuBar()->setEnabled(true);
+        window_.menus().refreshAll();
+    }
     MenusOff(const MenusOff&) = delete;
     MenusOff& operator=(const MenusOff&) = delete;
 

@@ -76,6 +76,17 @@ TEST_F(InstrumentTest, DownloadWaitsInTheNoticeBarAndSaveAsWritesItWithNoFileOpe
     EXPECT_EQ(recordings.info(0).count, 30);
 }
 
+TEST_F(InstrumentTest, SessionLeavesTheMenusAsTheyWere) {
+    ASSERT_FALSE(enabled("mnuView"));
+    instrument.instSelection = 4;
+    whenOpen<Dwnloaditem>([](Dwnloaditem& form) { form.reject(); });
+    click("mnuItemDownload");
+    EXPECT_TRUE(window.menuBar()->isEnabled());
+    EXPECT_FALSE(enabled("mnuView"));
+    EXPECT_TRUE(enabled("mnuInstrument"));
+    EXPECT_TRUE(enabled("mnuItemDownload"));
+}
+
 TEST_F(InstrumentTest, OpenFilesAndTheirSaveNeverTouchTheDownload) {
     send(memory());
     download();
