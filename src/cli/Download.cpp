@@ -15,21 +15,22 @@ struct DownloadOptions {
     std::shared_ptr<LinkOptions> link;
     std::shared_ptr<double> wait;
     std::string output;
+    std::string initialized;
     bool yes = false;
     bool no = false;
 };
 
 int download(Context& context, const DownloadOptions& options) {
+    if (!options.initialized.empty() && !parseHeaderTime(options.initialized))
+        throw WrongUsage("--initialized: '" + options.initialized + "' is no date and time");
     InstrumentLink link(context, *options.link, options.yes ? Answer::Yes : Answer::No);
+    link.prompt.setInitialized(options.initialized);
     DownloadSession session(link.session, waitFor(*options.wait));
     if (!session.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString()))
-        return status::refused;
+        return link.refused();
     const auto pending = session.DownLoadProc();
-    if (!pending) {
-        if (link.waiter.cancelRequested())
-            context.warn("Cancelled");
-        return status::refused;
-    }
+    if (!pending)
+        return link.refused();
     writeFile(context, options.output, tally::quoted(pending->text));
     if (!pending->id.empty())
         link.journal.mark(pending->id, JournalState::saved);
@@ -46,6 +47,8 @@ void addDownload(CLI::App& program, Context& shared) {
     options->link = addLink(command);
     options->wait = addWait(command);
     command.add_option("-o,--output", options->output, "the data file to write")->required();
+    command.add_option("--initialized", options->initialized,
+                       "when the recording began, \"mm-dd-yy hh:mm\", for a header without a time");
     CLI::Option* yes = command.add_flag("--yes", options->yes, "keep a download with errors");
     command.add_flag("--no", options->no, "drop a download with errors (as without it)")->excludes(yes);
 }

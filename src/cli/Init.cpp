@@ -75,15 +75,12 @@ int initialize(Context& context, const InitOptions& options) {
     if (!mnuItemInitialize_Click(link.line, link.instrument, prompt)) {
         if (!options.yes)
             context.warn("Nothing was sent; --yes goes on");
-        return status::refused;
+        return link.refused();
     }
     TracePanel panel(context, options.link->log);
     InitializeSession session(link.line, link.waiter, prompt, panel, link.instrument, link.gErrorCallPoint);
-    if (session.Initialize(modeLetter(options.mode)) == 0) {
-        if (link.waiter.cancelRequested())
-            context.warn("Cancelled");
-        return status::refused;
-    }
+    if (session.Initialize(modeLetter(options.mode)) == 0)
+        return link.refused();
     context.out(asLines(prompt.report()));
     return status::done;
 }

@@ -3,9 +3,13 @@
 
 #include "link/Instruments.h"
 #include "link/PortChoice.h"
+#include "link/Rescue.h"
 #include "platform/Folders.h"
+#include "platform/PortList.h"
 
+#include <QCoreApplication>
 #include <cmath>
+#include <utility>
 
 namespace tally::cli {
 
@@ -26,10 +30,10 @@ int commPortOf(const std::string& port, const Settings& settings) {
     return port[0] - '0';
 }
 
-SerialLine::DeviceOf deviceFinder(Context& context, const std::string& port) {
-    return [&context, device = deviceOf(port)](int commPort) {
-        return device.empty() ? devicePath(commPort, context.settings()) : device;
-    };
+// One of the call's own: the window may run another.
+std::string simulatedDevice(Context& context) {
+    context.needEventLoop();
+    return simulatedInstrument() + "-" + std::to_string(QCoreApplication::applicationPid());
 }
 
 InstrumentState stateOf(Context& context, const LinkOptions& options) {
@@ -40,11 +44,6 @@ InstrumentState stateOf(Context& context, const LinkOptions& options) {
     state.gCommPort = commPortOf(options.port, context.settings());
     applySelection(state, *type);
     return state;
-}
-
-Context& ready(Context& context) {
-    context.needEventLoop();
-    return context;
 }
 
 } // namespace
@@ -70,13 +69,18 @@ std::int64_t waitFor(double seconds) {
 }
 
 Answer LinkPrompt::show(const Message& message) {
+    told_.insert(message.text);
     context_.warn(message.title == Message().title ? message.text : message.title + ": " + message.text);
     return message.buttons == Buttons::YesNo ? yesOrNo_ : Answer::Ok;
 }
 
 std::optional<std::string> LinkPrompt::input(const InputQuestion& question) {
     context_.warn(question.text);
-    return {};
+    if (initialized_.empty()) {
+        context_.warn("(--initialized gives it)");
+        return {};
+    }
+    return std::exchange(initialized_, std::string());
 }
 
 std::optional<std::string> LinkPrompt::chooseFile(const FileQuestion&) {
@@ -102,14 +106,39 @@ void LinkPanel::appendLog(const std::string& text) {
 }
 
 InstrumentLink::InstrumentLink(Context& context, const LinkOptions& options, Answer yesOrNo)
-    : line(deviceFinder(ready(context), options.port)),
+    : simulated(simulatedDevice(context)),
+      line([this, given = deviceOf(options.port)](int commPort) { return device(commPort, given); }),
       waiter(line, context.clock()),
       prompt(context, yesOrNo),
       panel(context, options.log),
       instrument(stateOf(context, options)),
       journal(folders::data() + "/journal", context.files()),
-      session(line, waiter, prompt, panel, instrument, journal, gErrorCallPoint) {
+      session(line, waiter, prompt, panel, instrument, journal, gErrorCallPoint),
+      context_(context) {
     journal.onProblem([&context](const std::string& text) { context.warn(text); });
+}
+
+InstrumentLink::~InstrumentLink() {
+    for (const JournalEntry& entry : unsavedReceptions(journal))
+        if (entry.id == journal.id())
+            context_.warn("What was received is kept: the window offers it at its next start.");
+}
+
+std::string InstrumentLink::device(int commPort, const std::string& given) {
+    const std::string path = given.empty() ? devicePath(commPort, context_.settings()) : given;
+    if (path != simulatedInstrument())
+        return path;
+    const bool fixed = instrument.instSelection != autoSelectType;
+    simulated.start(fixed ? instrument.instSelection : instrument.instAutoCurrent);
+    return simulated.device();
+}
+
+int InstrumentLink::refused() {
+    if (waiter.cancelRequested())
+        context_.warn("Cancelled");
+    else if (!line.problem().empty() && !prompt.told(line.problem()))
+        context_.warn(line.problem());
+    return status::refused;
 }
 
 } // namespace tally::cli

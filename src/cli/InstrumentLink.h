@@ -9,8 +9,10 @@
 #include "platform/QtWaiter.h"
 #include "platform/QtWaiterInterrupt.h"
 #include "platform/SerialLine.h"
+#include "platform/SimulatedInstrument.h"
 
 #include <memory>
+#include <set>
 #include <string>
 
 namespace tally::cli {
@@ -29,16 +31,21 @@ std::shared_ptr<double> addWait(CLI::App& command);
 std::int64_t waitFor(double seconds);
 
 // Tells everything on standard error. OK is taken as pressed, a question of yes or no is answered as the call
-// says, what would have to be typed is not.
+// says; the date of the field initialization is given once, when the call has it.
 class LinkPrompt : public Prompt {
 public:
     LinkPrompt(Context& context, Answer yesOrNo) : context_(context), yesOrNo_(yesOrNo) {}
     Answer show(const Message& message) override;
     std::optional<std::string> input(const InputQuestion& question) override;
     std::optional<std::string> chooseFile(const FileQuestion& question) override;
+    void setInitialized(const std::string& date) { initialized_ = date; }
+    // Whether this text was shown.
+    bool told(const std::string& text) const { return told_.contains(text); }
 
 private:
     Context& context_;
+    std::set<std::string> told_;
+    std::string initialized_;
     Answer yesOrNo_;
 };
 
@@ -91,7 +98,15 @@ private:
 class InstrumentLink {
 public:
     InstrumentLink(Context& context, const LinkOptions& options, Answer yesOrNo = Answer::No);
+    // Says when something was received that no file holds.
+    ~InstrumentLink();
+    InstrumentLink(const InstrumentLink&) = delete;
+    InstrumentLink& operator=(const InstrumentLink&) = delete;
 
+    // The exit status of a refused call, after saying what the line or Ctrl+C had to do with it.
+    int refused();
+
+    SimulatedInstrument simulated;
     SerialLine line;
     LinkWaiter waiter;
     LinkPrompt prompt;
@@ -100,6 +115,12 @@ public:
     JournalFolder journal;
     int gErrorCallPoint = 0;
     Session session;
+
+private:
+    // What is behind a COM port, or the device of the call; starts the simulated instrument.
+    std::string device(int commPort, const std::string& given);
+
+    Context& context_;
 };
 
 } // namespace tally::cli

@@ -19,13 +19,10 @@ int recover(Context& context, const RecoverOptions& options) {
     InstrumentLink link(context, *options.link);
     RecoverSession session(link.session);
     if (!session.mnuItemRecover_Click())
-        return status::refused;
+        return link.refused();
     const auto pending = session.RecoverProc(context.files(), folders::recoverFile());
-    if (!pending) {
-        if (link.waiter.cancelRequested())
-            context.warn("Cancelled");
-        return status::refused;
-    }
+    if (!pending)
+        return link.refused();
     writeFile(context, options.output, tally::quoted(pending->text));
     if (!pending->id.empty())
         link.journal.mark(pending->id, JournalState::saved);

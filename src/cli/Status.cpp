@@ -32,11 +32,8 @@ int checkStatus(Context& context, const StatusOptions& options) {
     link.panel.hidePrompts();
     StatusCheckSession session(link.session, waitFor(*options.wait));
     const auto fields = session.StatusCheck();
-    if (!fields) {
-        if (link.waiter.cancelRequested())
-            context.warn("Cancelled");
-        return status::refused;
-    }
+    if (!fields)
+        return link.refused();
     if (*options.json) {
         outJson(context, asJson(*fields));
     } else {

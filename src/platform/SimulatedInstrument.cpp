@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <utility>
 
 namespace tally {
 
@@ -19,6 +20,10 @@ QString program() {
 
 } // namespace
 
+SimulatedInstrument::SimulatedInstrument(std::string device) : device_(std::move(device)) {}
+
+SimulatedInstrument::SimulatedInstrument() : SimulatedInstrument(simulatedInstrument()) {}
+
 SimulatedInstrument::~SimulatedInstrument() {
     if (process_.state() == QProcess::NotRunning)
         return;
@@ -31,7 +36,7 @@ bool SimulatedInstrument::available() {
 }
 
 bool SimulatedInstrument::start(int type) {
-    const QString link = QString::fromStdString(simulatedInstrument());
+    const QString link = QString::fromStdString(device_);
     const bool ours = process_.state() != QProcess::NotRunning;
     if (ours && type_ == type)
         return true;

@@ -184,6 +184,47 @@ TEST_F(LinkCommands, anAdapterThatIsPulledOutIsToldAndWhatCameIsKept) {
     EXPECT_FALSE(std::filesystem::exists(out));
 }
 
+TEST_F(LinkCommands, whatNoFileHoldsIsKeptAndSaid) {
+    const std::string kept = "What was received is kept: the window offers it at its next start.\n";
+    for (const std::vector<std::string>& fault :
+         std::vector<std::vector<std::string>>{{"--fault", "gone=200"}, {"--mode", "z"}}) {
+        auto options = fault;
+        options.insert(options.end(), {"--count", "100"});
+        const auto run = download(instrument(options));
+        EXPECT_EQ(run.status, 1);
+        EXPECT_NE(run.err.find(kept), std::string::npos) << run.err;
+    }
+    const auto saved = download(instrument({"--count", "30"}));
+    EXPECT_EQ(saved.err.find(kept), std::string::npos) << saved.err;
+}
+
+TEST_F(LinkCommands, theDateOfTheFieldInitializationIsAnOption) {
+    const auto sim = instrument({"--count", "30", "--fault", "bad-time", "--interval", "15"});
+    const auto without = download(sim);
+    EXPECT_EQ(without.status, 1);
+    EXPECT_NE(without.err.find("Enter date and time of the field initialization"), std::string::npos);
+    EXPECT_NE(without.err.find("(--initialized gives it)"), std::string::npos);
+    EXPECT_FALSE(std::filesystem::exists(out));
+    EXPECT_EQ(download(sim, {"--initialized", "yesterday"}).status, 2);
+    // 30 readings of 15 minutes are 7 h 30 min.
+    const auto with = download(sim, {"--initialized", "03-14-24 10:00"});
+    EXPECT_EQ(with.status, 0) << with.err;
+    EXPECT_EQ(TemporaryFolder::read(out).substr(31, 14), "03-14-24 17:30");
+}
+
+TEST_F(LinkCommands, aSimulatedInstrumentBehindAComPortIsStarted) {
+    setenv("XDG_CACHE_HOME", folder.path("cache").c_str(), 1);
+    const std::string cache = folder.path("cache/Tallyline");
+    std::filesystem::create_directories(folder.path("config/Tallyline"));
+    const auto run = [&] { return runProgram("tallyline-cli", {"status", "--port", "3", "--type", "7"}); };
+    EXPECT_EQ(run().status, 1);
+    folder.write("config/Tallyline/Tallyline.ini", "[Comm]\nCOM3=" + cache + "/simulated-instrument\n");
+    const auto status = run();
+    EXPECT_EQ(status.status, 0) << status.err;
+    EXPECT_NE(status.out.find(" Type: KWT    Serial Number 1234"), std::string::npos) << status.out;
+    EXPECT_TRUE(std::filesystem::is_empty(cache));
+}
+
 TEST_F(LinkCommands, interruptIsCancel) {
     const auto sim = instrument({"--fault", "silent"});
     testing::Background cli(std::string(TALLY_BIN_DIR) + "/tallyline-cli",
@@ -197,7 +238,9 @@ TEST_F(LinkCommands, aPortThatIsNotThereIsRefused) {
     const auto run = runProgram("tallyline-cli",
                                 {"download", "--port", folder.path("no-device"), "--type", "7", "-o", out});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "Communication port not valid.\r\nTry selecting a different COM port\n");
+    EXPECT_EQ(run.err, "Communication port not valid.\r\nTry selecting a different COM port\nCOM1 (" +
+                           folder.path("no-device") +
+                           ") is not there. Check that the adapter is plugged in.\n");
 }
 
 TEST_F(LinkCommands, aFileThatCannotBeWrittenLeavesTheDownloadInTheJournal) {
