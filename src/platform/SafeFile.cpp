@@ -31,10 +31,30 @@ Fault writeFault(QFileDevice::FileError error) {
     return error == QFileDevice::ResourceError ? fault::diskFull() : fault::deviceIo();
 }
 
+// Gives how much was written. What a disk still takes before it is full is no error yet; the next write is.
+qint64 writeAll(QSaveFile& file, const std::string& bytes) {
+    const auto size = static_cast<qint64>(bytes.size());
+    qint64 written = 0;
+    while (written < size) {
+        const qint64 more = file.write(bytes.data() + written, size - written);
+        if (more <= 0)
+            break;
+        written += more;
+    }
+    return written;
+}
+
 } // namespace
 
 bool SafeFile::exists(const std::string& path) const {
     return !path.empty() && QFileInfo::exists(QString::fromStdString(path));
+}
+
+bool SafeFile::same(const std::string& path, const std::string& other) const {
+    if (path == other)
+        return true;
+    const QString found = QFileInfo(QString::fromStdString(path)).canonicalFilePath();
+    return !found.isEmpty() && found == QFileInfo(QString::fromStdString(other)).canonicalFilePath();
 }
 
 std::string SafeFile::read(const std::string& path, std::uint64_t most) const {
@@ -68,7 +88,7 @@ void SafeFile::write(const std::string& path, const std::string& bytes) {
     QSaveFile file(info.filePath());
     if (!file.open(QIODevice::WriteOnly))
         throw openFault(info, file.error());
-    const qint64 written = file.write(bytes.data(), static_cast<qint64>(bytes.size()));
+    const qint64 written = writeAll(file, bytes);
     // commit() alone does not see that the disk was full: the last block is still in the buffer until now.
     const bool whole =
         written == static_cast<qint64>(bytes.size()) && file.flush() && file.error() == QFileDevice::NoError;
