@@ -7,7 +7,7 @@ namespace tally {
 
 namespace {
 
-constexpr int resultWidth = 100; // characters of the longest line
+constexpr int resultWidth = 120; // characters of the longest line, in a font of uneven letters
 
 } // namespace
 
