@@ -11,6 +11,8 @@ class Files {
 public:
     virtual ~Files() = default;
     virtual bool exists(const std::string& path) const = 0;
+    // Whether two paths lead to one file, however they are spelled.
+    virtual bool same(const std::string& path, const std::string& other) const { return path == other; }
     // At most `most` bytes of a file. Throws File not found, Permission denied, Path/File access error.
     virtual std::string read(const std::string& path, std::uint64_t most) const = 0;
     // Replaces a file as a whole: written beside and renamed, so that the old one stays when this throws

@@ -35,7 +35,7 @@ std::string exportPath(const ExportDesk& desk, int slot, const std::string& name
 
 bool refuseOwnFile(const ExportDesk& desk, const std::string& path) {
     for (int slot = 0; slot < Recordings::slotCount; ++slot) {
-        if (desk.recordings.info(slot).path == path) {
+        if (desk.recordings.isOpen(slot) && desk.files.same(desk.recordings.info(slot).path, path)) {
             desk.prompt.tell(std::string(exportOverData));
             return true;
         }

@@ -86,12 +86,12 @@ void SafeFile::write(const std::string& path, const std::string& bytes) {
     if (info.exists() && !info.isFile())
         throw fault::pathFileAccess();
     QSaveFile file(info.filePath());
-    if (!file.open(QIODevice::WriteOnly))
+    // Unbuffered, so that each write tells what became of it: a buffer that was flushed in part does not say
+    // that the disk is full.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw openFault(info, file.error());
     const qint64 written = writeAll(file, bytes);
-    // commit() alone does not see that the disk was full: the last block is still in the buffer until now.
-    const bool whole =
-        written == static_cast<qint64>(bytes.size()) && file.flush() && file.error() == QFileDevice::NoError;
+    const bool whole = written == static_cast<qint64>(bytes.size()) && file.error() == QFileDevice::NoError;
     const QFileDevice::FileError error = file.error();
     if (!whole) {
         file.cancelWriting();

@@ -9,6 +9,8 @@ namespace tally {
 class SafeFile : public Files {
 public:
     bool exists(const std::string& path) const override;
+    // Links and ways around are followed; paths to files that are not there are compared as they stand.
+    bool same(const std::string& path, const std::string& other) const override;
     // Regular files only, so that a pipe or a device never stalls the program. Throws File not found,
     // Permission denied, Path/File access error, Device I/O error.
     std::string read(const std::string& path, std::uint64_t most) const override;

@@ -6,7 +6,6 @@
 #include "survey/Peaks.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
 
 namespace tally {
@@ -17,12 +16,6 @@ constexpr std::array<std::string_view, phaseCount> phaseNames = {"red", "white",
 
 std::string nameOf(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
-}
-
-// Different spellings of one path compare equal.
-std::filesystem::path plainPath(const std::string& path) {
-    const std::u8string utf8(path.begin(), path.end());
-    return std::filesystem::path(utf8).lexically_normal();
 }
 
 std::string placeOf(const SurveyData& survey, int feeder, int phase) {
@@ -108,11 +101,11 @@ const PhaseFile* SurveyDesk::reference() const {
     return taken_.empty() ? nullptr : &fileOf(taken_.front());
 }
 
-void SurveyDesk::addNotices(const PhaseFile& file, const std::string& place) {
+void SurveyDesk::addNotices(const PhaseFile& file, const std::string& place, const Files& files) {
     const std::string lead = place + ": " + nameOf(file.facts.path);
     const auto add = [&](const std::string& text) { survey_.notices.push_back(lead + text); };
     for (const Taken& taken : taken_)
-        if (plainPath(fileOf(taken).facts.path) == plainPath(file.facts.path))
+        if (files.same(fileOf(taken).facts.path, file.facts.path))
             add(" is also taken for " + placeOf(survey_, taken.feeder, taken.phase));
     if (file.facts.unreadable > 0)
         add(" has " + std::to_string(file.facts.unreadable) +
@@ -143,7 +136,7 @@ LoadOutcome SurveyDesk::load(int phase, const std::string& path, const Files& fi
     }
     PhaseFile file{std::move(recording->facts), std::move(recording->readings)};
     file.facts.path = path;
-    addNotices(file, placeOf(survey_, survey_.currentFeeder, phase));
+    addNotices(file, placeOf(survey_, survey_.currentFeeder, phase), files);
     taken_.push_back({survey_.currentFeeder, phase});
     survey_.feeders.at(static_cast<std::size_t>(survey_.currentFeeder)).at(static_cast<std::size_t>(phase)) =
         std::move(file);

@@ -70,7 +70,7 @@ private:
 
     const PhaseFile& fileOf(const Taken& taken) const;
     const PhaseFile* reference() const;
-    void addNotices(const PhaseFile& file, const std::string& place);
+    void addNotices(const PhaseFile& file, const std::string& place, const Files& files);
 
     SurveyData& survey_;
     std::array<bool, feederCount> chosen_{};

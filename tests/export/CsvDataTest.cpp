@@ -169,6 +169,12 @@ TEST_F(CsvExport, AnOpenDataFileIsNeverReplaced) {
               std::vector<std::string>{"The export would replace an open data file. Nothing was written."});
 }
 
+TEST_F(CsvExport, AnOpenDataFileIsNotReplacedHoweverItsPathIsSpelled) {
+    addFile(recordings, "/out/../out/./Lotusint.csv", ramp(9));
+    EXPECT_EQ(CsvData(desk), ExportOutcome::ownFile);
+    EXPECT_TRUE(files.contents.empty());
+}
+
 // The layout built field by field with the number patterns.
 std::string plainCsv(const Recordings& recordings) {
     const FileFacts& info = recordings.info(0);

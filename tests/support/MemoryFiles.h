@@ -4,6 +4,7 @@
 #include "core/Fault.h"
 #include "core/Files.h"
 
+#include <filesystem>
 #include <map>
 #include <optional>
 
@@ -17,6 +18,10 @@ public:
     std::optional<Fault> failWrite; // thrown by the next writes, which change nothing
 
     bool exists(const std::string& path) const override { return contents.contains(path); }
+    bool same(const std::string& path, const std::string& other) const override {
+        return std::filesystem::path(path).lexically_normal() ==
+               std::filesystem::path(other).lexically_normal();
+    }
     std::string read(const std::string& path, std::uint64_t most) const override {
         if (failRead)
             throw *failRead;
