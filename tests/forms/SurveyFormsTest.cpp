@@ -174,6 +174,25 @@ TEST_F(SurveyForms, ATypedNameIsTakenAndTheFieldEmptiedForTheNextFeeder) {
     EXPECT_EQ(survey.feederNames[1], "Feeder2");
 }
 
+TEST_F(SurveyForms, TheNextFeederNameCanBeTypedAtOnce) {
+    EXPECT_EQ(form->focusWidget(), control<QLineEdit>("Text4"));
+    click("Command1");
+    EXPECT_EQ(form->focusWidget(), control("red"));
+    loadAll();
+    EXPECT_EQ(form->focusWidget(), control("Command2"));
+    click("Command2");
+    EXPECT_EQ(form->focusWidget(), control<QLineEdit>("Text4"));
+}
+
+TEST_F(SurveyForms, AfterTheLastFeederTheStationPeakIsNext) {
+    for (int feeder = 0; feeder < feederCount; ++feeder) {
+        click("Command1");
+        loadAll();
+        click("Command2");
+    }
+    EXPECT_EQ(form->focusWidget(), control("Command3"));
+}
+
 TEST_F(SurveyForms, EnterInTheFeederNameProceeds) {
     QTest::keyClick(control<QLineEdit>("Text4"), Qt::Key_Return);
     EXPECT_FALSE(control("Option1")->isEnabled());

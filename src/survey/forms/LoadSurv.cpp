@@ -21,6 +21,7 @@ LoadSurv::LoadSurv(SurveyData& survey, const SurveyServices& services, QWidget* 
     layOut();
     chooseNextFeeder();
     refresh();
+    focusNextStep();
 }
 
 QPushButton* LoadSurv::button(const char* name, const char* caption, void (LoadSurv::*handler)()) {
@@ -135,6 +136,14 @@ void LoadSurv::showDefaultName() {
     name_->setPlaceholderText(words(defaultFeederName(chosenFeeder())));
 }
 
+// Between two feeders: the next one's name or, after the last one, the station peak.
+void LoadSurv::focusNextStep() {
+    if (proceed_->isEnabled())
+        name_->setFocus();
+    else
+        station_->setFocus();
+}
+
 void LoadSurv::refresh() {
     const SurveyControls controls = desk_.controls();
     for (std::size_t feeder = 0; feeder < options_.size(); ++feeder)
@@ -193,6 +202,7 @@ void LoadSurv::Command2_Click() {
     chooseNextFeeder();
     refresh();
     SurveyShow(desk_.survey(), feeder, this).exec();
+    focusNextStep();
 }
 
 void LoadSurv::Command3_Click() {

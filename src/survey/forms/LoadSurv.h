@@ -63,6 +63,7 @@ private:
     int chosenFeeder() const;
     void chooseNextFeeder();
     void showDefaultName();
+    void focusNextStep();
     void refresh();
 
     SurveyDesk desk_;
