@@ -4,9 +4,9 @@
 #include "Child.h"
 #include "OpenLine.h"
 #include "core/Fault.h"
+#include "support/Process.h"
 
 #include <fcntl.h>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -218,8 +218,8 @@ TEST(SerialLineRefusal, ADeviceThatIsNotThere) {
 TEST(SerialLineRefusal, WhatIsNoSerialLine) {
     EXPECT_EQ(refusal("/dev/null"), "8002 COM2 (/dev/null) is not a serial line.");
     EXPECT_EQ(refusal("/tmp"), "8002 COM2 (/tmp) is not a serial line.");
-    const std::string file = ::testing::TempDir() + "no-line.txt";
-    std::ofstream(file) << "text";
+    const testing::TemporaryFolder folder;
+    const std::string file = folder.write("no-line.txt", "text");
     EXPECT_EQ(refusal(file), "8002 COM2 (" + file + ") is not a serial line.");
     EXPECT_EQ(refusal("").substr(0, 4), "8002");
 }
@@ -237,8 +237,8 @@ TEST(SerialLineRefusal, ALineThatAnotherProgramHasLocked) {
 
 TEST(SerialLineRefusal, ALineThatIsOpenUnderAnotherName) {
     const OpenLine port;
-    const std::string link = ::testing::TempDir() + "other-name";
-    std::remove(link.c_str());
+    const testing::TemporaryFolder folder;
+    const std::string link = folder.path("other-name");
     ASSERT_EQ(symlink(port.pty->path().c_str(), link.c_str()), 0);
     SerialLine first([&](int) { return port.pty->path(); });
     first.Settings("9600,N,8,1");

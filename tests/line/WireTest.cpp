@@ -5,6 +5,7 @@
 #include "LiveInstrument.h"
 #include "OpenLine.h"
 #include "platform/PortList.h"
+#include "support/Process.h"
 
 #include <array>
 #include <csignal>
@@ -165,8 +166,8 @@ TEST(Wire, AUserWhoWasKilledDoesNotLockTheOthersOut) {
 }
 
 TEST(Pty, LinksReplaceLinksAndNothingElse) {
-    const std::string link = ::testing::TempDir() + "line-link";
-    std::filesystem::remove(link);
+    const testing::TemporaryFolder folder;
+    const std::string link = folder.path("line-link");
     {
         sim::Pty first;
         first.link(link);
