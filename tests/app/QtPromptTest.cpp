@@ -88,6 +88,27 @@ TEST(QtPrompt, EnterTakesTheDefaultAnswer) {
     EXPECT_EQ(prompt.show({.text = "x", .buttons = Buttons::YesNo, .defaultAnswer = Answer::No}), Answer::No);
 }
 
+TEST(QtPrompt, TheDefaultAnswerHasTheFocusWhereverItStands) {
+    QtPrompt prompt;
+    // Enter goes to the button with the focus, which would be the first one.
+    const auto enter = [](MessageBox& box) {
+        auto* focused = dynamic_cast<QPushButton*>(box.focusWidget());
+        EXPECT_TRUE(focused && focused->isDefault());
+        if (focused)
+            QTest::keyClick(focused, Qt::Key_Return);
+        else
+            box.reject();
+    };
+    whenOpen<MessageBox>(enter);
+    EXPECT_EQ(prompt.show({.text = "x", .buttons = Buttons::YesNo, .defaultAnswer = Answer::No}), Answer::No);
+    whenOpen<MessageBox>(enter);
+    EXPECT_EQ(prompt.show({.text = "x", .buttons = Buttons::YesNo, .defaultAnswer = Answer::Yes}),
+              Answer::Yes);
+    whenOpen<MessageBox>(enter);
+    EXPECT_EQ(prompt.show({.text = "x", .buttons = Buttons::OkCancel, .defaultAnswer = Answer::Cancel}),
+              Answer::Cancel);
+}
+
 TEST(QtPrompt, InputIsPrefilledAndGivesTheText) {
     QtPrompt prompt;
     whenOpen<InputBox>([](InputBox& box) {

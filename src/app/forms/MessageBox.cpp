@@ -94,8 +94,11 @@ void MessageBox::addButtons(const Message& message, QLayout& layout) {
         if (!offers(message.buttons, kind.answer))
             continue;
         QPushButton* button = box->addButton(kind.button);
-        if (kind.answer == message.defaultAnswer || message.buttons == Buttons::Ok)
+        if (kind.answer == message.defaultAnswer || message.buttons == Buttons::Ok) {
             button->setDefault(true);
+            // The focus would go to the first button, and Enter with it.
+            button->setFocus();
+        }
         connect(button, &QPushButton::clicked, this, [this, kind] {
             answer_ = kind.answer;
             accept();
