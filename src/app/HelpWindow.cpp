@@ -154,7 +154,7 @@ void HelpWindow::go(const QUrl& url) {
         QDesktopServices::openUrl(url);
 }
 
-bool WinHelpA(QWidget& window, const QString& helpFile, QString* why) {
+bool WinHelpA(QWidget& window, const QString& helpFile, QString* why, const QString& page) {
     // A top-level window of its own that ends with the main window.
     auto* viewer = window.findChild<HelpWindow*>();
     if (!viewer) {
@@ -163,7 +163,9 @@ bool WinHelpA(QWidget& window, const QString& helpFile, QString* why) {
             return false;
         viewer = made.release();
         viewer->setParent(&window, Qt::Window);
-        viewer->showPage();
+        viewer->showPage(page);
+    } else if (!page.isEmpty()) {
+        viewer->showPage(page);
     }
     viewer->show();
     viewer->raise();

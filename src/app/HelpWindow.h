@@ -36,8 +36,8 @@ private:
     QTextBrowser* pages_;
 };
 
-// Opens the help file in its viewer, which is raised when it is there already. False after a message when the
-// file is missing or damaged.
-bool WinHelpA(QWidget& window, const QString& helpFile, QString* why);
+// Opens the help file in its viewer, which is raised when it is there already, at a page by its file name.
+// False with a message in `why` when the file is missing or damaged.
+bool WinHelpA(QWidget& window, const QString& helpFile, QString* why, const QString& page = {});
 
 } // namespace tally

@@ -49,7 +49,7 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent) {
     auto* sample = add(*down, QStringLiteral("startSample"), QStringLiteral("Open a sample recording"),
                        QStringLiteral("Four weeks of a feeder, to try things out."));
     auto* help = add(*down, QStringLiteral("startHelp"), QStringLiteral("Read the help"),
-                     QStringLiteral("F1 opens it at any time."));
+                     QStringLiteral("F1 opens it; in an open menu, at the page of that menu."));
     down->addStretch();
     connect(open, &QPushButton::clicked, this, &StartPage::openWanted);
     connect(download, &QPushButton::clicked, this, &StartPage::downloadWanted);

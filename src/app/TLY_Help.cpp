@@ -2,20 +2,42 @@
 #include "app/TLY_Help.h"
 
 #include "app/HelpWindow.h"
+#include "app/MenuHelp.h"
 #include "app/TLY.h"
 #include "app/forms/About.h"
 #include "app/forms/Words.h"
 
 #include <QCoreApplication>
+#include <QHash>
+#include <QMenuBar>
 
 namespace tally {
 
 TLY_Help::TLY_Help(TLY& window)
-    : window_(window), helpFile_(QCoreApplication::applicationDirPath() + QStringLiteral("/tallyhelp.hlp")) {}
+    : window_(window), helpFile_(QCoreApplication::applicationDirPath() + QStringLiteral("/tallyhelp.hlp")) {
+    new MenuHelp(
+        *window.menuBar(), [this](const QString& menu) { showMenu(menu); }, &window);
+}
 
 void TLY_Help::mnuItemHelp_Click() {
+    show({});
+}
+
+void TLY_Help::showMenu(const QString& menu) {
+    static const QHash<QString, QString> pages = {
+        {QStringLiteral("mnuFile"), QStringLiteral("file.html")},
+        {QStringLiteral("mnusurvey"), QStringLiteral("survey.html")},
+        {QStringLiteral("mnuEdit"), QStringLiteral("edit.html")},
+        {QStringLiteral("mnuView"), QStringLiteral("view.html")},
+        {QStringLiteral("mnuInstrument"), QStringLiteral("instrument.html")},
+        {QStringLiteral("mnuOptions"), QStringLiteral("options.html")},
+        {QStringLiteral("mnuHelp"), QStringLiteral("helpmenu.html")}};
+    show(pages.value(menu));
+}
+
+void TLY_Help::show(const QString& page) {
     QString why;
-    if (!WinHelpA(window_, helpFile_, &why))
+    if (!WinHelpA(window_, helpFile_, &why, page))
         window_.services().prompt.tell(why.toStdString());
 }
 

@@ -12,12 +12,16 @@ public:
     explicit TLY_Help(TLY& window);
 
     void mnuItemHelp_Click();
+    // The page of a menu, by the name of the menu.
+    void showMenu(const QString& menu);
     void mnuItemAbout_Click();
 
     // "tallyhelp.hlp" in the application's directory, unless it was set to another.
     void setHelpFile(const QString& path) { helpFile_ = path; }
 
 private:
+    void show(const QString& page);
+
     TLY& window_;
     QString helpFile_;
 };

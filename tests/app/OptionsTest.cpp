@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QListWidget>
+#include <QMenu>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -123,6 +124,33 @@ TEST_F(WindowTest, HelpOpensWithItsFirstPageAndHasOneForEachMenu) {
     for (const char* page : {"file", "survey", "edit", "view", "zoom", "instrument", "options", "helpmenu"}) {
         help->showPage(QString::fromLatin1(page) + QStringLiteral(".html"));
         EXPECT_GT(pages->toPlainText().size(), 100) << page;
+    }
+}
+
+TEST_F(WindowTest, F1InAnOpenMenuOpensThePageOfThatMenu) {
+    window.show();
+    const std::pair<const char*, const char*> pages[] = {{"mnuFile", "file.html"},
+                                                         {"mnuItemExportType", "file.html"},
+                                                         {"mnusurvey", "survey.html"},
+                                                         {"mnuEdit", "edit.html"},
+                                                         {"mnuView", "view.html"},
+                                                         {"pwrview", "view.html"},
+                                                         {"mnuInstrument", "instrument.html"},
+                                                         {"mnuOptions", "options.html"},
+                                                         {"mnuHelp", "helpmenu.html"}};
+    for (const auto& [name, page] : pages) {
+        auto* menu = window.findChild<QMenu*>(QString::fromLatin1(name));
+        ASSERT_NE(menu, nullptr) << name;
+        menu->popup(QPoint(10, 10));
+        QTest::keyClick(menu, Qt::Key_F1);
+        EXPECT_FALSE(menu->isVisible()) << name;
+        QCoreApplication::processEvents();
+        auto* help = window.findChild<HelpWindow*>();
+        ASSERT_NE(help, nullptr) << name;
+        EXPECT_EQ(
+            help->findChild<QTextBrowser*>(QStringLiteral("HelpPages"))->source().fileName().toStdString(),
+            page)
+            << name;
     }
 }
 
