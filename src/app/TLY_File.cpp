@@ -70,12 +70,12 @@ void TLY_File::openAll(const std::vector<std::string>& paths) {
     }
 }
 
-bool TLY_File::open(const std::string& path, std::string_view whenMissing) {
+bool TLY_File::open(const std::string& path, std::string_view whenClosed) {
     const Services& s = window_.services();
     const OpenOutcome outcome = Fileopen(s.recordings, s.files, path);
     if (outcome != OpenOutcome::opened) {
-        const bool missing = outcome == OpenOutcome::notFound && !whenMissing.empty();
-        s.prompt.tell(std::string(missing ? whenMissing : openMessage(outcome)));
+        const bool closed = outcome == OpenOutcome::notFound || outcome == OpenOutcome::cannotRead;
+        s.prompt.tell(std::string(closed && !whenClosed.empty() ? whenClosed : openMessage(outcome)));
         return false;
     }
     addRecentFile(s.settings, path);

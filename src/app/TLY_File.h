@@ -45,7 +45,7 @@ public:
     static std::string sample();
 
 private:
-    bool open(const std::string& path, std::string_view whenMissing = {});
+    bool open(const std::string& path, std::string_view whenClosed = {});
     ShownRange saveRange() const;
     void buildRange(const ShownRange& range);
     void opened();

@@ -66,6 +66,15 @@ OpenOutcome readInto(Recordings& recordings, const Files& files, const std::stri
     return OpenOutcome::opened;
 }
 
+OpenOutcome outcomeOf(int number) {
+    if (number == fault::fileNotFound().number() || number == fault::pathNotFound().number())
+        return OpenOutcome::notFound;
+    for (const Fault& why : {fault::permissionDenied(), fault::pathFileAccess(), fault::deviceIo()})
+        if (number == why.number())
+            return OpenOutcome::cannotRead;
+    return OpenOutcome::badFile;
+}
+
 } // namespace
 
 std::string_view openMessage(OpenOutcome outcome) {
@@ -78,6 +87,7 @@ std::string_view openMessage(OpenOutcome outcome) {
         return notVoltageText;
     case OpenOutcome::notFound:
         return notFoundText;
+    case OpenOutcome::cannotRead:
     case OpenOutcome::badFile:
         return badFileText;
     case OpenOutcome::slotsFull:
@@ -93,10 +103,7 @@ OpenOutcome Fileopen(Recordings& recordings, const Files& files, const std::stri
     try {
         return readInto(recordings, files, path, voltageOnly, slot);
     } catch (const Fault& fault) {
-        const int number = fault.number();
-        const bool missing =
-            number == fault::fileNotFound().number() || number == fault::pathNotFound().number();
-        return missing ? OpenOutcome::notFound : OpenOutcome::badFile;
+        return outcomeOf(fault.number());
     }
 }
 

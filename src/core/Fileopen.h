@@ -9,7 +9,9 @@
 
 namespace tally {
 
-enum class OpenOutcome { opened, modeMixing, notVoltage, notFound, badFile, slotsFull };
+// cannotRead: the file is there, but the system does not give it out; badFile: what stands in it is no
+// recording.
+enum class OpenOutcome { opened, modeMixing, notVoltage, notFound, cannotRead, badFile, slotsFull };
 
 // The text of the message box; empty for opened.
 std::string_view openMessage(OpenOutcome outcome);

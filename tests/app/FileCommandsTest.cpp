@@ -88,6 +88,22 @@ TEST_F(WindowTest, RecentEntryThatIsGoneIsSaidAndStays) {
     EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
 }
 
+TEST_F(WindowTest, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    click("mnuItemClose");
+    QAction* entry = window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0];
+    for (const Fault& why : {fault::permissionDenied(), fault::pathFileAccess(), fault::deviceIo()}) {
+        files.failRead = why;
+        entry->trigger();
+        EXPECT_EQ(prompt.shown.back().text, "File not found or disk error") << why.what();
+    }
+    files.failRead.reset();
+    files.contents["/d/1.dat"] = "rubbish";
+    entry->trigger();
+    EXPECT_EQ(prompt.shown.back().text, "Error in processing file");
+    EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
+}
+
 TEST_F(WindowTest, PathWithAnAmpersandIsShownAsItIs) {
     open("/d/R&D.dat", dataFile('a', fewReadings));
     EXPECT_EQ(window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->text(),
@@ -150,6 +166,28 @@ TEST_F(WindowTest, FailedSaveKeepsTheOldFileAndTheMenu) {
     click("mnuItemSave");
     EXPECT_THAT(prompt.texts(), ElementsAre("Error number 61: Disk full"));
     EXPECT_EQ(files.contents["/d/out.dat"], "old");
+    EXPECT_TRUE(enabled("mnuItemSave"));
+}
+
+TEST_F(WindowTest, SaveOverTheFileThatIsOpenKeepsItOpenAndReadable) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    const auto readings = recordings.gReadings[0];
+    prompt.files.push_back("/d/1.dat");
+    click("mnuItemSave");
+    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_EQ(recordings.info(0).path, "/d/1.dat");
+    EXPECT_EQ(recordings.gReadings[0], readings);
+    click("mnuItemClose");
+    open("/d/1.dat", std::string(files.contents["/d/1.dat"]));
+    EXPECT_EQ(recordings.gReadings[0], readings);
+}
+
+TEST_F(WindowTest, SaveInAFolderWithoutTheRightSaysSo) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    files.failWrite = fault::permissionDenied();
+    prompt.files.push_back("/readonly/out.dat");
+    click("mnuItemSave");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 70: Permission denied"));
     EXPECT_TRUE(enabled("mnuItemSave"));
 }
 
