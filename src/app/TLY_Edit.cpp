@@ -74,7 +74,8 @@ void TLY_Edit::mnuItemForceRdg_Click() {
         return;
     const Services& s = window_.services();
     const int readings = s.recordings.gdataend - s.recordings.gDatastart + 1;
-    ForceRdgs form(plain(lastValue_), std::to_string(readings), &window_);
+    const std::string file = isSlot(s.recordings.ginx) ? s.recordings.info(s.recordings.ginx).path : "";
+    ForceRdgs form(file, plain(lastValue_), std::to_string(readings), &window_);
     if (form.exec() != QDialog::Accepted)
         return;
     const ForceWhich which = form.leftmost()    ? ForceWhich::leftmost

@@ -31,13 +31,20 @@ EditNotes::EditNotes(const std::string& path, const std::array<std::string, 4>& 
         grid->addWidget(label, i + 1, 0);
         grid->addWidget(text, i + 1, 1, 1, 2);
     }
+    auto* hint =
+        new QLabel(QStringLiteral("A comma ends a note when the file is opened again: what follows it "
+                                  "moves into the next field."),
+                   this);
+    hint->setObjectName(QStringLiteral("commaHint"));
+    hint->setWordWrap(true);
+    grid->addWidget(hint, 5, 1, 1, 2);
     auto* save = new QPushButton(QStringLiteral("save"), this);
     save->setObjectName(QStringLiteral("Command1"));
     save->setDefault(true);
     auto* cancel = new QPushButton(QStringLiteral("cancel"), this);
     cancel->setObjectName(QStringLiteral("Command2"));
-    grid->addWidget(save, 5, 1);
-    grid->addWidget(cancel, 5, 2);
+    grid->addWidget(save, 6, 1);
+    grid->addWidget(cancel, 6, 2);
     connect(save, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     setMinimumWidth(480);

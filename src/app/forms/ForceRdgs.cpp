@@ -32,7 +32,8 @@ QRadioButton* option(const char* name, const QString& caption, QWidget* parent) 
 
 } // namespace
 
-ForceRdgs::ForceRdgs(const std::string& last, const std::string& range, QWidget* parent)
+ForceRdgs::ForceRdgs(const std::string& file, const std::string& last, const std::string& range,
+                     QWidget* parent)
     : QDialog(parent),
       value_(new QLineEdit(words(last), this)),
       all_(option("Option1", QStringLiteral("All Readings (%1)").arg(words(range)), this)),
@@ -42,6 +43,10 @@ ForceRdgs::ForceRdgs(const std::string& last, const std::string& range, QWidget*
     setWindowTitle(QStringLiteral("Force Readings"));
     auto* what = label("Label1", instruction, this);
     what->setWordWrap(true);
+    auto* which = new QLabel(words(file), this);
+    which->setObjectName(QStringLiteral("file"));
+    which->setTextFormat(Qt::PlainText);
+    which->setWordWrap(true);
     auto* desired = label("Label2", "Desired value:", this);
     desired->setBuddy(value_);
     value_->setObjectName(QStringLiteral("Text1"));
@@ -55,14 +60,15 @@ ForceRdgs::ForceRdgs(const std::string& last, const std::string& range, QWidget*
     cancel->setObjectName(QStringLiteral("Command2"));
     auto* grid = new QGridLayout(this);
     grid->addWidget(what, 0, 0, 1, 3);
-    grid->addWidget(desired, 1, 0);
-    grid->addWidget(value_, 1, 1);
-    grid->addWidget(label("Label3", "No. of readings to change:", this), 2, 0, Qt::AlignTop);
-    grid->addWidget(all_, 2, 1, 1, 2);
-    grid->addWidget(left_, 3, 1, 1, 2);
-    grid->addWidget(right_, 4, 1, 1, 2);
-    grid->addWidget(ok, 5, 1);
-    grid->addWidget(cancel, 5, 2);
+    grid->addWidget(which, 1, 0, 1, 3);
+    grid->addWidget(desired, 2, 0);
+    grid->addWidget(value_, 2, 1);
+    grid->addWidget(label("Label3", "No. of readings to change:", this), 3, 0, Qt::AlignTop);
+    grid->addWidget(all_, 3, 1, 1, 2);
+    grid->addWidget(left_, 4, 1, 1, 2);
+    grid->addWidget(right_, 5, 1, 1, 2);
+    grid->addWidget(ok, 6, 1);
+    grid->addWidget(cancel, 6, 2);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     value_->setFocus();

@@ -14,8 +14,10 @@ class ForceRdgs : public QDialog {
     Q_OBJECT
 
 public:
-    // `last` is the value entered last, as plain text; `range` names the readings of the range.
-    ForceRdgs(const std::string& last, const std::string& range, QWidget* parent = nullptr);
+    // `file` is the path of the file that is changed, `last` the value entered last, as plain text; `range`
+    // names the readings of the range.
+    ForceRdgs(const std::string& file, const std::string& last, const std::string& range,
+              QWidget* parent = nullptr);
 
     std::string value() const;
     bool leftmost() const;
