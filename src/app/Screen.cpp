@@ -2,6 +2,7 @@
 #include "app/Screen.h"
 
 #include "app/StartPage.h"
+#include "app/forms/ElidedLabel.h"
 #include "app/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"
@@ -21,10 +22,9 @@ QLabel* layOut(QWidget* page, QToolBar* bar, QWidget* view, const QString& label
     auto* down = new QVBoxLayout(page);
     down->setContentsMargins(0, 0, 0, 0);
     down->setSpacing(0);
-    auto* gap = new QWidget(bar);
-    gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    bar->addWidget(gap);
-    auto* label = new QLabel(bar);
+    // Long names must not push buttons off the line.
+    auto* label = new ElidedLabel(bar);
+    label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     label->setObjectName(labelName);
     label->setContentsMargins(8, 0, 8, 0);
     bar->addWidget(label);
