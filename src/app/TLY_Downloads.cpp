@@ -20,6 +20,22 @@ namespace {
 constexpr std::size_t mostNotices = 3;
 const QString problemKey = QStringLiteral("journal");
 
+// Instruments end their lines with CR LF, LF CR or one of them alone; shown, each is one line end.
+std::string shownLines(const std::string& text) {
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c != '\r' && c != '\n') {
+            lines += c;
+            continue;
+        }
+        lines += '\n';
+        if (i + 1 < text.size() && text[i + 1] == (c == '\r' ? '\n' : '\r'))
+            ++i;
+    }
+    return lines;
+}
+
 } // namespace
 
 void TLY_Downloads::take(std::optional<PendingDownload> accepted) {
@@ -62,7 +78,8 @@ void TLY_Downloads::notice(const JournalEntry& entry) {
 
 void TLY_Downloads::show(const JournalEntry& entry) {
     const Services& s = window_.services();
-    window_.screen().showText({}, toUtf8(s.link.journal.text(entry.id)), "a reception that is not saved");
+    window_.screen().showText({}, toUtf8(shownLines(s.link.journal.text(entry.id))),
+                              "a reception that is not saved");
     s.display.viewKind = ViewKind::none;
     window_.status().remark(words(receptionText(entry)));
     window_.menus().apply(MenuEvent::textShown);

@@ -57,7 +57,15 @@ void TLY_Instrument::session(const std::function<void()>& run) {
         return;
     const MenusOff off(window_);
     run();
+    sayProblem();
     window_.activateWindow();
+}
+
+// What made a port invalid; the message boxes of the commands do not name it.
+void TLY_Instrument::sayProblem() {
+    const std::string problem = window_.services().link.line.problem();
+    if (!problem.empty())
+        window_.status().remark(lines(problem));
 }
 
 void TLY_Instrument::mnuItemDownload_Click() {
@@ -84,6 +92,7 @@ void TLY_Instrument::mnuItemStatusCheck_Click() {
 void TLY_Instrument::mnuItemPortSelect_Click() {
     const Services& s = window_.services();
     runPortSel(&window_, s.link.instrument, s.link.line, s.settings, s.prompt, s.link.ports);
+    sayProblem();
     window_.activateWindow();
 }
 

@@ -24,6 +24,7 @@ public:
 private:
     // Runs a session: a type is chosen first, the menus are off meanwhile.
     void session(const std::function<void()>& run);
+    void sayProblem();
 
     TLY& window_;
     SessionContext context_;

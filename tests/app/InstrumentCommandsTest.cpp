@@ -150,6 +150,7 @@ TEST_F(InstrumentTest, InterruptedReceptionIsOfferedAtTheNextStart) {
     EXPECT_FALSE(noticeOf("1").isEmpty());
     press("Show");
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("PQXa   1234"));
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("128 129\n 120"));
     press("Validate");
     EXPECT_EQ(journal.receptions[0].state, JournalState::accepted);
     EXPECT_TRUE(enabled("mnuItemSave"));
@@ -202,6 +203,16 @@ TEST_F(InstrumentTest, PortIsReadAtStartUpAndChosenInItsDialog) {
     });
     click("mnuItemPortSelect");
     EXPECT_EQ(settings.get("Comm", "TLY.MSComm1.CommPort"), "8");
+}
+
+TEST_F(InstrumentTest, StatusLineSaysWhyAPortIsNotValid) {
+    line.failOpen = Fault(8005, "Port already open");
+    line.openProblem = "COM1 (/dev/ttyS0) is in use by another program.";
+    instrument.instSelection = 4;
+    click("mnuItemDownload");
+    EXPECT_THAT(prompt.texts(),
+                ElementsAre("Communication port not valid.\r\nTry selecting a different COM port"));
+    EXPECT_EQ(remark(), QStringLiteral("COM1 (/dev/ttyS0) is in use by another program."));
 }
 
 TEST_F(InstrumentTest, JournalThatCannotBeWrittenIsSaid) {

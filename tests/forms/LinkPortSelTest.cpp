@@ -6,8 +6,8 @@
 
 #include <QGroupBox>
 #include <QMenu>
+#include <QPushButton>
 #include <QRadioButton>
-#include <QToolButton>
 
 namespace tally {
 namespace {
@@ -83,6 +83,12 @@ TEST_F(PortSelForm, AListedDeviceIsAssignedByItsButtonAndChecked) {
     EXPECT_EQ(labelText(form, "Device5"), "/tmp/sim (simulated instrument): free");
     EXPECT_EQ(devicePath(5, settings), "/tmp/sim");
     EXPECT_EQ(form.checked(), 5);
+}
+
+TEST_F(PortSelForm, ALineSaysThatAssignLeadsToTheSimulatedInstrumentToo) {
+    const PortSel form(1, catalogue, settings, nullptr);
+    EXPECT_EQ(labelText(form, "Hint"),
+              "Assign puts another device behind a port: an adapter, or the simulated instrument.");
 }
 
 TEST_F(PortSelForm, TheMenuOffersTheUsualDeviceAndTheListedOnes) {

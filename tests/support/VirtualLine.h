@@ -28,6 +28,7 @@ public:
     std::vector<Call> calls;
     std::string written;                                         // all that was sent to the instrument
     std::optional<Fault> failOpen;                               // thrown by openings ...
+    std::string openProblem;                                     // why it could not be opened
     int goodOpenings = 0;                                        // ... after so many good ones
     std::function<void(const std::string& settings)> onOpen;     // the cable's other end sees the port open
     std::function<void(const std::string& characters)> onOutput; // ... or receives
@@ -115,7 +116,7 @@ public:
         if (onOutput)
             onOutput(std::string(characters));
     }
-    std::string problem() const override { return lost_ ? "COM1: the line went away" : ""; }
+    std::string problem() const override { return lost_ ? "COM1: the line went away" : openProblem; }
 
 private:
     void note(const std::string& what) { calls.push_back({waiter_.now(), what}); }

@@ -8,7 +8,6 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace tally {
@@ -44,8 +43,11 @@ PortSel::PortSel(int commPort, const PortCatalogue& catalogue, Settings& setting
     buttons->addStretch(1);
     buttons->addWidget(ok);
     buttons->addWidget(cancel);
+    QLabel* hint = namedLabel(QStringLiteral("Hint"));
+    hint->setText(tr("Assign puts another device behind a port: an adapter, or the simulated instrument."));
     auto* down = new QVBoxLayout(this);
     down->addWidget(frame);
+    down->addWidget(hint);
     down->addLayout(buttons);
     showStates();
 }
@@ -57,12 +59,12 @@ void PortSel::addRow(int commPort, QGridLayout& grid) {
     row.option = new QRadioButton(QString::fromLatin1(captions.at(std::size_t(commPort - 1))));
     row.option->setObjectName(QStringLiteral("Option") + number);
     row.state = namedLabel(QStringLiteral("Device") + number);
-    row.assign = new QToolButton;
+    row.assign = new QPushButton;
     row.assign->setObjectName(QStringLiteral("Assign") + number);
     row.assign->setText(tr("Assign"));
     row.assign->setAccessibleName(tr("Assign a device to Com%1").arg(commPort));
     row.assign->setToolTip(row.assign->accessibleName());
-    row.assign->setPopupMode(QToolButton::InstantPopup);
+    row.assign->setAutoDefault(false);
     auto* menu = new QMenu(row.assign);
     menu->setObjectName(QStringLiteral("Devices") + number);
     row.assign->setMenu(menu);

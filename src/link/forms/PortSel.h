@@ -8,8 +8,8 @@
 
 class QGridLayout;
 class QLabel;
+class QPushButton;
 class QRadioButton;
-class QToolButton;
 
 namespace tally {
 
@@ -30,7 +30,7 @@ private:
     struct Row {
         QRadioButton* option = nullptr;
         QLabel* state = nullptr;
-        QToolButton* assign = nullptr;
+        QPushButton* assign = nullptr;
         std::string before; // device when the dialog opened
     };
 
