@@ -132,6 +132,8 @@ TEST_F(KillTest, thePortOpensAgainAfterAKill) {
     Background first(bin + "/tallyline-cli", download(sim, "first.dat"));
     std::this_thread::sleep_for(std::chrono::milliseconds(40));
     first.end(SIGKILL);
+    // The simulated instrument takes a killed user's exclusive use back after a moment.
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
     Background second(bin + "/tallyline-cli", download(sim, "second.dat"));
     EXPECT_EQ(second.status(), 0);
     EXPECT_EQ(TemporaryFolder::read(folder.path("second.dat")), "\"" + whole + "\"\r\n");
