@@ -8,7 +8,16 @@ namespace tally {
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
-    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+// No width of its own: a line of buttons drops what wants more than is left.
+QSize ElidedLabel::sizeHint() const {
+    return {0, QLabel::sizeHint().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const {
+    return sizeHint();
 }
 
 bool ElidedLabel::event(QEvent* event) {
