@@ -111,6 +111,18 @@ TEST_F(EditTest, LastValueIsOfferedAgain) {
     EXPECT_EQ(recordings.gReadings[0][4], 125);
 }
 
+TEST_F(EditTest, TheDialogNamesTheFileAndCountsItsRange) {
+    openZoomed();
+    whenOpen<ForceRdgs>([](ForceRdgs& form) {
+        EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("file"))->text(), QStringLiteral("/d/a.dat"));
+        EXPECT_EQ(form.findChild<QRadioButton*>(QStringLiteral("Option1"))->text(),
+                  QStringLiteral("All Readings (4)"));
+        press(form, "Command2");
+    });
+    click("mnuItemForceRdg");
+    EXPECT_TRUE(changed().empty());
+}
+
 struct Bound {
     bool low;
     const char* value;
