@@ -100,6 +100,13 @@ TEST(PaperText, AFormFeedBeginsAPage) {
     EXPECT_TRUE(pages[1].contains(QStringLiteral("second")));
 }
 
+TEST(PaperText, TheNameOfTheDocumentIsItsTitleWithoutTheFill) {
+    const TextReport report{"LOAD REPORT" + std::string(40, ' ') + "Jan 02, 2024\r\nmore", "", "text", "",
+                            ""};
+    const QString boxes = readPdf(pdfOfText(report), {QStringLiteral("-bbox")});
+    EXPECT_THAT(boxes.toStdString(), HasSubstr("<title>LOAD REPORT Jan 02, 2024</title>"));
+}
+
 TEST(PaperText, AnEmptyReportIsOnePage) {
     const QString text = readPdf(pdfOfText({}), {});
     EXPECT_TRUE(text.contains(QStringLiteral("Page 1 of 1")));

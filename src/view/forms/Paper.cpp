@@ -128,7 +128,7 @@ void prepare(QPrinter& printer, const QString& name, QPageLayout::Orientation or
 
 QString jobName(const TextReport& report) {
     return report.title.empty() ? QStringLiteral("Tallyline")
-                                : QString::fromStdString(report.title).section(u'\n', 0, 0).trimmed();
+                                : QString::fromStdString(report.title).section(u'\n', 0, 0).simplified();
 }
 
 // A preview paints on a device of its own; a print from the preview arrives with the real one.
