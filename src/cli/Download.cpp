@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
 #include "cli/InstrumentLink.h"
-#include "cli/OpenFiles.h"
-#include "core/SaveText.h"
 #include "link/DownloadSession.h"
 
 #include <QDir>
@@ -28,13 +26,7 @@ int download(Context& context, const DownloadOptions& options) {
     DownloadSession session(link.session, waitFor(*options.wait));
     if (!session.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString()))
         return link.refused();
-    const auto pending = session.DownLoadProc();
-    if (!pending)
-        return link.refused();
-    writeFile(context, options.output, tally::quoted(pending->text));
-    if (!pending->id.empty())
-        link.journal.mark(pending->id, JournalState::saved);
-    return status::done;
+    return link.keep(session.DownLoadProc(), options.output);
 }
 
 } // namespace

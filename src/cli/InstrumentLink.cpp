@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/InstrumentLink.h"
 
+#include "cli/OpenFiles.h"
+#include "core/SaveText.h"
 #include "link/Instruments.h"
 #include "link/PortChoice.h"
 #include "link/Rescue.h"
@@ -139,6 +141,15 @@ int InstrumentLink::refused() {
     else if (!line.problem().empty() && !prompt.told(line.problem()))
         context_.warn(line.problem());
     return status::refused;
+}
+
+int InstrumentLink::keep(const std::optional<PendingDownload>& received, const std::string& path) {
+    if (!received)
+        return refused();
+    writeFile(context_, path, tally::quoted(received->text));
+    if (!received->id.empty())
+        journal.mark(received->id, JournalState::saved);
+    return status::done;
 }
 
 } // namespace tally::cli

@@ -3,6 +3,7 @@
 
 #include "cli/Command.h"
 #include "core/Prompt.h"
+#include "link/DownloadSession.h"
 #include "link/InstrumentState.h"
 #include "link/Session.h"
 #include "platform/JournalFolder.h"
@@ -12,6 +13,7 @@
 #include "platform/SimulatedInstrument.h"
 
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -105,6 +107,9 @@ public:
 
     // The exit status of a refused call, after saying what the line or Ctrl+C had to do with it.
     int refused();
+    // The end of a call that receives a recording: writes the file and notes in the journal that it is saved,
+    // or says why there is none. Gives the exit status; throws Refused when the file cannot be written.
+    int keep(const std::optional<PendingDownload>& received, const std::string& path);
 
     SimulatedInstrument simulated;
     SerialLine line;

@@ -2,8 +2,6 @@
 #include "control/Recover.h"
 #include "cli/Commands.h"
 #include "cli/InstrumentLink.h"
-#include "cli/OpenFiles.h"
-#include "core/SaveText.h"
 #include "platform/Folders.h"
 
 namespace tally::cli {
@@ -20,13 +18,7 @@ int recover(Context& context, const RecoverOptions& options) {
     RecoverSession session(link.session);
     if (!session.mnuItemRecover_Click())
         return link.refused();
-    const auto pending = session.RecoverProc(context.files(), folders::recoverFile());
-    if (!pending)
-        return link.refused();
-    writeFile(context, options.output, tally::quoted(pending->text));
-    if (!pending->id.empty())
-        link.journal.mark(pending->id, JournalState::saved);
-    return status::done;
+    return link.keep(session.RecoverProc(context.files(), folders::recoverFile()), options.output);
 }
 
 } // namespace
