@@ -22,16 +22,6 @@
 
 namespace {
 
-// Where the recover command reads its text back from: never a folder that others can write to.
-std::string temporaryFile() {
-#ifdef Q_OS_WIN
-    return "c:\\temp.dat";
-#else
-    tally::folders::make(tally::folders::cache());
-    return tally::folders::cache() + "/temp.dat";
-#endif
-}
-
 struct Arguments {
     std::vector<std::string> files;
     bool plot = false;
@@ -90,7 +80,7 @@ struct Link {
                                  ports,
                                  [this] { waiter.cancel(); },
                                  QDir::currentPath().toStdString(),
-                                 temporaryFile()};
+                                 tally::folders::recoverFile()};
 };
 
 } // namespace
@@ -118,10 +108,14 @@ int main(int argc, char** argv) {
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });
     QObject::connect(&window, &tally::TLY::firstFrame, &splash, &QWidget::close);
-    if (arguments.quitAfterFirstFrame)
-        QObject::connect(&window, &tally::TLY::firstFrame, &application, &QCoreApplication::quit);
     window.show();
-    if (!arguments.files.empty())
-        QTimer::singleShot(0, &window, [&] { window.openFiles(arguments.files, arguments.plot); });
+    QTimer::singleShot(0, &window, [&] {
+        if (!arguments.files.empty())
+            window.openFiles(arguments.files, arguments.plot);
+        if (arguments.quitAfterFirstFrame) {
+            window.repaint();
+            QCoreApplication::quit();
+        }
+    });
     return QApplication::exec();
 }
