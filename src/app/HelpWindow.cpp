@@ -15,6 +15,7 @@
 #include <QHelpSearchResultWidget>
 #include <QSplitter>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -41,19 +42,6 @@ private:
     QHelpEngine& engine_;
 };
 
-// Qt keeps what it knows of a help file in a collection; in the per-user folder, else in a temporary one.
-std::unique_ptr<QHelpEngine> openCollection() {
-    for (const QString& folder : {QString::fromStdString(folders::data()), QDir::tempPath()}) {
-        QDir().mkpath(folder);
-        auto engine = std::make_unique<QHelpEngine>(folder + QStringLiteral("/help.qhc"));
-        engine->setReadOnly(false);
-        engine->setUsesFilterEngine(true);
-        if (engine->setupData())
-            return engine;
-    }
-    return nullptr;
-}
-
 bool registerFile(QHelpEngine& engine, const QString& helpFile, const QString& nameSpace) {
     const QString known = engine.documentationFileName(nameSpace);
     if (!known.isEmpty() && QFileInfo(known) == QFileInfo(helpFile))
@@ -61,6 +49,17 @@ bool registerFile(QHelpEngine& engine, const QString& helpFile, const QString& n
     if (!known.isEmpty())
         engine.unregisterDocumentation(nameSpace);
     return engine.registerDocumentation(helpFile);
+}
+
+// Qt keeps what it knows of a help file in a collection. Null when the folder takes none.
+std::unique_ptr<QHelpEngine> openCollection(const QString& folder, const QString& helpFile,
+                                            const QString& nameSpace) {
+    auto engine = std::make_unique<QHelpEngine>(folder + QStringLiteral("/help.qhc"));
+    engine->setReadOnly(false);
+    engine->setUsesFilterEngine(true);
+    if (!engine->setupData() || !registerFile(*engine, helpFile, nameSpace))
+        return nullptr;
+    return engine;
 }
 
 } // namespace
@@ -71,18 +70,31 @@ std::unique_ptr<HelpWindow> HelpWindow::make(const QString& helpFile, QString* w
         return nullptr;
     }
     const QString nameSpace = QHelpEngineCore::namespaceName(helpFile);
-    auto engine = nameSpace.isEmpty() ? nullptr : openCollection();
-    if (!engine || !registerFile(*engine, helpFile, nameSpace)) {
+    // In the per-user folder; where that cannot be written to, or another Tallyline is just making it, in one
+    // of its own.
+    const QString folder = QString::fromStdString(folders::data());
+    QDir().mkpath(folder);
+    std::unique_ptr<QTemporaryDir> own;
+    auto engine = nameSpace.isEmpty() ? nullptr : openCollection(folder, helpFile, nameSpace);
+    if (!engine && !nameSpace.isEmpty()) {
+        own = std::make_unique<QTemporaryDir>();
+        engine = openCollection(own->path(), helpFile, nameSpace);
+    }
+    if (!engine) {
         *why = nameSpace.isEmpty() ? QStringLiteral("The help file is damaged:\n")
                                    : QStringLiteral("The help file cannot be opened:\n");
         *why += QDir::toNativeSeparators(helpFile);
         return nullptr;
     }
-    return std::unique_ptr<HelpWindow>(new HelpWindow(std::move(engine), nameSpace));
+    return std::unique_ptr<HelpWindow>(new HelpWindow(std::move(own), std::move(engine), nameSpace));
 }
 
-HelpWindow::HelpWindow(std::unique_ptr<QHelpEngine> engine, const QString& nameSpace)
-    : engine_(std::move(engine)), nameSpace_(nameSpace), pages_(new Pages(*engine_, this)) {
+HelpWindow::HelpWindow(std::unique_ptr<QTemporaryDir> own, std::unique_ptr<QHelpEngine> engine,
+                       const QString& nameSpace)
+    : own_(std::move(own)),
+      engine_(std::move(engine)),
+      nameSpace_(nameSpace),
+      pages_(new Pages(*engine_, this)) {
     setObjectName(QStringLiteral("HelpWindow"));
     setWindowTitle(QStringLiteral("Tallyline Help"));
     pages_->setObjectName(QStringLiteral("HelpPages"));

@@ -5,6 +5,7 @@
 #include <memory>
 
 class QHelpEngine;
+class QTemporaryDir;
 class QTabWidget;
 class QTextBrowser;
 class QUrl;
@@ -24,13 +25,15 @@ public:
     void showPage(const QString& page = {});
 
 private:
-    HelpWindow(std::unique_ptr<QHelpEngine> engine, const QString& nameSpace);
+    HelpWindow(std::unique_ptr<QTemporaryDir> own, std::unique_ptr<QHelpEngine> engine,
+               const QString& nameSpace);
 
     void addContents(QTabWidget& side);
     void addSearch(QTabWidget& side);
     void addButtons();
     void go(const QUrl& url);
 
+    std::unique_ptr<QTemporaryDir> own_; // the collection's folder where the per-user one cannot be used
     std::unique_ptr<QHelpEngine> engine_;
     QString nameSpace_;
     QTextBrowser* pages_;
