@@ -3,9 +3,16 @@
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
+    # Paths are taken relative to the source tree: a second clone then finds what the first one compiled.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        ${CCACHE_PROGRAM})
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+endif()
+
+# lld links the test programs in a fraction of the default linker's time.
+find_program(LLD_PROGRAM ld.lld)
+if(LLD_PROGRAM)
+    add_link_options(-fuse-ld=lld)
 endif()
 
 add_library(tally_flags INTERFACE)

@@ -39,8 +39,6 @@ function(tally_tests name)
     endif()
     add_executable(${name}_tests ${sources})
     target_link_libraries(${name}_tests PRIVATE ${arg_LINK} tally_test_support GTest::gmock)
-    target_compile_definitions(${name}_tests PRIVATE
-        TALLY_SOURCE_DIR="${CMAKE_SOURCE_DIR}" TALLY_BIN_DIR="${CMAKE_RUNTIME_OUTPUT_DIRECTORY}")
     if(arg_QT)
         set_target_properties(${name}_tests PROPERTIES AUTOMOC ON)
         target_link_libraries(${name}_tests PRIVATE tally_qt_flags tally_qt_test_main Qt6::Widgets Qt6::Test)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "platform/SafeFile.h"
+#include "support/Places.h"
 
 #include <QDir>
 #include <QProcess>
@@ -29,7 +30,7 @@ protected:
         environment.insert(QStringLiteral("XDG_DATA_HOME"), home.filePath(QStringLiteral("data")));
         environment.insert(QStringLiteral("XDG_CACHE_HOME"), home.filePath(QStringLiteral("cache")));
         program.setProcessEnvironment(environment);
-        program.start(QStringLiteral(TALLY_BIN_DIR "/tallyline"), arguments);
+        program.start(QString::fromStdString(::testing::binDir() + "/tallyline"), arguments);
         if (!program.waitForFinished(30000))
             return -1;
         output = program.readAllStandardOutput().toStdString();
@@ -39,7 +40,7 @@ protected:
 };
 
 TEST_F(ProgramTest, OpensAFileOfTheCommandLineAndKeepsItInTheRecentList) {
-    const QString file = QStringLiteral(TALLY_SOURCE_DIR "/samples/feeder-15min.dat");
+    const QString file = QString::fromStdString(::testing::sourceDir() + "/samples/feeder-15min.dat");
     EXPECT_EQ(run({QStringLiteral("--quit-after-first-frame"), QStringLiteral("--plot"), file}), 0);
     EXPECT_THAT(files.read(settings(), 10000), HasSubstr("mrufile1=" + file.toStdString()));
 }

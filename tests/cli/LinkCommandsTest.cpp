@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The commands on an instrument against tallyline-sim, both as processes.
 #include "support/Background.h"
+#include "support/Places.h"
 #include "support/Process.h"
 
 #include <gtest/gtest.h>
@@ -33,7 +34,7 @@ struct LinkCommands : ::testing::Test {
     BackgroundInstrument instrument(std::vector<std::string> options) {
         for (const char* option : {"--clock", "03-15-24 14:05"})
             options.push_back(option);
-        return BackgroundInstrument(TALLY_BIN_DIR, options);
+        return BackgroundInstrument(::testing::binDir(), options);
     }
     Finished download(const BackgroundInstrument& sim, std::vector<std::string> more = {},
                       const std::string& type = "7") const {
@@ -227,7 +228,7 @@ TEST_F(LinkCommands, aSimulatedInstrumentBehindAComPortIsStarted) {
 
 TEST_F(LinkCommands, interruptIsCancel) {
     const auto sim = instrument({"--fault", "silent"});
-    testing::Background cli(std::string(TALLY_BIN_DIR) + "/tallyline-cli",
+    testing::Background cli(::testing::binDir() + "/tallyline-cli",
                             {"download", "--port", sim.device(), "--type", "7", "-o", out});
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
     EXPECT_EQ(cli.end(SIGINT), 1);

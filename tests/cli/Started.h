@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "support/Places.h"
+
 #include <array>
 #include <csignal>
 #include <poll.h>
@@ -24,7 +26,7 @@ public:
         if (child_ == 0) {
             dup2(ends[1], STDOUT_FILENO);
             dup2(ends[1], STDERR_FILENO);
-            const std::string path = std::string(TALLY_BIN_DIR) + "/" + program;
+            const std::string path = ::testing::binDir() + "/" + program;
             std::vector<char*> argv = {const_cast<char*>(path.c_str())};
             for (const auto& argument : arguments)
                 argv.push_back(const_cast<char*>(argument.c_str()));

@@ -3,6 +3,7 @@
 #include "core/Fileopen.h"
 #include "core/SaveText.h"
 #include "support/MemoryFiles.h"
+#include "support/Places.h"
 
 #include <gtest/gtest.h>
 
@@ -29,8 +30,8 @@ public:
     void write(const std::string&, const std::string&) override { throw fault::permissionDenied(); }
 };
 
-const std::string data = std::string(TALLY_SOURCE_DIR) + "/tests/data/";
-const std::string samples = std::string(TALLY_SOURCE_DIR) + "/samples/";
+const std::string data = ::testing::sourceDir() + "/tests/data/";
+const std::string samples = ::testing::sourceDir() + "/samples/";
 
 class GoldenFiles : public ::testing::TestWithParam<const char*> {};
 

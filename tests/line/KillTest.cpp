@@ -5,6 +5,7 @@
 #include "platform/JournalFolder.h"
 #include "platform/SafeFile.h"
 #include "support/Background.h"
+#include "support/Places.h"
 #include "support/Process.h"
 
 #include <chrono>
@@ -23,7 +24,7 @@ using testing::Background;
 using testing::BackgroundInstrument;
 using testing::TemporaryFolder;
 
-const std::string bin = TALLY_BIN_DIR;
+const std::string bin = ::testing::binDir();
 
 struct KillTest : ::testing::Test {
     TemporaryFolder folder;

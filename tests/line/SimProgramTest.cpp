@@ -2,6 +2,7 @@
 #include "OpenLine.h"
 #include "platform/PortList.h"
 #include "platform/SimulatedInstrument.h"
+#include "support/Places.h"
 
 #include <QFile>
 #include <QProcess>
@@ -18,7 +19,7 @@ struct Program {
     QProcess process;
 
     explicit Program(const QStringList& arguments) {
-        process.start(QStringLiteral(TALLY_BIN_DIR "/tallyline-sim"), arguments);
+        process.start(QString::fromStdString(::testing::binDir() + "/tallyline-sim"), arguments);
     }
     ~Program() {
         process.kill();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "support/Process.h"
 
+#include "support/Places.h"
+
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -49,7 +51,7 @@ bool collect(int out, int err, Finished& finished) {
                          int err) {
     dup2(out, STDOUT_FILENO);
     dup2(err, STDERR_FILENO);
-    const std::string path = std::string(TALLY_BIN_DIR) + "/" + program;
+    const std::string path = ::testing::binDir() + "/" + program;
     std::vector<char*> argv = {const_cast<char*>(path.c_str())};
     for (const auto& argument : arguments)
         argv.push_back(const_cast<char*>(argument.c_str()));
