@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/TimeAxis.h"
+
+#include "core/ModeTable.h"
+
+#include <algorithm>
+
+namespace tally {
+
+namespace {
+
+// The entries of one file.
+struct Stretch {
+    ReadingTime start;
+    std::int64_t entries = 0;
+    int firstReading = 0;
+
+    ReadingTime end(int interval) const { return start + entries * interval; }
+};
+
+Stretch wholeFile(const FileFacts& info, int stride) {
+    const int firstReading = info.count % stride;
+    return {timeOf(info, firstReading), info.count / stride, firstReading};
+}
+
+// Only the entries that the range touches.
+Stretch narrowed(const Stretch& whole, const IndexRange& range, int stride, int interval) {
+    const auto entryOf = [&](int reading) { return std::max(reading - whole.firstReading, 0) / stride; };
+    const std::int64_t from = entryOf(range.first);
+    const std::int64_t past = range.last < whole.firstReading
+                                  ? from
+                                  : std::min<std::int64_t>(entryOf(range.last) + 1, whole.entries);
+    return {whole.start + from * interval, std::max<std::int64_t>(past - from, 0),
+            whole.firstReading + static_cast<int>(from) * stride};
+}
+
+std::string unitWord(const FileFacts& info) {
+    return info.unit() == 'V' ? "volts" : "amps";
+}
+
+std::string spanText(const Stretch& stretch, int interval) {
+    return screenTime(stretch.start) + " to " + screenTime(stretch.end(interval) - interval);
+}
+
+// Why a file cannot stand beside the first one.
+std::optional<Refusal> misfit(const FileFacts& first, const FileFacts& other) {
+    const ModeRow& mode = modeRow(first.modeLetter);
+    if (other.unit() != first.unit())
+        return Refusal{axisOtherUnit, other.path,
+                       "It holds " + unitWord(other) + ", " + first.path + " " + unitWord(first) + "."};
+    if (modeRow(other.modeLetter).minutes != mode.minutes ||
+        valuesPerInterval(other.modeLetter) != valuesPerInterval(first.modeLetter))
+        return Refusal{axisOtherInterval, other.path, {}};
+    return {};
+}
+
+Refusal nothingCommon(const FileFacts& info, const Stretch& first, const Stretch& other, int interval) {
+    return {axisNothingCommon, info.path,
+            "It runs from " + spanText(other, interval) + ", the first from " + spanText(first, interval) +
+                "."};
+}
+
+// Cuts the common stretch down to what another file has of it; why it has nothing, or cannot have.
+std::optional<Refusal> cutTo(const FileFacts& info, const Stretch& other, const Stretch& ofFirst,
+                             int interval, Stretch& common) {
+    if (other.entries == 0)
+        return Refusal{axisNoTriple, info.path, {}};
+    if ((other.start.minutes - ofFirst.start.minutes) % interval != 0)
+        return Refusal{axisOffset, info.path,
+                       "It starts at " + screenTime(other.start) + ", the first at " +
+                           screenTime(ofFirst.start) + ", and readings are " + std::to_string(interval) +
+                           " minutes apart."};
+    const ReadingTime end = std::min(common.end(interval), other.end(interval));
+    common.start = std::max(common.start, other.start);
+    if (end <= common.start)
+        return nothingCommon(info, ofFirst, other, interval);
+    common.entries = (end.minutes - common.start.minutes) / interval;
+    return {};
+}
+
+} // namespace
+
+Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<IndexRange> range) {
+    const FileFacts& info = files.front();
+    const int interval = modeRow(info.modeLetter).minutes;
+    const int stride = valuesPerInterval(info.modeLetter);
+    Stretch common = wholeFile(info, stride);
+    if (range)
+        common = narrowed(common, *range, stride, interval);
+    if (common.entries == 0)
+        return refuse(axisNoTriple, info.path);
+    const Stretch ofFirst = common;
+    for (std::size_t i = 1; i < files.size(); ++i) {
+        auto refusal = misfit(info, files[i]);
+        if (!refusal)
+            refusal = cutTo(files[i], wholeFile(files[i], stride), ofFirst, interval, common);
+        if (refusal)
+            return tl::make_unexpected(std::move(*refusal));
+    }
+    TimeAxis axis{common.start, interval, static_cast<int>(common.entries), stride, {}};
+    for (const FileFacts& file : files) {
+        const Stretch whole = wholeFile(file, stride);
+        const auto entry = (common.start.minutes - whole.start.minutes) / interval;
+        axis.first.push_back(whole.firstReading + static_cast<int>(entry) * stride);
+    }
+    return axis;
+}
+
+Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<IndexRange> range) {
+    const auto begin = recordings.gInfo.begin();
+    return timeAxis(std::vector<FileFacts>(begin, begin + recordings.openCount()), range);
+}
+
+} // namespace tally
