@@ -71,15 +71,14 @@ void orderTriples(std::vector<std::int16_t>& readings) {
 }
 
 // The time of reading 0. The header time is that of the newest reading, or lies in the interval after it.
-ReadingTime startTime(FileFacts facts) {
-    facts.start = facts.headerTime;
-    if (facts.form == 'T')
-        return timeOf(facts, -facts.count);
+ReadingTime startTime(const FileFacts& facts) {
     const int interval = modeRow(facts.modeLetter).minutes;
+    const int intervals = intervalsOf(facts);
+    if (facts.form == 'T')
+        return facts.headerTime - std::int64_t{interval} * intervals;
     const int minute = toCivil(facts.headerTime).minute;
-    if (minute % interval != 0)
-        facts.start = facts.headerTime + (interval * (minute / interval + 1) - minute);
-    return timeOf(facts, -(static_cast<std::int64_t>(facts.count) + 1));
+    const int upward = minute % interval == 0 ? 0 : interval * (minute / interval + 1) - minute;
+    return facts.headerTime + upward - std::int64_t{interval} * (intervals + 1);
 }
 
 Recording makeRecording(const DataHeader& header, ReadingTime time, char form, bool low, DataItems items) {

@@ -42,11 +42,17 @@ void Recordings::closeAll() {
     ginx = noFile;
 }
 
+int intervalsOf(const FileFacts& info) {
+    const int k = valuesPerInterval(info.modeLetter);
+    return (info.count + k - 1) / k;
+}
+
 ReadingTime timeOf(const FileFacts& info, std::int64_t index) {
     const std::int64_t k = valuesPerInterval(info.modeLetter);
-    // Division that rounds down also before reading 0, so that a triple shares its time there too.
-    const std::int64_t intervals = index >= 0 ? index / k : -((-index + k - 1) / k);
-    return info.start + modeRow(info.modeLetter).minutes * intervals;
+    const std::int64_t newer = info.count - 1 - index;
+    // Division that rounds down also behind the newest reading, so that a triple shares its time there too.
+    const std::int64_t back = newer >= 0 ? newer / k : -((-newer + k - 1) / k);
+    return info.start + modeRow(info.modeLetter).minutes * (intervalsOf(info) - 1 - back);
 }
 
 void CalcDate(Recordings& recordings) {

@@ -71,7 +71,11 @@ struct Recordings {
     void closeAll();
 };
 
-// The time of a reading: start + Int(index / values per interval) intervals; the index may be negative.
+// Intervals of a file: of a Min/Max/Avg recording the triples, counted from the newest reading; what is over
+// at the oldest end is an interval of its own.
+int intervalsOf(const FileFacts& info);
+
+// The time of the interval that a reading belongs to; the index may lie outside the file.
 ReadingTime timeOf(const FileFacts& info, std::int64_t index);
 
 // Leaves the time of reading gDateX of slot ginx in gText, as "hh:mm  MMM dd, yy".

@@ -10,7 +10,7 @@
 namespace tally {
 
 std::string axisLabel(const Plot& plot, const FileFacts& info, int point) {
-    const ReadingTime time = intervalTime(info, plot.firstEntry + plot.entriesPerPoint * point);
+    const ReadingTime time = timeOf(info, plot.firstEntry + plot.entriesPerPoint * point);
     // Minutes of an hour are whole intervals: moving each time back is moving the first one back.
     return formatTime(time - toCivil(time).minute % modeRow(info.modeLetter).minutes, "%b %d %H:%M");
 }

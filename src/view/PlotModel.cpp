@@ -134,7 +134,7 @@ ReadOut readOut(const Recordings& recordings, const Plot& plot, int point, int s
     const int entry = plot.firstEntry + plot.entriesPerPoint * point;
     const float value = plot.series[static_cast<std::size_t>(series)].values[static_cast<std::size_t>(point)];
     const std::string unit = plot.yTitle == "KW" ? " KW" : plot.yTitle == "VOLTS" ? " V" : " A";
-    return {screenTime(intervalTime(recordings.info(0), entry)), Format(value, "##0.0") + unit};
+    return {screenTime(timeOf(recordings.info(0), entry)), Format(value, "##0.0") + unit};
 }
 
 } // namespace tally

@@ -44,8 +44,8 @@ std::string sourceText(const Recordings& recordings, const ShownRange& range, do
     const FileFacts& info = recordings.info(0);
     const PowerScale scale = scaleOf(recordings, volts);
     return "Power of " + openNames(recordings) + " at " + plain(scale.kilovolts) + " KV, power factor " +
-           plain(scale.factor) + ", " + screenTime(intervalTime(info, range.first)) + " to " +
-           screenTime(intervalTime(info, range.last));
+           plain(scale.factor) + ", " + screenTime(timeOf(info, range.first)) + " to " +
+           screenTime(timeOf(info, range.last));
 }
 
 Plot powerPlot(const Recordings& recordings, const DisplayState& state, const ShownRange& range, double volts,

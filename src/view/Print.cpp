@@ -42,7 +42,7 @@ std::string Print(Recordings& recordings, const DisplayState& state) {
     const int intervalsPerLine = layout.perLine / valuesPerInterval(info.modeLetter);
     const int minutesPerLine = modeRow(info.modeLetter).minutes * intervalsPerLine;
     tableText(recordings.gTable, present(recordings, slot, range), layout, !info.low,
-              {intervalTime(info, range.first), minutesPerLine});
+              {timeOf(info, range.first), minutesPerLine});
     if (!state.spanApplied)
         recordings.gdataend = info.count - 1;
     return std::string(layout.heading);

@@ -17,8 +17,8 @@ constexpr std::size_t valuesField = 29;
 std::string selectedLines(const Recordings& recordings, const DisplayState& state, int slot) {
     const FileFacts& info = recordings.info(slot);
     const ShownRange range = shownRange(recordings, state, slot);
-    return "           Selected:       Start  " + screenTime(intervalTime(info, range.first)) +
-           "                   Finish  " + screenTime(intervalTime(info, range.last)) + "\r\n" +
+    return "           Selected:       Start  " + screenTime(timeOf(info, range.first)) +
+           "                   Finish  " + screenTime(timeOf(info, range.last)) + "\r\n" +
            "                                   Min      " + Format(state.extremeMin / 10.0, "###0.0") +
            "           " + "                                 max       " +
            Format(state.extremeMax / 10.0, "###0.0") + "\r\n";

@@ -33,7 +33,7 @@ std::string Printpwr(Recordings& recordings, const DisplayState& state) {
     const TableLayout& layout = layoutOf(info.modeLetter);
     // The values belong to the range that the power plot was drawn over, whatever is displayed now.
     tableText(recordings.gTable, state.power, layout, !info.low,
-              {intervalTime(info, state.powerFirst), modeRow(info.modeLetter).minutes * layout.perLine});
+              {timeOf(info, state.powerFirst), modeRow(info.modeLetter).minutes * layout.perLine});
     return std::string(layout.heading);
 }
 

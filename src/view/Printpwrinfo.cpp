@@ -34,8 +34,8 @@ std::string selectedLines(const Recordings& recordings, const DisplayState& stat
                           const std::string& max) {
     const FileFacts& info = recordings.info(0);
     const int last = state.powerFirst + static_cast<int>(state.power.size()) - 1;
-    return "Selected:       Start  " + screenTime(intervalTime(info, state.powerFirst)) +
-           "                Finish  " + screenTime(intervalTime(info, last)) + "\r\n" + " Min " + min +
+    return "Selected:       Start  " + screenTime(timeOf(info, state.powerFirst)) +
+           "                Finish  " + screenTime(timeOf(info, last)) + "\r\n" + " Min " + min +
            "                                      max  " + max + "\r\n";
 }
 

@@ -57,11 +57,6 @@ std::optional<ShownRange> wholeTriples(const Recordings& recordings, int slot, i
     return entriesOf(info, firstInterval, intervalOf(info, to) - firstInterval + 1);
 }
 
-ReadingTime intervalTime(const FileFacts& info, int entry) {
-    const int k = valuesPerInterval(info.modeLetter);
-    return timeOf(info, firstWhole(info) + std::int64_t{k} * intervalOf(info, entry) + (k - 1));
-}
-
 std::string fileNameOf(const std::string& path) {
     return path.substr(path.find_last_of("/\\") + 1);
 }

@@ -34,10 +34,6 @@ ShownRange sameIntervals(const Recordings& recordings, const ShownRange& ofFirst
 // turned round or no whole triple is in it.
 std::optional<ShownRange> wholeTriples(const Recordings& recordings, int slot, int from, int to);
 
-// The time of the interval that an entry belongs to: the entries of a triple share the time of the last one,
-// since the newest end is what the file's time is about.
-ReadingTime intervalTime(const FileFacts& info, int entry);
-
 // The name part of a path ("a/b.dat" gives "b.dat").
 std::string fileNameOf(const std::string& path);
 

@@ -13,8 +13,8 @@ void setSpan(const Recordings& recordings, DisplayState& state, int first, int l
     const FileFacts& info = recordings.info(0);
     state.spanStart = first;
     state.spanEnd = last;
-    state.spanStartTime = intervalTime(info, first);
-    state.spanEndTime = intervalTime(info, last);
+    state.spanStartTime = timeOf(info, first);
+    state.spanEndTime = timeOf(info, last);
 }
 
 // First entry of a point, the point clamped to the plot.

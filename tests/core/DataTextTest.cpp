@@ -178,6 +178,22 @@ TEST(DataText, MinMaxAvgCountsIntervals) {
     EXPECT_EQ(startOf({'g', "03-15-99 10:30"}, "   1   2   3   4   5   6"), "09:45  Mar 15, 99");
 }
 
+TEST(DataText, ReadingsOverAtTheOldestEndAreAnIntervalBeforeTheFirstTriple) {
+    // Two whole triples end at 10:00 as six readings do; they begin at 09:45, what is over at 09:30.
+    for (const char* readings : {"   1   2   3   4   5   6   7", "   1   2   3   4   5   6   7   8"}) {
+        const FileFacts facts = good(dataFile({'g', "03-15-99 10:30"}, readings)).facts;
+        EXPECT_EQ(screenTime(facts.start), "09:30  Mar 15, 99");
+        const int newest = facts.count - 1;
+        for (const int back : {0, 1, 2})
+            EXPECT_EQ(screenTime(timeOf(facts, newest - back)), "10:00  Mar 15, 99") << back;
+        for (const int back : {3, 4, 5})
+            EXPECT_EQ(screenTime(timeOf(facts, newest - back)), "09:45  Mar 15, 99") << back;
+        for (int i = 0; i < newest - 5; ++i)
+            EXPECT_EQ(screenTime(timeOf(facts, i)), "09:30  Mar 15, 99") << i;
+    }
+    EXPECT_EQ(startOf({'g', "03-15-99 10:30"}, "T:   1   2   3   4   5   6   7"), "09:45  Mar 15, 99");
+}
+
 TEST(DataText, AFormTFileStartsOneIntervalLaterAndIsNotMoved) {
     EXPECT_EQ(startOf({'a', "03-15-99 10:07"}, "T:   1   2   3"), "09:22  Mar 15, 99");
     EXPECT_EQ(startOf({'g', "03-15-99 10:30"}, "T:   1   2   3   4   5   6"), "10:00  Mar 15, 99");

@@ -130,18 +130,18 @@ TEST(ShownRange, TriplesShareTheirTime) {
     addFile(recordings, "g.dat", ramp(9), {.letter = 'g'});
     const FileFacts& info = recordings.info(0);
     for (int entry = 0; entry < 9; ++entry)
-        EXPECT_EQ(intervalTime(info, entry).minutes, info.start.minutes + 15 * (entry / 3));
+        EXPECT_EQ(timeOf(info, entry).minutes, info.start.minutes + 15 * (entry / 3));
 }
 
-// The file's time belongs to its newest reading: the newest triple has the time of that reading.
-TEST(ShownRange, OddOldestEntriesDoNotMoveTheNewestTriple) {
-    for (const int count : {9, 10, 11}) {
+TEST(ShownRange, OddOldestEntriesAreAnIntervalBeforeTheFirstTriple) {
+    for (const int odd : {1, 2}) {
         Recordings recordings;
-        addFile(recordings, "g.dat", ramp(count), {.letter = 'g'});
+        addFile(recordings, "g.dat", ramp(9 + odd), {.letter = 'g'});
         const FileFacts& info = recordings.info(0);
-        EXPECT_EQ(intervalTime(info, count - 3), timeOf(info, count - 1));
-        EXPECT_EQ(intervalTime(info, count - 1), timeOf(info, count - 1));
-        EXPECT_EQ(intervalTime(info, count - 4), timeOf(info, count - 1) - 15);
+        for (int entry = 0; entry < odd; ++entry)
+            EXPECT_EQ(timeOf(info, entry), info.start);
+        for (int entry = 0; entry < 9; ++entry)
+            EXPECT_EQ(timeOf(info, odd + entry), info.start + 15 * (1 + entry / 3));
     }
 }
 
