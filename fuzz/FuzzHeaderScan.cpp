@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Fuzz.h"
 
+#include "core/Header.h"
 #include "link/HeaderScan.h"
 
 #include <string>

@@ -2,6 +2,7 @@
 #include "Fuzz.h"
 
 #include "core/Fault.h"
+#include "core/Header.h"
 #include "link/InformationReport.h"
 #include "link/ReceivedText.h"
 #include "link/StatusHeader.h"

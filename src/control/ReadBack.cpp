@@ -2,6 +2,7 @@
 #include "control/ReadBack.h"
 
 #include "core/Fault.h"
+#include "core/Header.h"
 #include "core/ModeTable.h"
 #include "core/ReadingTime.h"
 #include "core/Text1252.h"
@@ -12,11 +13,6 @@ const char* const blankModeText = "HVN 40 or 80 only have 15 min average, contin
 const char* const anotherQuestion = " Do you want to do another?     \r";
 
 namespace {
-
-// `length` characters from a column on, counted from 1; fewer where the answer ends.
-std::string_view field(std::string_view answer, std::size_t column, std::size_t length) {
-    return answer.size() < column ? std::string_view() : answer.substr(column - 1, length);
-}
 
 std::string displayTime(std::string_view clock) {
     const auto time = parseHeaderTime(clock);
@@ -34,7 +30,7 @@ std::string code(std::string_view letters) {
 
 ReadBack readBack(std::string_view answer) {
     answer = answer.substr(0, answer.find('\x1a'));
-    const std::string_view mode = field(answer, 4, 1);
+    const std::string_view mode = headerField(answer, column::mode);
     if (mode.empty())
         throw fault::subscript();
     ReadBack result;
@@ -44,12 +40,13 @@ ReadBack readBack(std::string_view answer) {
     const std::string minutes = row.minutes == 0 ? "" : std::to_string(row.minutes);
     result.report = "Initialization complete. New settings as read back from instrument:\r\n\r\n"
                     " Type: " +
-                    code(field(answer, 1, 3)) + "           Serial Number " + toUtf8(field(answer, 8, 4)) +
+                    code(headerField(answer, column::model)) + "           Serial Number " +
+                    toUtf8(headerField(answer, column::serial)) +
                     "\r Mode setting:     " + (isMinMaxAvg(letter) ? "Min/Max/Avg  " : "  Average    ") +
                     std::string(row.whenFull) + "     " + minutes +
                     "  min interval\r"
                     " Time                     " +
-                    displayTime(field(answer, 31, 14)) +
+                    displayTime(headerField(answer, column::time)) +
                     "\r\r"
                     "       RETURN THE SWITCH TO 'STANDBY'   \r"
                     "           OR REMOVE THE CABLE NOW       \r\r";

@@ -3,9 +3,9 @@
 
 #include "core/DataText.h"
 #include "core/Fault.h"
+#include "core/Header.h"
 #include "core/ModeTable.h"
 #include "core/Recordings.h"
-#include "link/HeaderScan.h"
 
 #include <algorithm>
 #include <variant>
@@ -13,10 +13,6 @@
 namespace tally {
 
 namespace {
-
-constexpr std::size_t modeOffset = 3;
-constexpr std::size_t timeOffset = 30;
-constexpr std::size_t timeLength = 14;
 
 std::size_t startOf(std::string_view text) {
     const auto found = std::find_if(text.begin(), text.end(), isFamilyInitial);
@@ -31,11 +27,10 @@ std::optional<char> recoverCharacter(std::string_view text, std::size_t offset) 
 }
 
 RecoverHeader recoverHeader(std::string_view text) {
-    const auto letter = recoverCharacter(text, modeOffset);
+    const auto letter = recoverCharacter(text, column::mode.at);
     if (!letter || !isMode(lowerCase(*letter)))
         throw fault::subscript();
-    const std::size_t column = std::min(startOf(text) + timeOffset, text.size());
-    const auto start = parseHeaderTime(text.substr(column, timeLength));
+    const auto start = parseHeaderTime(headerField(text.substr(startOf(text)), column::time));
     if (!start)
         throw fault::typeMismatch();
     return {lowerCase(*letter), *start};
@@ -68,7 +63,7 @@ ReadingTime stopTime(const RecoverHeader& header, int readings) {
 
 RecoveredText recoverText(std::string text, const RecoverHeader& header, int readings) {
     const ReadingTime stopped = stopTime(header, readings);
-    text.replace(startOf(text) + timeOffset, timeLength, headerTime(stopped));
+    text.replace(startOf(text) + column::time.at, column::time.length, headerTime(stopped));
     return {std::move(text), header.start, stopped, readings};
 }
 

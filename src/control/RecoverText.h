@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Header.h"
 #include "core/ReadingTime.h"
 
 #include <cstddef>
@@ -11,8 +12,8 @@
 namespace tally {
 
 // Offsets from the start of the recording, which is offset 0.
-constexpr std::size_t recoverTypeOffset = 2;
-constexpr std::size_t recoverMarkOffset = 46; // "T" when the instrument can be recovered
+constexpr std::size_t recoverTypeOffset = column::type.at;
+constexpr std::size_t recoverMarkOffset = column::afterBrief.at; // "T" when the instrument can be recovered
 
 // The character at an offset from the start of the recording; nothing when the text ends before it, or no
 // recording begins.

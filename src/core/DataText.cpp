@@ -2,6 +2,7 @@
 #include "core/DataText.h"
 
 #include "core/DataItems.h"
+#include "core/Header.h"
 #include "core/ModeTable.h"
 
 #include <algorithm>
@@ -11,30 +12,6 @@
 namespace tally {
 
 namespace {
-
-// Columns of the header, counted from 0.
-constexpr std::size_t typeColumn = 2;
-constexpr std::size_t modeColumn = 3;
-constexpr std::size_t serialColumn = 7;
-constexpr std::size_t serialLength = 4;
-constexpr std::size_t timeColumn = 30;
-constexpr std::size_t timeLength = 14;
-constexpr std::size_t batteryColumn = 44;
-constexpr std::size_t olderTimeColumn = 46;
-constexpr std::string_view batteryText = "   Vbatt";
-constexpr std::size_t longestWithoutBattery = 51;
-
-// In the older layout the time stands further right; it is moved to where it stands now. False when the
-// header ends before it does.
-bool repairOlderLayout(std::string& header) {
-    if (header.size() <= longestWithoutBattery ||
-        std::string_view(header).substr(batteryColumn, batteryText.size()) == batteryText)
-        return true;
-    if (header.size() < olderTimeColumn + timeLength)
-        return false;
-    header.replace(timeColumn, timeLength, header.substr(olderTimeColumn, timeLength));
-    return true;
-}
 
 bool isLineBreak(char c) {
     return c == '\r' || c == '\n';
@@ -86,7 +63,7 @@ Recording makeRecording(const DataHeader& header, ReadingTime time, char form, b
     FileFacts& facts = recording.facts;
     facts.modeLetter = header.modeLetter;
     facts.typeLetter = header.typeLetter;
-    facts.serial = header.text.substr(serialColumn, serialLength);
+    facts.serial = headerField(header.text, column::serial);
     facts.header = header.text;
     facts.headerTime = time;
     facts.form = form;
@@ -105,7 +82,7 @@ Recording makeRecording(const DataHeader& header, ReadingTime time, char form, b
 } // namespace
 
 std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes) {
-    const auto begin = bytes.find_first_of("HPK");
+    const auto begin = bytes.find_first_of(familyInitials);
     if (begin == std::string_view::npos)
         return DataRefusal::noHeader;
     const auto end = bytes.find_first_of("\r\n\x1a", begin);
@@ -117,11 +94,10 @@ std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes) {
     header.end = end + 1;
     if (header.end < bytes.size() && bytes[header.end] == '\n')
         ++header.end;
-    if (header.text.size() <= modeColumn)
+    if (header.text.size() < column::mode.end())
         return DataRefusal::badMode;
-    header.typeLetter = header.text[typeColumn];
-    const char mode = header.text[modeColumn];
-    header.modeLetter = mode == ' ' ? 'a' : lowerCase(mode);
+    header.typeLetter = header.text[column::type.at];
+    header.modeLetter = modeLetterOf(header.text);
     if (!isMode(header.modeLetter))
         return DataRefusal::badMode;
     if (!repairOlderLayout(header.text))
@@ -134,9 +110,7 @@ std::variant<Recording, DataRefusal> readDataText(std::string_view bytes, bool c
     if (const auto* refusal = std::get_if<DataRefusal>(&found))
         return *refusal;
     const auto& header = std::get<DataHeader>(found);
-    if (header.text.size() < timeColumn + timeLength)
-        return DataRefusal::badTime;
-    const auto time = parseHeaderTime(std::string_view(header.text).substr(timeColumn, timeLength));
+    const auto time = parseHeaderTime(headerField(header.text, column::time));
     if (!time)
         return DataRefusal::badTime;
 

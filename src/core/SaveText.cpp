@@ -3,6 +3,7 @@
 
 #include "core/DataItems.h"
 #include "core/Fault.h"
+#include "core/Header.h"
 #include "core/ModeTable.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::string_view leadingBreaks = "\r\n\n\n";
 constexpr std::string_view formItem = "T: ";
-constexpr std::size_t timeColumn = 30;
 constexpr int valuesPerLine = 10;
 
 struct Range {
@@ -68,11 +68,11 @@ std::string buildDataText(const Recordings& recordings) {
     const Range range = rangeToSave(recordings, info);
     const auto& readings = recordings.gReadings.at(static_cast<std::size_t>(recordings.ginx));
 
-    const std::string time = headerTime(timeOf(info, range.last));
+    std::string header = info.header;
+    putTime(header, column::time, timeOf(info, range.last));
     std::string text(leadingBreaks);
     text.reserve(static_cast<std::size_t>(range.last - range.first + 1) * 6 + 200);
-    text += info.header;
-    text.replace(leadingBreaks.size() + timeColumn, time.size(), time);
+    text += header;
     text += '\r';
     if (info.form == 'T')
         text += formItem;

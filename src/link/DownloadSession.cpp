@@ -2,6 +2,7 @@
 #include "link/DownloadSession.h"
 
 #include "core/Fault.h"
+#include "core/Header.h"
 #include "link/FieldDate.h"
 #include "link/InformationReport.h"
 #include "link/PromptTexts.h"

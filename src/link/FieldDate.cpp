@@ -2,6 +2,7 @@
 #include "link/FieldDate.h"
 
 #include "core/DataText.h"
+#include "core/Header.h"
 #include "core/ModeTable.h"
 #include "link/ReceivedText.h"
 

@@ -1,14 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/HeaderScan.h"
 
+#include "core/Header.h"
 #include "core/ModeTable.h"
 
 namespace tally {
-
-bool isFamilyInitial(char c) {
-    const char upper = upperCase(c);
-    return upper == 'P' || upper == 'H' || upper == 'K';
-}
 
 char HeaderScan::feed(char c) {
     ++count_;

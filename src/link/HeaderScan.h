@@ -6,11 +6,8 @@
 
 namespace tally {
 
-// Whether a character, in either case, begins a model code: "P", "H" or "K".
-bool isFamilyInitial(char c);
-
 // Finds the start of a recording in what an instrument sends, character by character. Knows neither time nor
-// line; the one place of the header rules for download, status check, initialisation and recover.
+// line; the one place of this for download, status check, initialisation and recover.
 class HeaderScan {
 public:
     enum class Token { pending, valid, wrong };

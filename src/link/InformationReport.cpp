@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/InformationReport.h"
 
+#include "core/Header.h"
 #include "core/ModeTable.h"
 #include "core/Text1252.h"
 #include "link/ReceivedText.h"
@@ -27,8 +28,8 @@ std::string informationReport(std::string_view gText, const std::optional<Recove
                               std::optional<std::int64_t> clockDifference) {
     const std::string header = headerOf(gText);
     const char letter = modeLetterOf(header);
-    std::string text = std::string(title) + "\r\n\r\nType: " + toUtf8(header.substr(0, 3)) + "     Ser. " +
-                       (header.size() > 7 ? toUtf8(header.substr(7, 4)) : std::string()) +
+    std::string text = std::string(title) + "\r\n\r\nType: " + toUtf8(headerField(header, column::model)) +
+                       "     Ser. " + toUtf8(headerField(header, column::serial)) +
                        "\r\nMode:  " + (isMinMaxAvg(letter) ? "Min/Max/Avg " : "Average ") +
                        std::to_string(modeRow(letter).minutes) + " min interval\r\n";
     if (recovered) {

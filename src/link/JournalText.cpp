@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/JournalText.h"
 
+#include "core/Header.h"
 #include "link/ReceivedText.h"
 
 #include <array>
@@ -102,8 +103,8 @@ void describe(JournalEntry& entry, std::string_view characters) {
     if (!upperCaseModel(text))
         return;
     const std::string header = headerOf(text);
-    entry.model = header.substr(0, 3);
-    entry.serial = header.size() > 7 ? header.substr(7, 4) : std::string();
+    entry.model = headerField(header, column::model);
+    entry.serial = headerField(header, column::serial);
 }
 
 } // namespace tally

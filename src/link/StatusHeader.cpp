@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/StatusHeader.h"
 
+#include "core/Header.h"
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
 #include "core/Text1252.h"
-#include "link/ReceivedText.h"
-
-#include <charconv>
 #include <string_view>
 
 namespace tally {
 
 namespace {
-
-constexpr std::size_t modeAt = 3;
-constexpr std::size_t serialAt = 7;
-constexpr std::size_t labelAt = 47;
-constexpr std::size_t batteryAt = 53;
-constexpr double voltsPerStep = 0.003656;
-constexpr double voltsAtZero = 0.15;
-
-// As much of a field as the line has.
-std::string_view field(std::string_view line, std::size_t at, std::size_t length) {
-    return at < line.size() ? line.substr(at, length) : std::string_view();
-}
 
 bool isLetter(char c) {
     return upperCase(c) >= 'A' && upperCase(c) <= 'Z';
@@ -44,35 +30,24 @@ void readMode(char c, StatusFields& fields) {
     fields.whenFull = row.whenFull;
 }
 
-std::optional<double> readBattery(std::string_view line) {
-    if (field(line, labelAt, 5) != "Vbatt")
-        return {};
-    const std::string_view digits = field(line, batteryAt, 3);
-    unsigned value = 0;
-    const auto end = digits.data() + digits.size();
-    if (digits.size() < 3 || std::from_chars(digits.data(), end, value, 16).ptr != end)
-        return {};
-    return value * voltsPerStep + voltsAtZero;
-}
-
 } // namespace
 
 std::optional<StatusFields> readStatusHeader(const std::string& line1, bool lowBattery) {
-    if (line1.size() <= modeAt)
+    if (line1.size() < column::mode.end())
         return {};
     StatusFields fields;
-    for (const char c : line1.substr(0, 3))
+    for (const char c : headerField(line1, column::model))
         fields.type += upperCase(c);
     fields.type = toUtf8(fields.type);
-    fields.serial = toUtf8(field(line1, serialAt, 4));
-    readMode(line1[modeAt], fields);
+    fields.serial = toUtf8(headerField(line1, column::serial));
+    readMode(line1[column::mode.at], fields);
     if (const auto time = timeOf(line1)) {
         fields.timeOn = screenTime(*time);
         fields.timeOnHeader = headerTime(*time);
     } else {
-        fields.timeOn = toUtf8(field(line1, timeColumn(line1), 14));
+        fields.timeOn = toUtf8(headerField(line1, timeField(line1)));
     }
-    fields.vbatt = readBattery(line1);
+    fields.vbatt = batteryVolts(line1);
     fields.lowBattery = lowBattery;
     return fields;
 }

@@ -2,6 +2,7 @@
 #include "link/ReceivedText.h"
 
 #include "LinkBench.h"
+#include "core/Header.h"
 
 #include <gtest/gtest.h>
 
@@ -38,33 +39,6 @@ TEST(ReceivedTextTest, theHeaderGoesFromItsInitialToTheEndOfItsLine) {
     EXPECT_EQ(headerOf("KWTa\x1a"), "KWTa");
     EXPECT_EQ(headerOf("..PQ"), "PQ");
     EXPECT_EQ(headerOf("...\r"), "");
-}
-
-TEST(ReceivedTextTest, theModeLetterIsLoweredAndABlankIsA) {
-    EXPECT_EQ(modeLetterOf("KWTH"), 'h');
-    EXPECT_EQ(modeLetterOf("KWTc"), 'c');
-    EXPECT_EQ(modeLetterOf("HVN "), 'a');
-    EXPECT_EQ(modeLetterOf("HVN"), 'a');
-    EXPECT_TRUE(isRunning("KWTc"));
-    EXPECT_FALSE(isRunning("KWTC"));
-    EXPECT_FALSE(isRunning("KWT "));
-    EXPECT_FALSE(isRunning("KWT"));
-}
-
-TEST(ReceivedTextTest, theTimeStandsFurtherRightInTheOlderLayout) {
-    EXPECT_EQ(timeColumn(header()), 30U);
-    EXPECT_EQ(timeColumn(header().substr(0, 51)), 30U);
-    EXPECT_EQ(timeColumn(olderHeader), 46U);
-    EXPECT_EQ(timeOf(header()), toReadingTime({2024, 3, 15, 14, 5}));
-    EXPECT_EQ(timeOf(olderHeader), toReadingTime({1999, 3, 15, 10, 7}));
-}
-
-TEST(ReceivedTextTest, aFieldThatIsNoTimeOrNotThereGivesNothing) {
-    EXPECT_EQ(timeOf(header("KWT", 'A', "13-15-24 14:05")), std::nullopt);
-    EXPECT_EQ(timeOf(header("KWT", 'A', "              ")), std::nullopt);
-    EXPECT_EQ(timeOf(header().substr(0, 43)), std::nullopt);
-    EXPECT_EQ(timeOf("KWTA"), std::nullopt);
-    EXPECT_EQ(timeOf(""), std::nullopt);
 }
 
 TEST(ReceivedTextTest, aTimeIsWrittenWhereItsHeaderHasIt) {
