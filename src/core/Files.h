@@ -6,7 +6,7 @@
 
 namespace tally {
 
-// The file system as logic sees it. Paths are UTF-8, contents are bytes.
+// The file system as logic sees it. Paths and contents are bytes.
 class Files {
 public:
     virtual ~Files() = default;

@@ -2,104 +2,95 @@
 #include "platform/SafeFile.h"
 
 #include "core/Fault.h"
+#include "platform/ReplaceFile.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
+#include <QtGlobal>
+
+#ifndef Q_OS_WIN
+
+#include "platform/Descriptor.h"
+
 #include <algorithm>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
 
 namespace tally {
 
 namespace {
 
-Fault openFault(const QFileInfo& file, QFileDevice::FileError error) {
-    if (file.isDir())
-        return fault::pathFileAccess();
-    if (!file.dir().exists())
-        return fault::pathNotFound();
-    if (error == QFileDevice::ResourceError)
-        return fault::diskFull();
-    // An existing file without the right to write is a WriteError, a folder without it an OpenError.
-    const bool mayWrite = QFileInfo(file.path()).isWritable() && (!file.exists() || file.isWritable());
-    if (error == QFileDevice::PermissionsError || !mayWrite)
+constexpr std::size_t mostAtOnce = 65536;
+
+// The path without links and ways around; empty when it leads nowhere.
+std::string canonical(const std::string& path) {
+    const auto freeIt = [](char* text) { std::free(text); };
+    const std::unique_ptr<char, decltype(freeIt)> found(realpath(path.c_str(), nullptr), freeIt);
+    return found ? std::string(found.get()) : std::string();
+}
+
+Fault readFault(int error) {
+    switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+        return fault::fileNotFound();
+    case EACCES:
+    case EPERM:
         return fault::permissionDenied();
-    return fault::pathFileAccess();
-}
-
-Fault writeFault(QFileDevice::FileError error) {
-    return error == QFileDevice::ResourceError ? fault::diskFull() : fault::deviceIo();
-}
-
-// Gives how much was written. What a disk still takes before it is full is no error yet; the next write is.
-qint64 writeAll(QSaveFile& file, const std::string& bytes) {
-    const auto size = static_cast<qint64>(bytes.size());
-    qint64 written = 0;
-    while (written < size) {
-        const qint64 more = file.write(bytes.data() + written, size - written);
-        if (more <= 0)
-            break;
-        written += more;
+    case EIO:
+        return fault::deviceIo();
+    default:
+        return fault::pathFileAccess();
     }
-    return written;
 }
 
 } // namespace
 
 bool SafeFile::exists(const std::string& path) const {
-    return !path.empty() && QFileInfo::exists(QString::fromStdString(path));
+    struct stat facts = {};
+    return !path.empty() && stat(path.c_str(), &facts) == 0;
 }
 
 bool SafeFile::same(const std::string& path, const std::string& other) const {
     if (path == other)
         return true;
-    const QString found = QFileInfo(QString::fromStdString(path)).canonicalFilePath();
-    return !found.isEmpty() && found == QFileInfo(QString::fromStdString(other)).canonicalFilePath();
+    const std::string found = canonical(path);
+    return !found.empty() && found == canonical(other);
 }
 
 std::string SafeFile::read(const std::string& path, std::uint64_t most) const {
-    const QFileInfo info(QString::fromStdString(path));
-    if (path.empty() || !info.exists())
-        throw fault::fileNotFound();
-    if (!info.isFile())
-        throw fault::pathFileAccess();
-    QFile file(info.filePath());
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) {
-        if (file.error() == QFileDevice::PermissionsError || !info.isReadable())
-            throw fault::permissionDenied();
-        throw info.exists() ? fault::pathFileAccess() : fault::fileNotFound();
-    }
-    std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(
-                          most, static_cast<std::uint64_t>(std::max<qint64>(file.size(), 0)))),
-                      '\0');
-    const qint64 got = file.read(bytes.data(), static_cast<qint64>(bytes.size()));
-    if (got < 0)
+    // Without waiting: a pipe would wait for its writer.
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isOpen())
+        throw readFault(errno);
+    struct stat facts = {};
+    if (fstat(file.get(), &facts) != 0)
         throw fault::deviceIo();
-    bytes.resize(static_cast<std::size_t>(got));
+    if (!S_ISREG(facts.st_mode))
+        throw fault::pathFileAccess();
+    std::string bytes;
+    // One more than there should be, so that the end shows.
+    bytes.reserve(std::min<std::uint64_t>(most, static_cast<std::uint64_t>(facts.st_size) + 1));
+    while (bytes.size() < most) {
+        const std::size_t had = bytes.size();
+        const std::size_t left = bytes.capacity() > had ? bytes.capacity() - had : mostAtOnce;
+        bytes.resize(had + std::min<std::uint64_t>(left, most - had));
+        const ssize_t got = ::read(file.get(), bytes.data() + had, bytes.size() - had);
+        // What was read before an error is no shorter file.
+        if (got < 0 && errno != EINTR)
+            throw fault::deviceIo();
+        bytes.resize(had + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
+        if (got == 0)
+            break;
+    }
     return bytes;
 }
 
 void SafeFile::write(const std::string& path, const std::string& bytes) {
-    const QFileInfo info(QString::fromStdString(path));
-    if (path.empty())
-        throw fault::pathNotFound();
-    if (info.exists() && !info.isFile())
-        throw fault::pathFileAccess();
-    QSaveFile file(info.filePath());
-    // Unbuffered, so that each write tells what became of it: a buffer that was flushed in part does not say
-    // that the disk is full.
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw openFault(info, file.error());
-    const qint64 written = writeAll(file, bytes);
-    const bool whole = written == static_cast<qint64>(bytes.size()) && file.error() == QFileDevice::NoError;
-    const QFileDevice::FileError error = file.error();
-    if (!whole) {
-        file.cancelWriting();
-        file.commit();
-        throw writeFault(error);
-    }
-    if (!file.commit())
-        throw file.error() == QFileDevice::RenameError ? fault::permissionDenied() : writeFault(file.error());
+    replaceFile(path, bytes);
 }
 
 } // namespace tally
+
+#endif
