@@ -54,11 +54,14 @@ std::string_view presenceText(PortPresence presence) {
     return "not there";
 }
 
+std::string PortDevice::text() const {
+    if (byName)
+        return description;
+    return description.empty() ? path : path + " (" + description + ")";
+}
+
 std::string PortState::text() const {
-    std::string line = device;
-    if (!adapter.empty())
-        line += " (" + adapter + ")";
-    return line + ": " + std::string(presenceText(presence));
+    return PortDevice{device, adapter, byName}.text() + ": " + std::string(presenceText(presence));
 }
 
 PortState portState(int commPort, const PortCatalogue& catalogue, const Settings& settings) {
@@ -68,8 +71,10 @@ PortState portState(int commPort, const PortCatalogue& catalogue, const Settings
     state.assigned = state.device != defaultDevice(commPort);
     state.presence = catalogue.presence(state.device);
     for (const PortDevice& device : catalogue.devices())
-        if (device.path == state.device)
+        if (device.path == state.device) {
             state.adapter = device.description;
+            state.byName = device.byName;
+        }
     return state;
 }
 

@@ -19,6 +19,10 @@ constexpr int portCount = 8;
 struct PortDevice {
     std::string path;        // by its lasting name where it has one (UTF-8)
     std::string description; // of the adapter; may be empty
+    bool byName = false;     // the description is all that a person needs
+
+    // What it is called, UTF-8.
+    std::string text() const;
 };
 
 enum class PortPresence { free, notThere, inUse, noPermission };
@@ -44,6 +48,7 @@ struct PortState {
     int commPort = 1;
     std::string device;
     std::string adapter; // empty when unknown
+    bool byName = false; // of the device
     PortPresence presence = PortPresence::notThere;
     bool assigned = false; // not the default device
 

@@ -95,9 +95,9 @@ std::string simulatedInstrument() {
 std::vector<PortDevice> PortList::devices() const {
     std::vector<PortDevice> all;
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
-        all.push_back({lastingName(info.systemLocation()), descriptionOf(info)});
+        all.push_back({lastingName(info.systemLocation()), descriptionOf(info), false});
     if (SimulatedInstrument::available() || QFileInfo::exists(QString::fromStdString(simulatedInstrument())))
-        all.push_back({simulatedInstrument(), "simulated instrument"});
+        all.push_back({simulatedInstrument(), "simulated instrument", true});
     return all;
 }
 

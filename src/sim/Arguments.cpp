@@ -32,6 +32,7 @@ const char* const examples =
     "  tallyline-sim --fault cable=5000              the cable is pulled out too early\n"
     "  tallyline-sim --battery-failed --interval 1 --full stop\n"
     "                                                a recording to be recovered\n"
+    "  tallyline-sim --fault noise=40 --seed 3       a line full of noise\n"
     "  tallyline-sim --plug enter                    you say when the cable goes in\n"
     "\n"
     "To send in a problem: run with --record FILE; whoever gets FILE sees the same\n"
@@ -68,14 +69,16 @@ struct Raw {
     std::string layout = "current";
     std::string wrongRate = "silence";
     std::string plug = "open";
+    std::string beforeAnswer = "nothing";
+    std::string reset = "ignored";
     std::vector<std::string> faults;
     double volts = 0;
     double erase = 2;
+    double answer = 0.05;
     bool stopped = false;
 };
 
-void describe(CLI::App& app, Raw& raw, Arguments& arguments) {
-    auto& setup = arguments.setup;
+void describeMemory(CLI::App& app, Raw& raw, InstrumentSetup& setup) {
     app.add_option("--type", raw.type, "Instrument type, 1 to 10 (list below)")
         ->check(CLI::Range(firstType, lastType))
         ->capture_default_str();
@@ -107,9 +110,26 @@ void describe(CLI::App& app, Raw& raw, Arguments& arguments) {
     app.add_flag("--battery-failed", setup.batteryFailed,
                  "The battery has failed: brief header, and its time is when the recording began");
     app.add_option("--volts", raw.volts, "Battery voltage")->check(CLI::Range(0.15, 15.1));
+}
+
+void describeInitialisation(CLI::App& app, Raw& raw, InstrumentSetup& setup) {
+    app.add_option("--answer-time", raw.answer, "Seconds until the command to initialise is answered")
+        ->check(CLI::Range(0.0, 3600.0))
+        ->capture_default_str();
+    app.add_option(
+           "--before-answer", raw.beforeAnswer,
+           "What it still sends of its memory before that answer: nothing, line (so that the memory's\n"
+           "own \"T:\" comes first) or memory (all of it)")
+        ->check(CLI::IsMember({"nothing", "line", "memory"}))
+        ->capture_default_str();
+    app.add_flag("--strict", setup.strict, "Takes the 18 characters of the settings only after its answer");
     app.add_option("--erase-time", raw.erase, "Seconds that erasing takes")
         ->check(CLI::Range(0.0, 3600.0))
         ->capture_default_str();
+}
+
+void describeLine(CLI::App& app, Raw& raw, Arguments& arguments) {
+    auto& setup = arguments.setup;
     app.add_option(
            "--plug", raw.plug,
            "When the cable goes in: open (0.5 s after the port was opened), a number (so many seconds\n"
@@ -120,10 +140,22 @@ void describe(CLI::App& app, Raw& raw, Arguments& arguments) {
                    "What the computer gets at another baud rate: silence or rubbish")
         ->check(CLI::IsMember({"silence", "rubbish"}))
         ->capture_default_str();
+    app.add_option("--dtr", arguments.dtr,
+                   "A pipe that says how the DTR line stands, 1 high, 0 low (a pseudo-terminal has none)");
+    app.add_option("--reset", raw.reset,
+                   "What dropping DTR does: ignored, restarts (silent while it is low, then from the\n"
+                   "beginning) or excites (sends while it is low, and from the beginning after)")
+        ->check(CLI::IsMember({"ignored", "restarts", "excites"}))
+        ->capture_default_str();
+    app.add_option("--seed", setup.seed, "Another number draws other noise and rubbish")
+        ->capture_default_str();
     app.add_option("--speed", setup.speed,
                    "Pace: 1 as on a real line, 10 ten times as fast, 0 without pauses")
         ->check(CLI::Range(0.0, 1e6))
         ->capture_default_str();
+}
+
+void describeProgram(CLI::App& app, Arguments& arguments) {
     app.add_option("--link", arguments.link, "Makes a symbolic link to the device at this path");
     app.add_option("--record", arguments.record, "Writes all that is sent and received into this file");
     auto* replay = app.add_option("--replay", arguments.replay, "Plays such a file back instead");
@@ -164,6 +196,13 @@ void readPlug(const std::string& text, Arguments& arguments) {
     (every ? setup.repeatAfter : setup.plugDelay) = static_cast<std::int64_t>(seconds * 1000);
 }
 
+void fillConduct(const Raw& raw, InstrumentSetup& setup) {
+    if (raw.beforeAnswer != "nothing")
+        setup.beforeAnswer = raw.beforeAnswer == "line" ? BeforeAnswer::line : BeforeAnswer::memory;
+    if (raw.reset != "ignored")
+        setup.reset = raw.reset == "restarts" ? Reset::restarts : Reset::excites;
+}
+
 void fill(const Raw& raw, Arguments& arguments, ReadingTime clock, int seconds) {
     InstrumentSetup& setup = arguments.setup;
     const Model& model = modelOf(raw.type);
@@ -195,6 +234,8 @@ void fill(const Raw& raw, Arguments& arguments, ReadingTime clock, int seconds) 
         setup.battery = static_cast<int>(std::lround((raw.volts - 0.15) / 0.003656));
     setup.rubbishAtWrongRate = raw.wrongRate == "rubbish";
     setup.eraseTime = static_cast<std::int64_t>(raw.erase * 1000);
+    setup.answerTime = static_cast<std::int64_t>(raw.answer * 1000);
+    fillConduct(raw, setup);
     readPlug(raw.plug, arguments);
     for (const std::string& text : raw.faults) {
         try {
@@ -211,7 +252,10 @@ std::optional<Arguments> parseArguments(int argc, char** argv, ReadingTime clock
     CLI::App app(introduction, "tallyline-sim");
     Raw raw;
     Arguments arguments;
-    describe(app, raw, arguments);
+    describeMemory(app, raw, arguments.setup);
+    describeInitialisation(app, raw, arguments.setup);
+    describeLine(app, raw, arguments);
+    describeProgram(app, arguments);
     app.footer(footer());
     try {
         app.parse(argc, argv);

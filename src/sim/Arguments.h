@@ -15,6 +15,7 @@ struct Arguments {
     std::string record;
     std::string replay;
     std::string script;
+    std::string dtr;    // pipe
     bool enter = false; // the cable goes in when Enter is pressed
     bool loop = false;
     bool once = false;

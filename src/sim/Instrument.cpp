@@ -4,7 +4,6 @@
 #include "core/ModeTable.h"
 
 #include <algorithm>
-#include <array>
 #include <optional>
 #include <utility>
 
@@ -16,13 +15,10 @@ constexpr char tab = '\t';
 constexpr char dc4 = '\x14';
 constexpr std::size_t initLength = 18;
 constexpr std::size_t mostAtOnce = 65536;
-constexpr std::int64_t answerDelay = 50; // milliseconds
-constexpr std::int64_t minute = 60'000;  // milliseconds
-const char* const prompt = "\r\nSET";    // its "T" is what the computer waits for
+constexpr std::int64_t minute = 60'000; // milliseconds
+constexpr int rubbishLength = 16;
+const char* const prompt = "\r\nSET"; // its "T" is what the computer waits for
 const char* const wrongCode = "KWX";
-
-// What a receiver makes of characters sent at another rate.
-constexpr std::array<unsigned char, 8> garbled = {0x80, 0xFE, 0x00, 0xE0, 0xFC, 0x1C, 0xF8, 0xC0};
 
 // What the 18 characters ask for.
 struct InitRequest {
@@ -56,7 +52,9 @@ InstrumentSetup setupOf(int type, ReadingTime clock, int count) {
 }
 
 Instrument::Instrument(InstrumentSetup setup)
-    : setup_(std::move(setup)), clockAtZero_(setup_.clock.minutes * minute + setup_.clockSeconds * 1000) {}
+    : setup_(std::move(setup)),
+      clockAtZero_(setup_.clock.minutes * minute + setup_.clockSeconds * 1000),
+      random_(setup_.seed) {}
 
 ReadingTime Instrument::clockAt(std::int64_t time) const {
     const std::int64_t milliseconds = clockAtZero_ + time;
@@ -101,6 +99,15 @@ void Instrument::closed(std::int64_t) {
     unplug();
 }
 
+void Instrument::dtr(std::int64_t time, bool on) {
+    if (setup_.reset == Reset::ignored)
+        return;
+    narrate(on ? "The reset is over." : "The computer resets the interface.");
+    unplug();
+    if (open_ && (on || setup_.reset == Reset::excites))
+        plugAt_ = time + setup_.plugDelay;
+}
+
 void Instrument::unplug() {
     powered_ = false;
     collecting_ = false;
@@ -114,13 +121,13 @@ void Instrument::unplug() {
 void Instrument::plug(std::int64_t time) {
     unplug();
     powered_ = true;
-    memoryText_ = true;
+    text_ = Text::memory;
     if (!open_)
         narrate("The cable is in, but the port is closed: what the instrument sends is lost.");
     if (setup_.faults.silent)
         return;
     MemoryText memory = memoryText(header(time), setup_.layout, setup_.memory.newestFirst(clockAt(time)),
-                                   setup_.low, setup_.faults);
+                                   setup_.low, setup_.faults, random_);
     narrate("The cable is in: sending " + std::to_string(memory.text.size()) + " characters.");
     start(time, std::move(memory.text), setup_.faults.stalls, memory.repeatFrom);
     for (const std::int64_t cut : {setup_.faults.cable, setup_.faults.gone})
@@ -131,7 +138,7 @@ void Instrument::plug(std::int64_t time) {
 }
 
 void Instrument::send(std::int64_t time, std::string characters) {
-    memoryText_ = false;
+    text_ = Text::other;
     start(time, std::move(characters));
 }
 
@@ -151,17 +158,26 @@ void Instrument::received(std::int64_t time, std::string_view characters) {
 
 void Instrument::hear(std::int64_t time, char character) {
     if (character == (setup_.memory.mode == ' ' ? dc4 : tab)) {
-        sending_.stop();
-        collected_.clear();
-        collecting_ = !setup_.faults.noAnswer && !setup_.faults.rubbishAnswer;
-        answer_ = setup_.faults.noAnswer ? Answer::none : Answer::prompt;
-        answerAt_ = answer_ == Answer::none ? never : time + answerDelay;
-        narrate("The command to initialise has come.");
+        command(time);
     } else if (collecting_) {
         collected_ += character;
         if (collected_.size() == initLength)
             initialize(time);
     }
+}
+
+void Instrument::command(std::int64_t time) {
+    narrate("The command to initialise has come.");
+    collected_.clear();
+    const bool sendsOn =
+        text_ == Text::memory && sending_.nextAt() != never && setup_.beforeAnswer != BeforeAnswer::nothing;
+    if (!sendsOn)
+        sending_.stop();
+    else if (setup_.beforeAnswer == BeforeAnswer::line)
+        sending_.cutAtLineEnd();
+    collecting_ = !setup_.strict && !setup_.faults.noAnswer && !setup_.faults.rubbishAnswer;
+    answer_ = setup_.faults.noAnswer ? Answer::none : Answer::prompt;
+    answerAt_ = answer_ == Answer::none || sendsOn ? never : time + setup_.answerTime;
 }
 
 void Instrument::initialize(std::int64_t time) {
@@ -190,9 +206,9 @@ void Instrument::initialize(std::int64_t time) {
 void Instrument::answer(std::int64_t time) {
     const Answer wanted = std::exchange(answer_, Answer::none);
     answerAt_ = never;
-    memoryText_ = false;
+    text_ = wanted == Answer::prompt ? Text::prompt : Text::other;
     if (wanted == Answer::prompt) {
-        start(time, setup_.faults.rubbishAnswer ? "?\x80\xFE?" : prompt);
+        start(time, setup_.faults.rubbishAnswer ? rubbish(rubbishLength, random_) : prompt);
         return;
     }
     std::string text = headerText(header(time), setup_.layout) + lineEnd(setup_.layout);
@@ -203,16 +219,14 @@ void Instrument::answer(std::int64_t time) {
         sending_.cutAt(setup_.faults.readBackCut);
 }
 
-std::string Instrument::onLine(std::string characters) const {
+std::string Instrument::onLine(const std::string& characters) {
     if (!open_)
         return {};
     if (baud_ == setup_.baud)
         return characters;
     if (!setup_.rubbishAtWrongRate)
         return {};
-    for (char& character : characters)
-        character = static_cast<char>(garbled[static_cast<unsigned char>(character) % garbled.size()]);
-    return characters;
+    return rubbish(static_cast<int>(characters.size()), random_);
 }
 
 std::string Instrument::sent(std::int64_t time) {
@@ -237,21 +251,27 @@ std::string Instrument::sent(std::int64_t time) {
 
 // The last character has gone, or the line was cut before it.
 void Instrument::ended(std::int64_t time) {
-    if (!memoryText_)
-        return;
+    if (text_ == Text::memory)
+        memoryEnded(time);
+    else if (text_ == Text::prompt && setup_.strict)
+        collecting_ = !setup_.faults.rubbishAnswer;
+    text_ = Text::other;
+}
+
+void Instrument::memoryEnded(std::int64_t time) {
     if (setup_.faults.gone >= 0 && sending_.count() >= setup_.faults.gone) {
         gone_ = true;
-        return;
-    }
-    if (setup_.faults.cable >= 0 && sending_.count() >= setup_.faults.cable) {
+    } else if (setup_.faults.cable >= 0 && sending_.count() >= setup_.faults.cable) {
         powered_ = false;
         narrate("The cable was pulled out of the instrument.");
-        return;
+    } else if (answer_ == Answer::prompt) {
+        answerAt_ = time + setup_.answerTime;
+    } else {
+        ++completed_;
+        narrate("All is sent.");
+        if (setup_.repeatAfter != never)
+            plugAt_ = time + setup_.repeatAfter;
     }
-    ++completed_;
-    narrate("All is sent.");
-    if (setup_.repeatAfter != never)
-        plugAt_ = time + setup_.repeatAfter;
 }
 
 std::int64_t Instrument::nextAt() const {

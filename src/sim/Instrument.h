@@ -8,8 +8,23 @@
 #include "sim/Transmission.h"
 
 #include <functional>
+#include <random>
 
 namespace tally::sim {
+
+// What an instrument still sends of its memory after the command to initialise, before it answers.
+enum class BeforeAnswer {
+    nothing,
+    line,  // the rest of the line, after the header the first one: "T:" comes before the answer
+    memory // all of it
+};
+
+// What dropping the DTR line does to an instrument that hears of it.
+enum class Reset {
+    ignored,
+    restarts, // it is silent while DTR is low, and sends from the beginning when it is high again
+    excites   // it sends from the beginning when DTR falls, and once more when it is high again
+};
 
 // How an instrument is set up.
 struct InstrumentSetup {
@@ -32,6 +47,11 @@ struct InstrumentSetup {
     double speed = 1;                 // times the pace of the line; 0 for no pace at all
     bool rubbishAtWrongRate = false;  // else silence
     std::int64_t eraseTime = 2000;    // milliseconds
+    std::int64_t answerTime = 50;     // milliseconds from the command to its answer
+    BeforeAnswer beforeAnswer = BeforeAnswer::nothing;
+    bool strict = false; // takes the 18 characters only after it has answered
+    Reset reset = Reset::ignored;
+    unsigned seed = 1; // of noise and rubbish
 };
 
 // The setup of an instrument type, its memory holding `count` readings at `clock` (-1: as many as fit).
@@ -47,6 +67,7 @@ public:
     void rate(std::int64_t time, int baud) override;
     void received(std::int64_t time, std::string_view characters) override;
     void closed(std::int64_t time) override;
+    void dtr(std::int64_t time, bool on) override;
     void pressed(std::int64_t time) override { plug(time); }
     std::string sent(std::int64_t time) override;
     std::int64_t nextAt() const override;
@@ -74,20 +95,26 @@ public:
 
 private:
     enum class Answer { none, prompt, readBack };
+    // What is being sent.
+    enum class Text { memory, prompt, other };
 
     ReadingTime clockAt(std::int64_t time) const;
     Header header(std::int64_t time) const;
     void start(std::int64_t time, std::string text, std::vector<Stall> stalls = {},
                std::size_t repeatFrom = std::string::npos);
     void hear(std::int64_t time, char character);
+    void command(std::int64_t time);
     void initialize(std::int64_t time);
     void answer(std::int64_t time);
     void ended(std::int64_t time);
-    std::string onLine(std::string characters) const;
+    void memoryEnded(std::int64_t time);
+    std::string onLine(const std::string& characters);
 
     InstrumentSetup setup_;
     std::int64_t clockAtZero_; // the instrument's clock at time 0, milliseconds
+    std::mt19937 random_;
     Transmission sending_;
+    Text text_ = Text::other;
     std::int64_t plugAt_ = never;
     std::int64_t answerAt_ = never;
     Answer answer_ = Answer::none;
@@ -99,8 +126,7 @@ private:
     std::int64_t received_ = 0;
     bool open_ = false;
     bool powered_ = false;    // the cable is in
-    bool collecting_ = false; // the command was answered
-    bool memoryText_ = false; // what is being sent is the memory
+    bool collecting_ = false; // the 18 characters are taken
     bool gone_ = false;
 };
 

@@ -21,6 +21,8 @@ public:
     virtual void rate(std::int64_t time, int baud) = 0;
     virtual void received(std::int64_t time, std::string_view characters) = 0;
     virtual void closed(std::int64_t time) = 0;
+    // The computer drops or raises the DTR line.
+    virtual void dtr(std::int64_t, bool) {}
     // The trainer presses Enter.
     virtual void pressed(std::int64_t time) = 0;
 

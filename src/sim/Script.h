@@ -46,6 +46,7 @@ public:
     void rate(std::int64_t time, int baud) override { instrument.rate(time, baud); }
     void received(std::int64_t time, std::string_view characters) override;
     void closed(std::int64_t time) override;
+    void dtr(std::int64_t time, bool on) override { instrument.dtr(time, on); }
     void pressed(std::int64_t time) override { instrument.pressed(time); }
     std::string sent(std::int64_t time) override;
     std::int64_t nextAt() const override;

@@ -11,8 +11,6 @@ namespace {
 
 constexpr std::size_t perLine = 10;
 constexpr char ctrlZ = '\x1a';
-// What a line at the wrong rate looks like: no initial, no end, no digit.
-constexpr std::array<unsigned char, 8> rubbish = {0x80, 0xFE, 0x00, 0xE0, 0xFC, 0x1C, 0xF8, 0xC0};
 
 std::string number(int value, bool low) {
     std::array<char, 32> text = {};
@@ -52,6 +50,45 @@ std::string line(const std::vector<std::string>& all, std::size_t from, const Fa
     return text;
 }
 
+// The data section without its end.
+std::string lines(const std::vector<int>& newestFirst, bool low, const Faults& faults) {
+    const std::vector<std::string> all = fields(newestFirst, low, faults);
+    std::string text;
+    for (std::size_t from = 0; from < all.size(); from += perLine) {
+        text += line(all, from, faults);
+        if (from == 0 && faults.doubleCtrlZ)
+            text += ctrlZ;
+        if (from + perLine < all.size())
+            text += "\n\r";
+    }
+    return text;
+}
+
+std::string end(const Faults& faults) {
+    if (faults.noCtrlZ)
+        return {};
+    return std::string(faults.twoCtrlZ ? 2 : 1, ctrlZ);
+}
+
+// What an adapter still held of an earlier, sound transmission.
+std::string oldTail(const std::vector<int>& newestFirst, bool low, int count) {
+    const std::string old = lines(newestFirst, low, {}) + ctrlZ;
+    return old.substr(old.size() - std::min(old.size(), static_cast<std::size_t>(count)));
+}
+
+void insertEnd(MemoryText& memory, std::size_t at) {
+    memory.text.insert(std::min(memory.text.size(), at), 1, ctrlZ);
+    if (memory.repeatFrom != std::string::npos && at <= memory.repeatFrom)
+        ++memory.repeatFrom;
+}
+
+std::string cutHeader(const Header& header, Layout layout, const Faults& faults) {
+    std::string text = headerText(header, layout);
+    if (faults.headerCut > 0)
+        text.resize(std::min(text.size(), static_cast<std::size_t>(faults.headerCut)));
+    return text;
+}
+
 std::string binaryText(int count) {
     std::string text;
     for (int i = 0; i < count; ++i)
@@ -88,32 +125,30 @@ std::string lineEnd(Layout layout) {
     return layout == Layout::brief ? "\r\n" : "\r";
 }
 
+std::string rubbish(int count, std::mt19937& random) {
+    std::string text;
+    for (int i = 0; i < count; ++i)
+        text += static_cast<char>(random() & 0xFFU);
+    return text;
+}
+
 MemoryText memoryText(const Header& header, Layout layout, const std::vector<int>& newestFirst, bool low,
-                      const Faults& faults) {
+                      const Faults& faults, std::mt19937& random) {
     if (faults.binary > 0)
         return {binaryText(faults.binary)};
     MemoryText result;
-    for (int i = 0; i < faults.noise; ++i)
-        result.text += static_cast<char>(rubbish[static_cast<std::size_t>(i) % rubbish.size()]);
-    std::string head = headerText(header, layout);
-    if (faults.headerCut > 0)
-        head.resize(std::min(head.size(), static_cast<std::size_t>(faults.headerCut)));
-    result.text += head + lineEnd(layout) + "T:";
-    const std::size_t dataStart = result.text.size();
-    const std::vector<std::string> all = fields(newestFirst, low, faults);
-    for (std::size_t from = 0; from < all.size(); from += perLine) {
-        result.text += line(all, from, faults);
-        if (from == 0 && faults.doubleCtrlZ)
-            result.text += ctrlZ;
-        if (from + perLine < all.size())
-            result.text += "\n\r";
+    result.text = rubbish(faults.noise, random) + oldTail(newestFirst, low, faults.tail) +
+                  cutHeader(header, layout, faults) + lineEnd(layout);
+    if (!faults.headerOnly) {
+        result.text += "T:";
+        const std::size_t dataStart = result.text.size();
+        result.text += lines(newestFirst, low, faults);
+        result.text += faults.endless ? "\n\r" : end(faults);
+        if (faults.endless)
+            result.repeatFrom = dataStart;
     }
-    if (faults.endless) {
-        result.text += "\n\r";
-        result.repeatFrom = dataStart;
-    } else if (!faults.noCtrlZ) {
-        result.text += ctrlZ;
-    }
+    if (faults.earlyCtrlZ >= 0)
+        insertEnd(result, static_cast<std::size_t>(faults.earlyCtrlZ));
     return result;
 }
 

@@ -3,6 +3,7 @@
 
 #include "sim/Faults.h"
 
+#include <random>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,9 @@ std::string headerText(const Header& header, Layout layout);
 // What follows a header: carriage return, after a brief header with its line feed.
 std::string lineEnd(Layout layout);
 
+// Characters of any value, as a disturbed line brings them.
+std::string rubbish(int count, std::mt19937& random);
+
 struct MemoryText {
     std::string text;
     // Where an endless text goes on when its end is reached; npos for one that ends.
@@ -36,8 +40,8 @@ struct MemoryText {
 };
 
 // The memory as an instrument sends it: header, "T:" and ten readings a line, newest first, ctrl/Z. `low`
-// writes tenths with one decimal.
+// writes tenths with one decimal; noise is drawn from `random`.
 MemoryText memoryText(const Header& header, Layout layout, const std::vector<int>& newestFirst, bool low,
-                      const Faults& faults);
+                      const Faults& faults, std::mt19937& random);
 
 } // namespace tally::sim

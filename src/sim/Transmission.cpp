@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sim/Transmission.h"
 
+#include <algorithm>
+
 namespace tally::sim {
 
 namespace {
@@ -29,6 +31,14 @@ void Transmission::schedule() {
     for (const Stall& stall : stalls_)
         if (stall.at == count_)
             next_ += stall.milliseconds * nanoseconds;
+}
+
+void Transmission::cutAtLineEnd() {
+    const std::size_t end = text_.find("\n\r", position_ > 0 ? position_ - 1 : 0);
+    if (end == std::string::npos)
+        return;
+    const std::int64_t count = count_ + static_cast<std::int64_t>(end + 2 - position_);
+    cut_ = cut_ < 0 ? count : std::min(cut_, count);
 }
 
 std::string Transmission::take(std::int64_t time) {

@@ -21,6 +21,9 @@ public:
     // Nothing is sent from this character number on.
     void cutAt(std::int64_t count) { cut_ = count; }
 
+    // Nothing is sent after the line break that comes next.
+    void cutAtLineEnd();
+
     // The characters that were complete at this time.
     std::string take(std::int64_t time);
     // When the next one is complete; never at the end.

@@ -52,6 +52,8 @@ Wire::End Wire::run() {
         if (stopped_)
             return End::stopped;
         openings();
+        if (dtrStirred_)
+            readDtr();
         characters();
         rate();
         send();
@@ -74,16 +76,18 @@ void Wire::sleep() {
         timeout = static_cast<int>(std::clamp<std::int64_t>(next - now(), pieceTime, 60'000));
     if (next <= now() && peer_.nextAt() <= now() && unsent_.empty())
         timeout = 0;
-    std::array<pollfd, 4> watched = {{{stop_[0], POLLIN, 0},
+    std::array<pollfd, 5> watched = {{{stop_[0], POLLIN, 0},
                                       {pty_.openingsReady(), POLLIN, 0},
                                       {pty_.charactersReady(), POLLIN, 0},
-                                      {keyboard, POLLIN, 0}}};
+                                      {keyboard, POLLIN, 0},
+                                      {dtr, POLLIN, 0}}};
     if (!unsent_.empty())
         watched[2].events |= POLLOUT;
     poll(watched.data(), watched.size(), timeout);
     stopped_ = watched[0].revents != 0;
     if (watched[3].revents != 0 && !readKeyboard())
         keyboard = -1;
+    dtrStirred_ = watched[4].revents != 0;
 }
 
 // False at the end of the keyboard's input.
@@ -93,6 +97,18 @@ bool Wire::readKeyboard() {
     if (count > 0 && std::find(typed.begin(), typed.begin() + count, '\n') != typed.begin() + count)
         peer_.pressed(now());
     return count > 0;
+}
+
+void Wire::readDtr() {
+    std::array<char, 256> states = {};
+    const ssize_t count = read(dtr, states.data(), states.size());
+    if (count <= 0) {
+        dtr = -1;
+        return;
+    }
+    for (const char state : std::string_view(states.data(), static_cast<std::size_t>(count)))
+        if (state == '0' || state == '1')
+            peer_.dtr(now(), state == '1');
 }
 
 void Wire::openings() {

@@ -24,6 +24,8 @@ public:
     std::function<void(const Event&)> onEvent = [](const Event&) {};
     // A descriptor whose lines are the trainer's Enter key; -1 for none.
     int keyboard = -1;
+    // A descriptor that says how DTR stands, which a pseudo-terminal cannot: "1" high, "0" low; -1 for none.
+    int dtr = -1;
     // Looked at after each event: true ends the run.
     std::function<bool()> done = [] { return false; };
 
@@ -41,6 +43,7 @@ private:
     void send();
     void cleanUp();
     bool readKeyboard();
+    void readDtr();
     void letDrain();
 
     Peer& peer_;
@@ -52,6 +55,7 @@ private:
     int baud_ = 0;
     bool open_ = false;
     bool stopped_ = false;
+    bool dtrStirred_ = false;
 };
 
 } // namespace tally::sim

@@ -7,12 +7,14 @@
 #include <chrono>
 #include <csignal>
 #include <ctime>
+#include <fcntl.h>
 #include <fstream>
 #include <iostream>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -67,7 +69,7 @@ Made makePeer(const Arguments& arguments) {
 }
 
 // One life of a device: until the program is stopped, the adapter pulled out, the script at its end.
-Wire::End live(const Arguments& arguments, Recorder* recorder, std::chrono::milliseconds age) {
+Wire::End live(const Arguments& arguments, int dtr, Recorder* recorder, std::chrono::milliseconds age) {
     const Made made = makePeer(arguments);
     Pty pty;
     if (!arguments.link.empty())
@@ -85,6 +87,7 @@ Wire::End live(const Arguments& arguments, Recorder* recorder, std::chrono::mill
         wire.done = [&] { return !open && made.instrument != nullptr && made.instrument->completed() > 0; };
     if (arguments.enter)
         wire.keyboard = STDIN_FILENO;
+    wire.dtr = dtr;
     running = &wire;
     std::cout << "READY " << pty.path() << std::endl;
     if (stopRequested != 0)
@@ -94,7 +97,19 @@ Wire::End live(const Arguments& arguments, Recorder* recorder, std::chrono::mill
     return end;
 }
 
+// -1 without a pipe. Opened for both ways, it never comes to an end.
+int openDtr(const std::string& path) {
+    if (path.empty())
+        return -1;
+    const int pipe = open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
+    struct stat facts = {};
+    if (pipe < 0 || fstat(pipe, &facts) != 0 || !S_ISFIFO(facts.st_mode))
+        throw std::runtime_error(path + " is no pipe that can be opened");
+    return pipe;
+}
+
 int run(const Arguments& arguments) {
+    const int dtr = openDtr(arguments.dtr);
     std::ofstream file;
     std::unique_ptr<Recorder> recorder;
     if (!arguments.record.empty()) {
@@ -107,7 +122,7 @@ int run(const Arguments& arguments) {
     for (;;) {
         const auto age = std::chrono::steady_clock::now() - start;
         const Wire::End end =
-            live(arguments, recorder.get(), std::chrono::duration_cast<std::chrono::milliseconds>(age));
+            live(arguments, dtr, recorder.get(), std::chrono::duration_cast<std::chrono::milliseconds>(age));
         if (end == Wire::End::gone && !arguments.quiet)
             say("The adapter was pulled out of the computer.");
         if (end == Wire::End::stopped || !arguments.loop)

@@ -17,7 +17,7 @@ using namespace testing;
 class Catalogue : public PortCatalogue {
 public:
     std::vector<PortDevice> devices() const override {
-        return {{"/dev/serial/by-id/usb-a", "Adapter A & B"}, {"/tmp/sim", "simulated instrument"}};
+        return {{"/dev/serial/by-id/usb-a", "Adapter A & B"}, {"/tmp/sim", "simulated instrument", true}};
     }
     PortPresence presence(const std::string& path) const override {
         if (path == defaultDevice(2))
@@ -80,7 +80,7 @@ TEST_F(PortSelForm, ShowsWhatIsBehindEachPort) {
 TEST_F(PortSelForm, AListedDeviceIsAssignedByItsButtonAndChecked) {
     PortSel form(1, catalogue, settings, nullptr);
     assign(form, "Devices5", 2);
-    EXPECT_EQ(labelText(form, "Device5"), "/tmp/sim (simulated instrument): free");
+    EXPECT_EQ(labelText(form, "Device5"), "simulated instrument: free");
     EXPECT_EQ(devicePath(5, settings), "/tmp/sim");
     EXPECT_EQ(form.checked(), 5);
 }
@@ -99,6 +99,7 @@ TEST_F(PortSelForm, TheMenuOffersTheUsualDeviceAndTheListedOnes) {
     EXPECT_EQ(menu->actions()[0]->text().toStdString(), defaultDevice(2) + " (the usual one)");
     EXPECT_TRUE(menu->actions()[0]->isChecked());
     EXPECT_EQ(menu->actions()[1]->text(), QStringLiteral("/dev/serial/by-id/usb-a (Adapter A && B)"));
+    EXPECT_EQ(menu->actions()[2]->text(), QStringLiteral("simulated instrument"));
     EXPECT_FALSE(named(form, "Assign2")->accessibleName().isEmpty());
 }
 

@@ -15,7 +15,9 @@ namespace tally::testing {
 // pulled out.
 class LivePeer {
 public:
-    explicit LivePeer(sim::Peer& peer) : peer_(peer), path_(pty_->path()), wire_(peer_, *pty_) {
+    // `dtr` is the reading end of a pipe that says how DTR stands; -1 for none.
+    explicit LivePeer(sim::Peer& peer, int dtr = -1) : peer_(peer), path_(pty_->path()), wire_(peer_, *pty_) {
+        wire_.dtr = dtr;
         thread_ = std::thread([this] {
             if (wire_.run() != sim::Wire::End::stopped)
                 pty_.reset();
@@ -43,10 +45,11 @@ private:
 
 // An instrument that lives that way. Stop it before you look into it.
 struct LiveInstrument {
-    explicit LiveInstrument(sim::InstrumentSetup setup) : instrument(std::move(setup)) {}
+    explicit LiveInstrument(sim::InstrumentSetup setup, int dtr = -1)
+        : instrument(std::move(setup)), live(instrument, dtr) {}
 
     sim::Instrument instrument;
-    LivePeer live{instrument};
+    LivePeer live;
 };
 
 } // namespace tally::testing

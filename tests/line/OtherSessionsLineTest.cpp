@@ -5,6 +5,7 @@
 #include "link/StatusCheck.h"
 
 #include <QTimer>
+#include <atomic>
 #include <gtest/gtest.h>
 
 namespace tally {
@@ -71,18 +72,72 @@ TEST(InitializationOnTheLine, TwoInstrumentsOneAfterTheOther) {
     EXPECT_EQ(instrument.instrument.erasures(), 2);
 }
 
-TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
+// An instrument that sends only its header, so that no "T" of its memory stands for the answer, and takes its
+// time with that. It would take the settings at any moment after the command.
+sim::InstrumentSetup slowToAnswer(std::int64_t answerTime) {
     sim::InstrumentSetup setup = quickInstrument(7, 50);
-    setup.faults.noAnswer = true;
-    LiveInstrument instrument(setup);
+    setup.faults.headerOnly = true;
+    setup.answerTime = answerTime;
+    return setup;
+}
+
+TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
+    LiveInstrument instrument(slowToAnswer(60'000));
     SessionDesk desk(instrument.live.path(), 7);
+    std::atomic<bool> commanded = false;
+    instrument.instrument.narrate = [&](const std::string& text) {
+        commanded = commanded || text == "The command to initialise has come.";
+    };
+    // Cancelled a second after the command: the settings would have gone half a second after an answer.
+    QTimer poll;
+    QObject::connect(&poll, &QTimer::timeout, &desk.waiter, [&] {
+        if (!commanded)
+            return;
+        poll.stop();
+        QTimer::singleShot(1000, &desk.waiter, &QtWaiter::cancel);
+    });
+    poll.start(5);
     // After the cancel the prompt comes again, and Cancel there ends it.
     desk.prompt.answers = {Answer::Ok, Answer::Cancel};
-    QTimer::singleShot(1500, &desk.waiter, &QtWaiter::cancel);
     EXPECT_EQ(initialize(desk, 'e'), 0);
     EXPECT_FALSE(desk.line.isOpen());
     instrument.live.stop();
+    EXPECT_TRUE(commanded);
+    EXPECT_EQ(instrument.instrument.receivedCount(), 1); // the command and nothing else
     EXPECT_EQ(instrument.instrument.erasures(), 0);
+}
+
+TEST(InitializationOnTheLine, TheSameInstrumentIsErasedWhenItAnswers) {
+    LiveInstrument instrument(slowToAnswer(300));
+    SessionDesk desk(instrument.live.path(), 7);
+    desk.prompt.answers = {Answer::Ok, Answer::No};
+    EXPECT_EQ(initialize(desk, 'e'), 1) << desk.lastText();
+    instrument.live.stop();
+    EXPECT_EQ(instrument.instrument.receivedCount(), 1 + 18);
+    EXPECT_EQ(instrument.instrument.erasures(), 1);
+}
+
+TEST(InitializationOnTheLine, EveryKindOfInstrumentIsSet) {
+    struct Kind {
+        sim::BeforeAnswer beforeAnswer;
+        bool strict;
+        bool headerOnly;
+    };
+    using Before = sim::BeforeAnswer;
+    for (const Kind& kind : {Kind{Before::nothing, true, false}, Kind{Before::nothing, true, true},
+                             Kind{Before::line, true, false}, Kind{Before::memory, false, false}}) {
+        sim::InstrumentSetup setup = quickInstrument(7, 200);
+        setup.beforeAnswer = kind.beforeAnswer;
+        setup.strict = kind.strict;
+        setup.faults.headerOnly = kind.headerOnly;
+        LiveInstrument instrument(setup);
+        SessionDesk desk(instrument.live.path(), 7);
+        desk.prompt.answers = {Answer::Ok, Answer::No};
+        EXPECT_EQ(initialize(desk, 'l'), 1) << desk.lastText();
+        instrument.live.stop();
+        EXPECT_EQ(instrument.instrument.initString().substr(14), " f1\r")
+            << int(kind.beforeAnswer) << kind.strict << kind.headerOnly;
+    }
 }
 
 TEST(InitializationOnTheLine, ThePulledAdapterIsTold) {

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace tally {
 namespace {
@@ -130,6 +131,25 @@ TEST(SimProgram, WaitsForEnterWhenAsked) {
     EXPECT_EQ(waiter.until(waiter.now() + testing::patience), Wake::data);
 }
 
+TEST(SimProgram, HearsOfTheResetThroughItsPipe) {
+    const QTemporaryDir folder;
+    const QString pipe = folder.filePath(QStringLiteral("dtr"));
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    Program program({QStringLiteral("--dtr"), pipe, QStringLiteral("--reset"), QStringLiteral("restarts"),
+                     QStringLiteral("--plug"), QStringLiteral("0.3"), QStringLiteral("--speed"),
+                     QStringLiteral("0"), QStringLiteral("--count"), QStringLiteral("1")});
+    SerialLine line([device = program.ready()](int) { return device; });
+    QtWaiter waiter(line);
+    QFile dtr(pipe);
+    ASSERT_TRUE(dtr.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
+    line.Settings("9600,N,8,1");
+    line.PortOpen(true);
+    dtr.write("0");
+    EXPECT_EQ(waiter.until(waiter.now() + 700), Wake::due);
+    dtr.write("1");
+    EXPECT_EQ(waiter.until(waiter.now() + testing::patience), Wake::data);
+}
+
 TEST(SimProgram, ExplainsItself) {
     Program program({QStringLiteral("--help")});
     EXPECT_EQ(program.status(), 0);
@@ -144,6 +164,8 @@ TEST(SimProgram, WrongUsageEndsWithTwoAndWords) {
                                          {QStringLiteral("--fault"), QStringLiteral("x")},
                                          {QStringLiteral("--clock"), QStringLiteral("yesterday")},
                                          {QStringLiteral("--plug"), QStringLiteral("-1")},
+                                         {QStringLiteral("--before-answer"), QStringLiteral("lines")},
+                                         {QStringLiteral("--reset"), QStringLiteral("x")},
                                          {QStringLiteral("--no-such-option")}}) {
         Program program(arguments);
         EXPECT_EQ(program.status(), 2) << arguments.join(QLatin1Char(' ')).toStdString();
@@ -164,6 +186,8 @@ TEST(SimProgram, FilesThatCannotBeReadEndWithOneAndWords) {
           {QStringLiteral("--script"), damaged},
           {QStringLiteral("--record"), QStringLiteral("/no/such/folder/file")},
           {QStringLiteral("--link"), QStringLiteral("/no/such/folder/link")},
+          {QStringLiteral("--dtr"), QStringLiteral("/no/such/pipe")},
+          {QStringLiteral("--dtr"), damaged},
           {QStringLiteral("--link"), damaged}}) {
         Program program(arguments);
         EXPECT_EQ(program.status(), 1) << arguments.join(QLatin1Char(' ')).toStdString();

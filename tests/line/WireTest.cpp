@@ -214,7 +214,7 @@ TEST(PortList, OffersTheSimulatedInstrument) {
     const auto devices = PortList().devices();
     ASSERT_FALSE(devices.empty());
     EXPECT_EQ(devices.back().path, simulatedInstrument());
-    EXPECT_EQ(devices.back().description, "simulated instrument");
+    EXPECT_EQ(devices.back().text(), "simulated instrument");
     EXPECT_EQ(PortList().presence(simulatedInstrument()), PortPresence::free);
 }
 

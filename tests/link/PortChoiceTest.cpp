@@ -62,9 +62,9 @@ TEST_F(PortChoice, NumbersOutsideOneToEightAreFaults) {
 
 TEST_F(PortChoice, APortSaysItsDeviceItsAdapterAndWhetherItCanBeUsed) {
     Catalogue catalogue;
-    catalogue.listed = {{"/dev/pts/7", "simulated instrument"}};
-    assignDevice(2, "/dev/pts/7", settings);
-    EXPECT_EQ(portState(2, catalogue, settings).text(), "/dev/pts/7 (simulated instrument): free");
+    catalogue.listed = {{"/dev/ttyUSB0", "Adapter"}};
+    assignDevice(2, "/dev/ttyUSB0", settings);
+    EXPECT_EQ(portState(2, catalogue, settings).text(), "/dev/ttyUSB0 (Adapter): free");
     EXPECT_TRUE(portState(2, catalogue, settings).assigned);
     catalogue.state = PortPresence::notThere;
     EXPECT_EQ(portState(1, catalogue, settings).text(), defaultDevice(1) + ": not there");
@@ -74,6 +74,15 @@ TEST_F(PortChoice, APortSaysItsDeviceItsAdapterAndWhetherItCanBeUsed) {
     catalogue.state = PortPresence::noPermission;
     EXPECT_EQ(portState(1, catalogue, settings).text(),
               defaultDevice(1) + ": no permission: add yourself to group dialout and log in again");
+}
+
+TEST_F(PortChoice, ADeviceThatGoesByItsNameShowsNoPath) {
+    Catalogue catalogue;
+    catalogue.listed = {{"/home/me/.cache/here", "simulated instrument", true}};
+    EXPECT_EQ(catalogue.listed[0].text(), "simulated instrument");
+    assignDevice(2, "/home/me/.cache/here", settings);
+    EXPECT_EQ(portState(2, catalogue, settings).text(), "simulated instrument: free");
+    EXPECT_EQ(portState(2, catalogue, settings).device, "/home/me/.cache/here");
 }
 
 TEST_F(PortChoice, TheStoredPortIsANumberOneToEightElseOne) {

@@ -142,6 +142,50 @@ TEST(Initialization, AfterAFailedBatteryTheUsualHeaderComesBack) {
               currentHeader("KWT", 'a', "03-15-24 14:05") + "\r\x1a");
 }
 
+TEST(Initialization, AStrictInstrumentTakesTheSettingsOnlyAfterItsAnswer) {
+    InstrumentSetup setup = setupWith(7, {1});
+    setup.answerTime = 300;
+    for (const bool strict : {false, true}) {
+        setup.strict = strict;
+        Ready early(setup);
+        early.after(1000, "\t", 200);
+        early.after(1200, "03-15-24 14:05 c1\r", 5000);
+        EXPECT_EQ(early.instrument.erasures(), strict ? 0 : 1);
+        Ready late(setup);
+        EXPECT_EQ(late.after(1000, "\t", 299), "");
+        EXPECT_EQ(late.until(1300), "\r\nSET");
+        late.after(1301, "03-15-24 14:05 c1\r", 5000);
+        EXPECT_EQ(late.instrument.erasures(), 1);
+    }
+}
+
+TEST(Initialization, TheMemoryMayGoOnToItsLineEndOrItsEndBeforeTheAnswer) {
+    InstrumentSetup setup = setupWith(7, std::vector<int>(25, 7));
+    const std::string ten = "   7   7   7   7   7   7   7   7   7   7";
+    const std::string head = currentHeader("KWT", 'a', "03-15-24 12:00") + "\r";
+    for (const BeforeAnswer before : {BeforeAnswer::line, BeforeAnswer::memory}) {
+        setup.beforeAnswer = before;
+        OpenInstrument line(setup);
+        // 57 characters at 9,600 baud take 59.4 ms: the header is out, "T:" is not.
+        EXPECT_EQ(line.until(560), head);
+        line.instrument.received(560, "\t");
+        const std::string rest = before == BeforeAnswer::line
+                                     ? "T:" + ten + "\n\r"
+                                     : "T:" + ten + "\n\r" + ten + "\n\r   7   7   7   7   7\x1a";
+        EXPECT_EQ(line.until(5000), rest + "\r\nSET");
+        line.instrument.received(5000, "03-15-24 14:05 c1\r");
+        EXPECT_EQ(line.instrument.erasures(), 1);
+        EXPECT_EQ(line.instrument.completed(), 0);
+    }
+}
+
+TEST(Initialization, AMemoryThatIsOutAlreadyDelaysNoAnswer) {
+    InstrumentSetup setup = setupWith(7, {1});
+    setup.beforeAnswer = BeforeAnswer::memory;
+    Ready line(setup);
+    EXPECT_EQ(line.after(1000, "\t", 50), "\r\nSET");
+}
+
 TEST(InitializationFaults, EachStepCanFail) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.faults.noAnswer = true;
@@ -150,9 +194,10 @@ TEST(InitializationFaults, EachStepCanFail) {
     setup.faults = {};
     setup.faults.rubbishAnswer = true;
     Ready rubbish(setup);
-    const std::string answer = rubbish.after(1000, "\t", 9000);
-    EXPECT_FALSE(answer.empty());
-    EXPECT_EQ(answer.find('T'), std::string::npos);
+    EXPECT_EQ(rubbish.after(1000, "\t", 9000).size(), 16U);
+    // What it sent may hold a "T"; it takes no settings all the same.
+    rubbish.after(10'000, "03-15-24 14:05 c1\r", 9000);
+    EXPECT_EQ(rubbish.instrument.erasures(), 0);
 
     const auto readBack = [&](const Faults& faults) {
         setup.faults = faults;

@@ -75,7 +75,15 @@ TEST(Instrument, SendsRubbishAtAnotherRateWhenAsked) {
     instrument.rate(1, 115200);
     const std::string rubbish = instrument.sent(longAfter);
     EXPECT_EQ(rubbish.size(), 56U + 1 + 2 + 4 + 1);
-    EXPECT_EQ(rubbish.find_first_of("PHKphk0123456789T:\x1a"), std::string::npos);
+    EXPECT_EQ(rubbish.find("KWT"), std::string::npos);
+    // Each text is garbled in another way; together they hold every value.
+    std::string all;
+    for (int i = 1; i <= 200; ++i) {
+        instrument.plug(i * longAfter);
+        all += instrument.sent((i + 1) * longAfter - 1);
+    }
+    for (int value = 0; value < 256; ++value)
+        EXPECT_NE(all.find(static_cast<char>(value)), std::string::npos) << value;
 }
 
 TEST(Instrument, BeginsAnewAfterACloseAndReopen) {
@@ -86,6 +94,45 @@ TEST(Instrument, BeginsAnewAfterACloseAndReopen) {
     line.instrument.opened(longAfter);
     line.instrument.rate(longAfter, 9600);
     EXPECT_EQ(line.until(2 * longAfter).substr(0, 4), "KWTa");
+}
+
+TEST(Reset, IsIgnoredUnlessAskedFor) {
+    OpenInstrument line(setupWith(7, {1, 2}));
+    EXPECT_EQ(line.until(520).size(), 19U);
+    line.instrument.dtr(520, false);
+    EXPECT_EQ(line.until(530).size(), 9U);
+}
+
+TEST(Reset, AnInstrumentThatRestartsIsSilentWhileDtrIsLow) {
+    InstrumentSetup setup = setupWith(7, {1});
+    setup.reset = Reset::restarts;
+    OpenInstrument line(setup);
+    EXPECT_EQ(line.until(520).size(), 19U);
+    line.instrument.dtr(520, false);
+    EXPECT_EQ(line.until(5520), "");
+    line.instrument.dtr(5520, true);
+    EXPECT_EQ(line.until(6019), "");
+    EXPECT_EQ(line.until(longAfter), currentHeader("KWT", 'a', "03-15-24 12:00") + "\rT:   1\x1a");
+}
+
+TEST(Reset, AnExcitedInstrumentSendsDuringTheResetAndAfter) {
+    InstrumentSetup setup = setupWith(7, {1});
+    setup.reset = Reset::excites;
+    OpenInstrument line(setup);
+    line.instrument.dtr(100, false);
+    const std::string whole = currentHeader("KWT", 'a', "03-15-24 12:00") + "\rT:   1\x1a";
+    EXPECT_EQ(line.until(599), "");
+    EXPECT_EQ(line.until(5100), whole);
+    line.instrument.dtr(5100, true);
+    EXPECT_EQ(line.until(longAfter), whole);
+}
+
+TEST(Reset, ClosedPortsStartNothing) {
+    InstrumentSetup setup = setupWith(7, {1});
+    setup.reset = Reset::excites;
+    Instrument instrument(setup);
+    instrument.dtr(100, false);
+    EXPECT_EQ(instrument.nextAt(), never);
 }
 
 TEST(Instrument, AProbeOfThePortStartsNothing) {

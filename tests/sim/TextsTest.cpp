@@ -25,8 +25,13 @@ std::vector<int> counting(int count) {
     return values;
 }
 
+MemoryText made(Layout layout, const std::vector<int>& values, bool low, const Faults& faults = {}) {
+    std::mt19937 random(1);
+    return memoryText(example(), layout, values, low, faults, random);
+}
+
 std::string text(const std::vector<int>& values, const Faults& faults = {}) {
-    return memoryText(example(), Layout::brief, values, false, faults).text;
+    return made(Layout::brief, values, false, faults).text;
 }
 
 const std::string head = "KWTc   0042" + std::string(19, ' ') + "03-15-24 12:00\r\nT:";
@@ -68,19 +73,46 @@ TEST(MemoryText, AnEmptyMemoryIsHeaderAndEnd) {
 }
 
 TEST(MemoryText, LowReadingsCarryOneDecimalInFiveColumns) {
-    EXPECT_EQ(memoryText(example(), Layout::brief, {5, 1234}, true, {}).text, head + "  0.5123.4\x1a");
+    EXPECT_EQ(made(Layout::brief, {5, 1234}, true).text, head + "  0.5123.4\x1a");
 }
 
 TEST(MemoryText, CurrentLayoutEndsItsHeaderWithOneCarriageReturn) {
-    EXPECT_EQ(memoryText(example(), Layout::current, {7}, false, {}).text.substr(53), "0A5\rT:   7\x1a");
+    EXPECT_EQ(made(Layout::current, {7}, false).text.substr(53), "0A5\rT:   7\x1a");
 }
 
-TEST(MemoryFaults, NoiseComesBeforeTheHeaderAndHasNoFamilyInitial) {
+TEST(MemoryFaults, NoiseComesBeforeTheHeaderAndIsOfAnyValue) {
     Faults faults;
-    faults.noise = 20;
+    faults.noise = 10000;
     const std::string all = text({1}, faults);
-    EXPECT_EQ(all.find(head), 20U);
-    EXPECT_EQ(all.substr(0, 20).find_first_of("PHKphk\x1a"), std::string::npos);
+    EXPECT_EQ(all.substr(10000), head + "   1\x1a");
+    for (int value = 0; value < 256; ++value)
+        EXPECT_LT(all.find(static_cast<char>(value)), 10000U) << value;
+    faults.noise = 3;
+    EXPECT_EQ(text({1}, faults).size(), head.size() + 3 + 5);
+}
+
+TEST(MemoryFaults, AnotherSeedDrawsOtherNoise) {
+    std::mt19937 one(1);
+    std::mt19937 same(1);
+    std::mt19937 two(2);
+    const std::string noise = rubbish(40, one);
+    EXPECT_EQ(rubbish(40, same), noise);
+    EXPECT_NE(rubbish(40, two), noise);
+    EXPECT_NE(rubbish(40, one), noise); // nor does it repeat itself
+}
+
+TEST(MemoryFaults, TheTailOfAnOldTransmissionComesFirst) {
+    Faults faults;
+    faults.tail = 7;
+    EXPECT_EQ(text({11, 12}, faults), "11  12\x1a" + head + "  11  12\x1a");
+    faults.tail = 500;
+    EXPECT_EQ(text({11, 12}, faults), "  11  12\x1a" + head + "  11  12\x1a");
+}
+
+TEST(MemoryFaults, AHeaderOnly) {
+    Faults faults;
+    faults.headerOnly = true;
+    EXPECT_EQ(made(Layout::current, {1}, false, faults).text, headerText(example(), Layout::current) + "\r");
 }
 
 TEST(MemoryFaults, HeaderCutKeepsTheFirstColumns) {
@@ -96,6 +128,14 @@ TEST(MemoryFaults, MissingAndDoubleEnd) {
     Faults twice;
     twice.doubleCtrlZ = true;
     EXPECT_EQ(text(counting(11), twice), head + lineOne + "\x1a\n\r  11\x1a");
+    Faults two;
+    two.twoCtrlZ = true;
+    EXPECT_EQ(text({1}, two), head + "   1\x1a\x1a");
+    Faults early;
+    early.earlyCtrlZ = 2;
+    EXPECT_EQ(text({1}, early), "KW\x1a" + head.substr(2) + "   1\x1a");
+    early.earlyCtrlZ = 1000;
+    EXPECT_EQ(text({1}, early), head + "   1\x1a\x1a");
 }
 
 TEST(MemoryFaults, ReadingsOf999AndOver) {
@@ -117,9 +157,11 @@ TEST(MemoryFaults, LinesWithTooFewTooManyAndADamagedOne) {
 TEST(MemoryFaults, EndlessGoesOnWithItsReadings) {
     Faults faults;
     faults.endless = true;
-    const MemoryText endless = memoryText(example(), Layout::brief, {1}, false, faults);
+    const MemoryText endless = made(Layout::brief, {1}, false, faults);
     EXPECT_EQ(endless.text, head + "   1\n\r");
     EXPECT_EQ(endless.repeatFrom, head.size());
+    faults.earlyCtrlZ = 0;
+    EXPECT_EQ(made(Layout::brief, {1}, false, faults).repeatFrom, head.size() + 1);
 }
 
 TEST(MemoryFaults, BinaryHoldsEveryByteValue) {

@@ -90,9 +90,7 @@ void PortSel::fillMenu(int commPort) {
     add(tr("%1 (the usual one)").arg(shown(standard)), standard);
     for (const PortDevice& device : catalogue_.devices())
         if (device.path != standard)
-            add(device.description.empty() ? shown(device.path)
-                                           : shown(device.path + " (" + device.description + ")"),
-                device.path);
+            add(shown(device.text()), device.path);
     showStates();
 }
 
