@@ -1,38 +1,59 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# A room is a static library of the .cpp files in its folder, main.cpp excepted; it links only the rooms that it may see.
+# A room is a static library of the .cpp files in its folder, main.cpp excepted; it links only the rooms that
+# src/rooms.txt lets it see. The library of the folder view/forms is tally_view_forms.
+set(TALLY_ROOMS_FILE ${CMAKE_SOURCE_DIR}/src/rooms.txt)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${TALLY_ROOMS_FILE})
 
-# tally_room(NAME [LINK room...]): a logic room, plain C++ on the standard library.
-function(tally_room name)
-    cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
-    list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-    add_library(tally_${name} STATIC ${sources})
-    target_include_directories(tally_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(tally_${name} PRIVATE tally_flags)
-    foreach(room ${arg_LINK})
-        target_link_libraries(tally_${name} PUBLIC tally_${room})
-    endforeach()
+# The libraries of the rooms that a room may see.
+function(tally_seen room result)
+    file(STRINGS ${TALLY_ROOMS_FILE} rows REGEX "^${room} ")
+    if(NOT rows)
+        message(FATAL_ERROR "src/rooms.txt has no line for ${room}")
+    endif()
+    string(REGEX REPLACE " +" ";" row "${rows}")
+    list(REMOVE_AT row 0 1)
+    set(seen ${row})
+    list(TRANSFORM seen REPLACE "/" "_")
+    list(TRANSFORM seen PREPEND tally_)
+    set(${result} ${seen} PARENT_SCOPE)
 endfunction()
 
-# tally_qt_room(NAME [LINK room...] [QT library...]): the same on Qt, with the shared precompiled header.
-function(tally_qt_room name)
-    cmake_parse_arguments(arg "" "" "LINK;QT" ${ARGN})
+# The library of the current folder, linked with the rooms it may see; its name is left in `library`.
+macro(tally_room_library)
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/src OUTPUT_VARIABLE room)
+    string(REPLACE "/" "_" library tally_${room})
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
     list(FILTER sources EXCLUDE REGEX "/main\\.cpp$")
-    add_library(tally_${name} STATIC ${sources})
-    set_target_properties(tally_${name} PROPERTIES AUTOMOC ON)
-    target_include_directories(tally_${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(tally_${name} PRIVATE tally_qt_flags PUBLIC Qt6::Widgets ${arg_QT})
-    target_precompile_headers(tally_${name} REUSE_FROM tally_qt_pch)
-    foreach(room ${arg_LINK})
-        target_link_libraries(tally_${name} PUBLIC tally_${room})
-    endforeach()
+    add_library(${library} STATIC ${sources})
+    target_include_directories(${library} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    tally_seen(${room} seen)
+    target_link_libraries(${library} PUBLIC ${seen})
+endmacro()
+
+# tally_room([LIBRARY...]): a logic room, plain C++ on the standard library and what is named.
+function(tally_room)
+    tally_room_library()
+    target_link_libraries(${library} PRIVATE tally_flags PUBLIC ${ARGN})
 endfunction()
 
-# tally_tests(NAME [LINK target...]): one test program of the .cpp files in the current folder.
+# tally_qt_room([LIBRARY...]): the same on Qt, with the shared precompiled header.
+function(tally_qt_room)
+    tally_room_library()
+    set_target_properties(${library} PROPERTIES AUTOMOC ON)
+    target_link_libraries(${library} PRIVATE tally_qt_flags PUBLIC Qt6::Widgets ${ARGN})
+    target_precompile_headers(${library} REUSE_FROM tally_qt_pch)
+endfunction()
+
+# tally_tests([QT] [LINK target...]): one test program of the .cpp files in the current folder, named after it:
+# tests/view/forms gives view_forms_tests. It links the room of the same folder, or what LINK names.
 # Each test runs in its own process, offscreen, with a home of its own, and may take a minute.
-function(tally_tests name)
+function(tally_tests)
     cmake_parse_arguments(arg "QT" "" "LINK;ENVIRONMENT" ${ARGN})
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/tests OUTPUT_VARIABLE room)
+    string(REPLACE "/" "_" name ${room})
+    if(NOT arg_LINK)
+        set(arg_LINK tally_${name})
+    endif()
     file(GLOB sources CONFIGURE_DEPENDS *.cpp *.h)
     if(NOT sources)
         return()

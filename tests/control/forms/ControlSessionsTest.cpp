@@ -2,7 +2,7 @@
 #include "control/forms/Abort.h"
 #include "control/forms/Recover.h"
 
-#include "LinkSupport.h"
+#include "link/forms/LinkSupport.h"
 
 #include <QProgressBar>
 

@@ -2,7 +2,7 @@
 #include "link/forms/Dwnloaditem.h"
 #include "link/forms/Status.h"
 
-#include "LinkSupport.h"
+#include "link/forms/LinkSupport.h"
 
 #include <QMainWindow>
 #include <QProgressBar>

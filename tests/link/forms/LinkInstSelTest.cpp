@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/InstSel.h"
 
-#include "LinkSupport.h"
+#include "link/forms/LinkSupport.h"
 #include "link/forms/InstProperties.h"
 
 #include <QGroupBox>

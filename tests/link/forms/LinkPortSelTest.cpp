@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/PortSel.h"
 
-#include "LinkSupport.h"
+#include "link/forms/LinkSupport.h"
 #include "support/MemorySettings.h"
 
 #include <QGroupBox>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/forms/InitInst.h"
 
-#include "LinkSupport.h"
+#include "link/forms/LinkSupport.h"
 #include "control/ModeLetter.h"
 
 #include <QGroupBox>
