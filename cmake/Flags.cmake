@@ -6,7 +6,7 @@ if(CCACHE_PROGRAM)
     # Paths are taken relative to the source tree: a second clone then finds what the first one compiled.
     set(CMAKE_CXX_COMPILER_LAUNCHER
         ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+        CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 CCACHE_INODECACHE=1 ${CCACHE_PROGRAM})
 endif()
 
 # lld links the test programs in a fraction of the default linker's time.

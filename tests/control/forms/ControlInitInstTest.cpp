@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/forms/InitInst.h"
 
-#include "link/forms/LinkSupport.h"
 #include "control/ModeLetter.h"
+#include "link/forms/LinkSupport.h"
 
 #include <QGroupBox>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/InstSel.h"
 
-#include "link/forms/LinkSupport.h"
 #include "link/forms/InstProperties.h"
+#include "link/forms/LinkSupport.h"
 
 #include <QGroupBox>
 #include <QRadioButton>
