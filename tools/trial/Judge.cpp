@@ -46,7 +46,7 @@ std::vector<std::string> sentTexts(const std::vector<sim::Event>& events) {
 }
 
 // Whether the characters are the beginnings of these texts, one after the other.
-bool areBeginnings(const std::string& characters, const std::vector<std::string>& texts,
+bool areBeginnings(std::string_view characters, const std::vector<std::string>& texts,
                    std::size_t first = 0) {
     if (characters.empty())
         return true;
