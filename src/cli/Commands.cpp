@@ -5,8 +5,8 @@ namespace tally::cli {
 
 const std::vector<AddCommand>& allCommands() {
     static const std::vector<AddCommand> all = {
-        addInfo,  addReadings, addSave,   addCheck, addTable,    addSummary, addPower,   addPlot, addNotes,
-        addForce, addExport,   addSurvey, addPorts, addDownload, addStatus,  addRecover, addInit,
+        addInfo,  addReadings, addSave,   addCheck, addTable, addSummary,  addPower,  addPlot,    addNotes,
+        addForce, addExport,   addSurvey, addTypes, addPorts, addDownload, addStatus, addRecover, addInit,
     };
     return all;
 }

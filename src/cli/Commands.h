@@ -17,7 +17,10 @@ void addPlot(CLI::App& program, Context& context);
 void addNotes(CLI::App& program, Context& context);
 void addForce(CLI::App& program, Context& context);
 void addExport(CLI::App& program, Context& context);
+// table, opendss and gridlabd, below export.
+void addTableExports(CLI::App& exports, Context& context);
 void addSurvey(CLI::App& program, Context& context);
+void addTypes(CLI::App& program, Context& context);
 void addPorts(CLI::App& program, Context& context);
 void addDownload(CLI::App& program, Context& context);
 void addStatus(CLI::App& program, Context& context);

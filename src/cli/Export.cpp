@@ -112,6 +112,7 @@ void addExport(CLI::App& program, Context& context) {
     addCsv(*exports, context);
     addText(*exports, context);
     addMetering(*exports, context);
+    addTableExports(*exports, context);
 }
 
 } // namespace tally::cli

@@ -60,6 +60,8 @@ TEST(TimeAxis, ATripleIsOneEntryAndAnIncompleteOldestOneIsLeftOut) {
         ASSERT_TRUE(axis);
         EXPECT_EQ(axis->points, 3);
         EXPECT_EQ(axis->stride, 3);
+        // The surplus readings stand in an interval of their own before the first whole triple.
+        EXPECT_EQ(axis->start, twoOClock + (surplus == 0 ? 0 : 15));
         EXPECT_EQ(axis->first, std::vector{surplus});
         EXPECT_EQ(axis->reading(0, 1, 2), surplus + 5);
     }
