@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,9 @@ public:
     virtual void PortOpen(bool open) = 0;
     // False also when the line closed itself on its first real error.
     virtual bool isOpen() const = 0;
+    // Who is given every character the moment it arrives, before anything else looks at it, whatever becomes
+    // of it then; nothing for nobody.
+    virtual void onArrival(std::function<void(std::string_view characters)> keep) = 0;
     // What has arrived, at most InputLen characters; empty when nothing has.
     virtual std::string Input() = 0;
     // The same again and again: appends what has arrived until `into` holds `most` characters.

@@ -5,7 +5,7 @@ namespace tally {
 
 namespace {
 
-// Enough to keep the journal's writes few, little enough to look at timers and cancel often.
+// Little enough to look at timers and cancel often.
 constexpr std::size_t mostKept = 1024;
 constexpr std::size_t clockEvery = 64; // kept characters
 
@@ -16,6 +16,7 @@ void Session::openPort() {
     line.Settings(instrument.portSettings);
     line.InputLen(1);
     line.EOFEnable(stopsAtCtrlZ);
+    line.onArrival([&sink = journal](std::string_view characters) { sink.append(characters); });
     line.PortOpen(true);
 }
 
@@ -27,10 +28,7 @@ void Session::closePort() {
 }
 
 void Session::drain(std::size_t most) {
-    const std::size_t before = kept_.size();
     line.inputAll(kept_, most);
-    if (kept_.size() > before)
-        journal.append(std::string_view(kept_).substr(before));
 }
 
 std::string Session::Input() {

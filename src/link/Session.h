@@ -14,8 +14,8 @@
 
 namespace tally {
 
-// What a session with an instrument works on, and the reading of its characters: each goes into the journal
-// the moment it is read, and what comes during a pause is kept for the next read.
+// What a session with an instrument works on, and the reading of its characters: the line hands
+// each to the journal the moment it arrives, and what comes during a pause is kept for the next read.
 class Session {
 public:
     Session(Line& sessionLine, Waiter& sessionWaiter, Prompt& sessionPrompt, Panel& sessionPanel,
@@ -54,7 +54,7 @@ public:
 
 private:
     bool unused() const { return used_ < kept_.size(); }
-    // Reads into the journal and the store, up to `most` characters kept.
+    // Reads into the store, up to `most` characters kept.
     void drain(std::size_t most);
 
     std::string kept_;

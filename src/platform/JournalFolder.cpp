@@ -4,11 +4,12 @@
 #include "core/Fault.h"
 #include "link/JournalText.h"
 #include "platform/Folders.h"
+#include "platform/ReplaceFile.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QDir>
 #include <algorithm>
+#include <filesystem>
 
 namespace tally {
 
@@ -23,7 +24,13 @@ const char* const logEnding = ".log";
 const char* const dataEnding = ".dat";
 
 std::uint64_t sizeOf(const std::string& path) {
-    return static_cast<std::uint64_t>(QFileInfo(QString::fromStdString(path)).size());
+    std::error_code ignored;
+    const auto size = std::filesystem::file_size(path, ignored);
+    return ignored ? 0 : size;
+}
+
+bool isId(const std::string& name) {
+    return !name.empty() && name.find_first_not_of("0123456789-") == std::string::npos;
 }
 
 } // namespace
@@ -31,16 +38,20 @@ std::uint64_t sizeOf(const std::string& path) {
 JournalFolder::JournalFolder(std::string folder, Files& files) : folder_(std::move(folder)), files_(files) {
     syncTimer_.setInterval(syncEvery);
     syncTimer_.setSingleShot(true);
-    QObject::connect(&syncTimer_, &QTimer::timeout, [this] { sync(); });
+    QObject::connect(&syncTimer_, &QTimer::timeout, [this] {
+        if (raw_.isOpen())
+            bring(raw_);
+    });
 }
 
 JournalFolder::~JournalFolder() {
     if (receiving_)
         end(JournalState::interrupted);
+    settle();
 }
 
 std::string JournalFolder::path(const std::string& id, const char* ending) const {
-    if (id.empty() || id.find_first_not_of("0123456789-") != std::string::npos)
+    if (!isId(id))
         throw fault::fileNotFound();
     return folder_ + "/" + id + ending;
 }
@@ -56,10 +67,12 @@ std::string JournalFolder::newId() const {
     }
 }
 
+// A reception that could only be begun keeps its name: a part of it is there.
 void JournalFolder::fail(const std::string& why) {
+    if (bytes_ == 0 && !log_.isOpen())
+        id_.clear();
     raw_.close();
     log_.close();
-    id_.clear();
     problem_ = "The journal of downloads cannot be written in " + folder_ + ": " + why +
                ". A download that is not saved is lost when the program ends.";
     if (!told_ && tell_)
@@ -67,23 +80,72 @@ void JournalFolder::fail(const std::string& why) {
     told_ = true;
 }
 
+// From the thread of the disk.
+void JournalFolder::report(const std::string& why) {
+    {
+        const std::lock_guard lock(mutex_);
+        report_ = why;
+    }
+    QMetaObject::invokeMethod(
+        &syncTimer_, [this] { takeReport(); }, Qt::QueuedConnection);
+}
+
+void JournalFolder::takeReport() {
+    std::string why;
+    {
+        const std::lock_guard lock(mutex_);
+        why.swap(report_);
+    }
+    if (!why.empty())
+        fail(why);
+}
+
+void JournalFolder::settle() {
+    disk_.finish();
+    takeReport();
+}
+
+void JournalFolder::bring(JournalFile file) {
+    disk_.give([this, file]() mutable {
+        if (!file.sync())
+            report(file.error());
+    });
+}
+
+// Another program may take the same name, or a log that is not locked yet for an old one.
+bool JournalFolder::create() {
+    do {
+        id_ = newId();
+        if (log_.create(path(id_, logEnding)))
+            return true;
+    } while (log_.wasThere());
+    return false;
+}
+
 void JournalFolder::begin(const JournalHeader& header) {
     raw_.close();
     log_.close();
-    removeOld(keep - 1);
+    takeReport();
     problem_.clear();
-    id_ = newId();
     bytes_ = 0;
     receiving_ = true;
     folders::make(folder_);
-    if (!log_.create(path(id_, logEnding)) || !log_.write(journalStart(header)) || !log_.sync())
+    if (!create() || !log_.write(journalStart(header)))
         fail(log_.error());
     else if (!raw_.create(path(id_, rawEnding)))
         fail(raw_.error());
+    if (!log_.isOpen())
+        return;
+    bring(log_);
+    disk_.give([this] {
+        if (!syncFolder(folder_))
+            report("the folder cannot be brought to the disk");
+        removeOld(keep);
+    });
 }
 
 void JournalFolder::append(std::string_view bytes) {
-    if (!receiving_ || !raw_.isOpen())
+    if (!receiving_ || !raw_.isOpen() || bytes.empty())
         return;
     if (!raw_.write(bytes)) {
         fail(raw_.error());
@@ -94,13 +156,12 @@ void JournalFolder::append(std::string_view bytes) {
         syncTimer_.start();
 }
 
-void JournalFolder::sync() {
-    if (raw_.isOpen() && !raw_.sync())
-        fail(raw_.error());
-}
-
 void JournalFolder::note(const std::string& line) {
-    if (log_.isOpen() && !(log_.write(line) && log_.sync()))
+    if (!log_.isOpen())
+        return;
+    if (log_.write(line))
+        bring(log_);
+    else
         fail(log_.error());
 }
 
@@ -117,36 +178,55 @@ void JournalFolder::end(JournalState state) {
     if (receiving_) {
         receiving_ = false;
         syncTimer_.stop();
-        sync();
+        if (raw_.isOpen())
+            bring(raw_);
         raw_.close();
     }
     note(journalState(state));
     if (state != JournalState::received)
         log_.close();
     if (bytes_ == 0)
-        removeOld(keep);
+        disk_.give([this] { removeOld(keep); });
 }
 
+// The state is noted when the text is on the disk; until then the journal answers from memory.
 void JournalFolder::accepted(std::string_view text) {
     if (!log_.isOpen())
         return;
-    try {
-        files_.write(path(id_, dataEnding), std::string(text));
-    } catch (const Fault& fault) {
-        fail(fault.what());
-        return;
+    {
+        const std::lock_guard lock(mutex_);
+        accepting_ = Accepting{id_, std::string(text)};
     }
-    end(JournalState::accepted);
+    disk_.give([this, log = log_, kept = Accepting{id_, std::string(text)}]() mutable {
+        std::string why;
+        try {
+            replaceFile(path(kept.id, dataEnding), kept.text, Access::owner);
+            if (!log.write(journalState(JournalState::accepted)) || !log.sync())
+                why = log.error();
+        } catch (const Fault& fault) {
+            why = fault.what();
+        }
+        {
+            const std::lock_guard lock(mutex_);
+            accepting_.reset();
+        }
+        if (!why.empty())
+            report(why);
+    });
+    log_.close();
+}
+
+std::optional<JournalFolder::Accepting> JournalFolder::accepting(const std::string& id) const {
+    const std::lock_guard lock(mutex_);
+    return accepting_ && accepting_->id == id ? accepting_ : std::nullopt;
 }
 
 std::vector<std::string> JournalFolder::ids() const {
     std::vector<std::string> all;
-    const QDir dir(QString::fromStdString(folder_));
-    for (const QString& name : dir.entryList({QStringLiteral("*.log")}, QDir::Files, QDir::NoSort)) {
-        const std::string id = name.chopped(4).toStdString();
-        if (!id.empty() && id.find_first_not_of("0123456789-") == std::string::npos)
-            all.push_back(id);
-    }
+    std::error_code ignored;
+    for (const auto& file : std::filesystem::directory_iterator(folder_, ignored))
+        if (file.path().extension() == logEnding && isId(file.path().stem().string()))
+            all.push_back(file.path().stem().string());
     std::sort(all.rbegin(), all.rend());
     return all;
 }
@@ -161,6 +241,8 @@ std::optional<JournalEntry> JournalFolder::entry(const std::string& id) const {
         return {};
     JournalEntry found{.id = id, .header = record.header, .clockDifference = record.clockDifference};
     found.state = record.state.value_or(held ? JournalState::receiving : JournalState::interrupted);
+    if (accepting(id))
+        found.state = JournalState::accepted;
     found.bytes = bytes - std::min(bytes, record.partStart);
     if (bytes > 0) {
         const std::string start = files_.read(raw, record.partStart + describedBy);
@@ -184,6 +266,8 @@ std::vector<JournalEntry> JournalFolder::list() const {
 }
 
 std::string JournalFolder::text(const std::string& id) const {
+    if (const auto onItsWay = accepting(id))
+        return onItsWay->text;
     const std::string data = path(id, dataEnding);
     if (files_.exists(data))
         return files_.read(data, mostText);
@@ -193,20 +277,32 @@ std::string JournalFolder::text(const std::string& id) const {
 }
 
 void JournalFolder::mark(const std::string& id, JournalState state) {
+    // What became of it before stands before it.
+    settle();
     JournalFile log;
     if (!log.open(path(id, logEnding)))
         throw files_.exists(path(id, logEnding)) ? fault::pathFileAccess() : fault::fileNotFound();
     if (!log.write(journalState(state)) || !log.sync())
-        throw fault::deviceIo();
+        throw log.isFull() ? fault::diskFull() : fault::deviceIo();
 }
 
 void JournalFolder::accept(const std::string& id, std::string_view text) {
-    files_.write(path(id, dataEnding), std::string(text));
+    replaceFile(path(id, dataEnding), text, Access::owner);
     mark(id, JournalState::accepted);
 }
 
+bool JournalFolder::keeps(const std::string& id) {
+    settle();
+    try {
+        const auto found = id.empty() ? std::nullopt : entry(id);
+        return found && found->state == JournalState::accepted && files_.exists(path(id, dataEnding));
+    } catch (const Fault&) {
+        return false;
+    }
+}
+
 // Keeps the last ones, every unsaved one and those that are being written.
-void JournalFolder::removeOld(std::size_t most) {
+void JournalFolder::removeOld(std::size_t most) const {
     std::size_t kept = 0;
     for (const std::string& id : ids()) {
         std::optional<JournalEntry> found;
@@ -218,11 +314,16 @@ void JournalFolder::removeOld(std::size_t most) {
         const bool wanted =
             found && (kept < most || isUnsaved(found->state) || found->state == JournalState::receiving);
         kept += found ? 1 : 0;
-        // The log goes last: without it the others would never be found again.
         if (!wanted)
-            for (const char* ending : {rawEnding, dataEnding, logEnding})
-                QFile::remove(QString::fromStdString(path(id, ending)));
+            whileHeld(path(id, logEnding), [&] { remove(id); });
     }
+}
+
+// The log goes last: without it the others would never be found again.
+void JournalFolder::remove(const std::string& id) const {
+    std::error_code ignored;
+    for (const char* ending : {rawEnding, dataEnding, logEnding})
+        std::filesystem::remove(path(id, ending), ignored);
 }
 
 } // namespace tally

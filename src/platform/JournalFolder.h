@@ -3,17 +3,21 @@
 
 #include "core/Files.h"
 #include "link/Journal.h"
+#include "platform/DiskThread.h"
 #include "platform/JournalFile.h"
 
 #include <QTimer>
 #include <functional>
+#include <mutex>
+#include <optional>
 #include <string>
 
 namespace tally {
 
 // The journal as files of a folder, three to a reception: ".raw" the characters as they came, ".log" what is
-// known about them, ".dat" the accepted text. Characters are with the system at once and on the disk within a
-// second.
+// known about them, ".dat" the accepted text; all for this user alone. Characters are with the system at once and
+// on the disk within a second; a thread of the journal's own waits for the disk. What it could not do is told when
+// the event loop runs.
 class JournalFolder : public Journal {
 public:
     JournalFolder(std::string folder, Files& files);
@@ -34,17 +38,32 @@ public:
     std::string text(const std::string& id) const override;
     void mark(const std::string& id, JournalState state) override;
     void accept(const std::string& id, std::string_view text) override;
+    bool keeps(const std::string& id) override;
     std::string problem() const override { return problem_; }
 
+    // Waits until everything is on the disk, or was told that it is not.
+    void settle();
+
 private:
+    // An accepted text on its way to the disk.
+    struct Accepting {
+        std::string id;
+        std::string text;
+    };
+
     std::string path(const std::string& id, const char* ending) const;
     std::string newId() const;
     std::vector<std::string> ids() const; // newest first
     std::optional<JournalEntry> entry(const std::string& id) const;
+    bool create();
+    std::optional<Accepting> accepting(const std::string& id) const;
     void note(const std::string& line);
-    void sync();
+    void bring(JournalFile file);
+    void report(const std::string& why);
+    void takeReport();
     void fail(const std::string& why);
-    void removeOld(std::size_t most);
+    void removeOld(std::size_t most) const;
+    void remove(const std::string& id) const;
 
     std::string folder_;
     Files& files_;
@@ -57,6 +76,11 @@ private:
     std::uint64_t bytes_ = 0;
     bool receiving_ = false;
     bool told_ = false;
+
+    mutable std::mutex mutex_; // of what the thread shares
+    std::optional<Accepting> accepting_;
+    std::string report_;
+    DiskThread disk_; // ends first
 };
 
 } // namespace tally

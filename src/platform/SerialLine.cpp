@@ -62,9 +62,7 @@ SerialLine::SerialLine(DeviceOf deviceOf) : deviceOf_(std::move(deviceOf)) {
     port_.setReadBufferSize(mostBuffered);
     connect(&port_, &QSerialPort::errorOccurred, this, &SerialLine::onError);
     connect(&port_, &QSerialPort::readyRead, this, [this] {
-        if (ended_)
-            port_.readAll();
-        else
+        if (arrive())
             Q_EMIT stirred();
     });
 }
@@ -158,8 +156,7 @@ void SerialLine::onError(QSerialPort::SerialPortError error) {
     if (bestEffort_ || !port_.isOpen() || !isReal(error))
         return;
     bestEffort_ = true;
-    arrived_ = arrived_.mid(used_) + port_.readAll();
-    used_ = 0;
+    arrive();
     bestEffort_ = false;
     problem_ = error == QSerialPort::WriteError
                    ? "The serial line " + name() + " takes no more characters. It was closed."
@@ -186,17 +183,26 @@ bool SerialLine::hasNews() const {
     return lost_ || (!ended_ && (used_ < arrived_.size() || port_.bytesAvailable() > 0));
 }
 
-bool SerialLine::fill() {
-    if (port_.bytesAvailable() == 0)
+// Everything that the port holds, first to whoever keeps it. False when nothing is to be read from it.
+bool SerialLine::arrive() {
+    if (port_.bytesAvailable() == 0 || arrived_.size() - used_ >= mostBuffered)
         return false;
-    arrived_ = port_.readAll();
+    const QByteArray piece = port_.readAll();
+    if (keep_)
+        keep_({piece.constData(), static_cast<std::size_t>(piece.size())});
+    if (ended_)
+        return false;
+    if (used_ == arrived_.size())
+        arrived_ = piece;
+    else
+        arrived_ = arrived_.mid(used_) + piece;
     used_ = 0;
-    return !arrived_.isEmpty();
+    return !piece.isEmpty();
 }
 
 // The next characters, up to `most` and to ctrl/Z; they stay valid until the next call.
 std::string_view SerialLine::take(std::size_t most) {
-    if (ended_ || (used_ == arrived_.size() && !fill()))
+    if (ended_ || (used_ == arrived_.size() && !arrive()))
         return {};
     std::string_view piece(arrived_.constData() + used_, static_cast<std::size_t>(arrived_.size() - used_));
     piece = piece.substr(0, most);

@@ -28,6 +28,7 @@ public:
     // Throws also Fault 8002 for a device that is no serial line; problem() tells the cases apart.
     void PortOpen(bool open) override;
     bool isOpen() const override { return port_.isOpen(); }
+    void onArrival(std::function<void(std::string_view)> keep) override { keep_ = std::move(keep); }
     std::string Input() override;
     void inputAll(std::string& into, std::size_t most) override;
     // Does nothing on a closed line.
@@ -45,12 +46,13 @@ private:
     void open();
     void onError(QSerialPort::SerialPortError error);
     void close();
-    bool fill();
+    bool arrive();
     std::string_view take(std::size_t most);
     // "COM3 (/dev/ttyUSB0)"
     std::string name() const;
 
     DeviceOf deviceOf_;
+    std::function<void(std::string_view)> keep_;
     QSerialPort port_;
     std::string device_;
     std::string problem_;

@@ -106,6 +106,25 @@ TEST(SerialLine, TakesAllThatHasArrivedUpToABoundAndToCtrlZ) {
     EXPECT_EQ(all, "kept abcd\x1a");
 }
 
+TEST(SerialLine, EveryCharacterIsKeptBeforeAnythingLooksAtIt) {
+    OpenLine port;
+    port.line.EOFEnable(true);
+    port.line.InputLen(1);
+    std::string kept;
+    port.line.onArrival([&](std::string_view characters) { kept += characters; });
+    port.open();
+    port.pty->write("abc\x1a"
+                    "de");
+    ASSERT_EQ(port.waiter.until(port.waiter.now() + testing::patience), Wake::data);
+    EXPECT_EQ(kept, "abc\x1a"
+                    "de");
+    EXPECT_EQ(port.read(4), "abc\x1a");
+    port.pty->write("fg");
+    EXPECT_EQ(port.waiter.until(port.waiter.now() + 100), Wake::due);
+    EXPECT_EQ(kept, "abc\x1a"
+                    "defg");
+}
+
 TEST(SerialLine, CtrlZIsPlainDataWhenTheRuleIsOff) {
     OpenLine port;
     port.open();

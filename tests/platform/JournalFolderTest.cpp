@@ -12,6 +12,9 @@
 
 #ifndef Q_OS_WIN
 #include <csignal>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #endif
@@ -40,6 +43,7 @@ struct JournalFolderTest : ::testing::Test {
         const std::string id = journal.id();
         journal.append(text);
         journal.end(state);
+        journal.settle();
         return id;
     }
     QStringList names() const {
@@ -99,6 +103,31 @@ TEST_F(JournalFolderTest, anAcceptedTextIsWhatIsSavedLater) {
     EXPECT_EQ(journal.text(id), "KWT 000");
     journal.mark(id, JournalState::saved);
     EXPECT_EQ(journal.list().at(0).state, JournalState::saved);
+}
+
+TEST_F(JournalFolderTest, anAcceptedTextCanBeReadBeforeItIsOnTheDisk) {
+    for (int i = 0; i < 20; ++i) {
+        journal.begin(header);
+        journal.append("kwt 999");
+        journal.end(JournalState::received);
+        journal.accepted("KWT 000");
+        EXPECT_EQ(journal.list().at(0).state, JournalState::accepted);
+        EXPECT_EQ(journal.text(journal.id()), "KWT 000");
+        EXPECT_TRUE(journal.keeps(journal.id()));
+        journal.mark(journal.id(), JournalState::dropped);
+        EXPECT_FALSE(journal.keeps(journal.id()));
+    }
+}
+
+TEST_F(JournalFolderTest, onlyAnAcceptedTextOnTheDiskIsKept) {
+    const std::string id = receive("KWT", JournalState::received);
+    EXPECT_FALSE(journal.keeps(id));
+    EXPECT_FALSE(journal.keeps(""));
+    EXPECT_FALSE(journal.keeps("20200101-000000-000-1"));
+    journal.accept(id, "KWT");
+    EXPECT_TRUE(journal.keeps(id));
+    QFile::remove(QString::fromStdString(folder + "/" + id + ".dat"));
+    EXPECT_FALSE(journal.keeps(id));
 }
 
 TEST_F(JournalFolderTest, anInterruptedReceptionCanBeAcceptedLater) {
@@ -188,6 +217,63 @@ TEST_F(JournalFolderTest, strangeAndDamagedFilesAreReadAsFarAsTheyGo) {
 }
 
 #ifndef Q_OS_WIN
+TEST_F(JournalFolderTest, everyFileIsForThisUserAlone) {
+    const mode_t before = umask(0);
+    journal.begin(header);
+    journal.append("KWT");
+    journal.end(JournalState::received);
+    journal.accepted("KWT");
+    journal.settle();
+    const std::string second = receive("PQX", JournalState::interrupted);
+    journal.accept(second, "PQX");
+    umask(before);
+    ASSERT_EQ(names().size(), 6);
+    for (const QString& name : names()) {
+        struct stat facts = {};
+        ASSERT_EQ(stat((folder + "/" + name.toStdString()).c_str(), &facts), 0);
+        EXPECT_EQ(facts.st_mode & 07777U, 0600U) << name.toStdString();
+    }
+}
+
+// A limit on the size of files stands for a disk that fills up in the middle of a reception.
+TEST_F(JournalFolderTest, aDiskThatFillsUpLeavesWhatItTookAndSaysWhy) {
+    rlimit usual = {};
+    getrlimit(RLIMIT_FSIZE, &usual);
+    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    journal.begin(header);
+    const std::string id = journal.id();
+    rlimit small = usual;
+    small.rlim_cur = 1000;
+    setrlimit(RLIMIT_FSIZE, &small);
+    journal.append(std::string(800, 'a'));
+    EXPECT_TRUE(told.empty());
+    journal.append(std::string(800, 'b'));
+    journal.append(std::string(100, 'c'));
+    journal.end(JournalState::received);
+    journal.accepted(std::string(1700, 'x'));
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, handler);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_NE(told[0].find("File too large"), std::string::npos);
+    EXPECT_EQ(journal.id(), id);
+    EXPECT_FALSE(journal.keeps(id));
+    EXPECT_EQ(journal.list().at(0).state, JournalState::interrupted);
+    EXPECT_EQ(journal.text(id), std::string(800, 'a') + std::string(200, 'b'));
+}
+
+TEST_F(JournalFolderTest, aLogThatAnotherProgramHoldsIsNotRemoved) {
+    const std::string id = "20200101-000000-000-1";
+    receive("abc", JournalState::saved);
+    QFile log(QString::fromStdString(folder + "/" + id + ".log"));
+    ASSERT_TRUE(log.open(QIODevice::WriteOnly));
+    ASSERT_EQ(flock(log.handle(), LOCK_EX), 0);
+    receive("", JournalState::interrupted);
+    EXPECT_TRUE(log.exists());
+    log.close();
+    receive("", JournalState::interrupted);
+    EXPECT_FALSE(log.exists());
+}
+
 TEST_F(JournalFolderTest, aProgramThatIsKilledLeavesEveryByteAndNoLock) {
     int pipeEnds[2];
     ASSERT_EQ(pipe(pipeEnds), 0);

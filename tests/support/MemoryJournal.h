@@ -56,6 +56,9 @@ public:
         return at(id).accepted.empty() ? at(id).parts.back() : at(id).accepted;
     }
     void mark(const std::string& id, JournalState state) override { at(id).state = state; }
+    bool keeps(const std::string& id) override {
+        return trouble.empty() && !id.empty() && at(id).state == JournalState::accepted;
+    }
     std::string problem() const override { return trouble; }
 
 private:

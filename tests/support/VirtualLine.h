@@ -47,6 +47,8 @@ public:
     void send(const std::string& characters) {
         if (!open_)
             return;
+        if (keep_)
+            keep_(characters);
         for (const char c : characters)
             if (!ended_) {
                 arrived_ += c;
@@ -105,6 +107,7 @@ public:
             onOpen(settings_);
     }
     bool isOpen() const override { return open_; }
+    void onArrival(std::function<void(std::string_view)> keep) override { keep_ = std::move(keep); }
     std::string Input() override {
         if (unread() == 0)
             return {};
@@ -122,6 +125,7 @@ private:
     void note(const std::string& what) { calls.push_back({waiter_.now(), what}); }
 
     VirtualWaiter& waiter_;
+    std::function<void(std::string_view)> keep_;
     std::string settings_;
     std::string arrived_;
     std::size_t read_ = 0;

@@ -1,0 +1,187 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every writer of files against every stage at which a disk can fail or the program can be killed.
+#include "Desk.h"
+
+#include "support/Places.h"
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+namespace tally::faults {
+
+namespace {
+
+using testing::Finished;
+using testing::runProgram;
+using testing::TemporaryFolder;
+namespace fs = std::filesystem;
+
+struct Stage {
+    std::string name;
+    std::string rule;
+    bool kills = false;
+};
+
+const std::vector<Stage> stages = {
+    {"the disk is full at the first write", "write 1 error " + std::to_string(ENOSPC)},
+    {"the quota is used up", "write 1 error " + std::to_string(EDQUOT)},
+    {"an error while writing", "write 1 error " + std::to_string(EIO)},
+    {"the sync finds the disk full", "datasync 1 error " + std::to_string(ENOSPC)},
+    {"the sync finds an error", "datasync 1 error " + std::to_string(EIO)},
+    {"the first sync of the folder fails", "sync 1 error " + std::to_string(EIO)},
+    {"the second sync of the folder fails", "sync 2 error " + std::to_string(EIO)},
+    {"the renaming is refused", "rename 0 error " + std::to_string(EACCES)},
+    {"killed before the write", "write 1 kill", true},
+    {"killed after the write", "write 1 killafter", true},
+    {"killed at the sync", "datasync 1 kill", true},
+    {"killed before the renaming", "rename 1 kill", true},
+    {"killed after the renaming", "rename 1 killafter", true},
+};
+
+struct Writer {
+    std::string name;
+    std::string output; // in its folder
+    std::vector<std::string> arguments;
+    std::string old = "the old file\n"; // nothing: what the writer wrote the time before
+    std::string program = "tallyline-cli";
+    bool tellsByStatus = true; // the settings only say it
+};
+
+std::vector<Writer> writers(const std::string& in) {
+    const std::string data = in + "/feeder.dat";
+    const std::string oldNotes = TemporaryFolder::read(::testing::sourceDir() + "/samples/feeder-15min.not");
+    const std::string feeder = "Maple:" + data + "," + data + "," + data;
+    return {
+        {"data file", "out.dat", {"save", data, "-o", in + "/out.dat"}},
+        {"forced readings", "out.dat", {"force", data, "--value", "12", "-o", in + "/out.dat"}},
+        {"notes", "feeder.not", {"notes", data, "--location", "New place"}, oldNotes},
+        {"CSV export", "", {"export", "csv", data, "--dir", in}},
+        {"text export", "", {"export", "text", data, "--dir", in}},
+        {"metering export", "", {"export", "metering", data, "--id", "ABCDEFGHIJKLMN", "--volts", "480", "--dir", in}},
+        {"picture, PNG", "out.png", {"plot", data, "-o", in + "/out.png"}},
+        {"picture, PDF", "out.pdf", {"plot", data, "-o", in + "/out.pdf"}},
+        {"picture, SVG", "out.svg", {"plot", data, "-o", in + "/out.svg"}},
+        {"survey report", "out.pdf", {"survey", "--station", "N", "--feeder", feeder, "--print", in + "/out.pdf"}},
+        {"checked text", "out.txt", {"check", in + "/received.txt", "-o", in + "/out.txt"}},
+        {"settings", "out.ini", {"--inside", "settings", in + "/out.ini"}, "", "tallyline_faults", false},
+    };
+}
+
+std::set<std::string> namesIn(const std::string& folder) {
+    std::set<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder))
+        names.insert(entry.path().filename().string());
+    return names;
+}
+
+void putInputs(const std::string& folder) {
+    fs::remove_all(folder);
+    fs::create_directories(folder);
+    const std::string sample = ::testing::sourceDir() + "/samples/feeder-15min";
+    fs::copy_file(sample + ".dat", folder + "/feeder.dat");
+    fs::copy_file(sample + ".dat", folder + "/received.txt");
+}
+
+// The name of what a writer writes, found out by letting it write.
+std::string outputOf(Desk& desk, const Writer& writer, const std::string& folder) {
+    const auto before = namesIn(folder);
+    const Finished done = runProgram(writer.program, writer.arguments);
+    for (const std::string& name : namesIn(folder))
+        if (before.count(name) == 0 && (writer.output.empty() || name == writer.output))
+            return name;
+    desk.wrong(writer.name + ": writes nothing, status " + std::to_string(done.status) + " " + done.err);
+    return {};
+}
+
+class Trial {
+public:
+    Trial(Desk& desk, const Writer& writer, std::string folder, std::string output)
+        : desk_(desk),
+          writer_(writer),
+          folder_(std::move(folder)),
+          file_(folder_ + "/" + output),
+          old_(writer.old.empty() ? TemporaryFolder::read(file_) : writer.old) {}
+
+    // False when the writer never came to that stage.
+    bool run(const Stage& stage) {
+        stage_ = stage.name;
+        fs::remove(file_);
+        std::ofstream(file_, std::ios::binary) << old_;
+        const auto before = namesIn(folder_);
+        bool struck = false;
+        {
+            const Fault fault(desk_, stage.rule, folder_);
+            done_ = runProgram(writer_.program, writer_.arguments);
+            struck = fault.struck() > 0;
+        }
+        if (!struck)
+            return false;
+        if (stage.kills)
+            afterKill();
+        else
+            afterError(before);
+        return true;
+    }
+
+private:
+    void expect(bool right, const std::string& what) {
+        if (!right)
+            desk_.wrong(writer_.name + ", " + stage_ + ": " + what + "; status " +
+                        std::to_string(done_.status) + " " + done_.err);
+    }
+    void afterError(const std::set<std::string>& before) {
+        expect(TemporaryFolder::read(file_) == old_, "the old file is not as it was");
+        expect(!writer_.tellsByStatus || done_.status == 1, "no exit status 1");
+        expect(!done_.err.empty(), "nothing was said");
+        expect(namesIn(folder_) == before, "something was left");
+    }
+    void afterKill() {
+        expect(done_.status == 128 + SIGKILL, "not killed");
+        const std::string now = TemporaryFolder::read(file_);
+        done_ = runProgram(writer_.program, writer_.arguments);
+        const std::string whole = TemporaryFolder::read(file_);
+        expect(done_.status == 0, "cannot write afterwards");
+        // A PDF carries its time, so that only its size can be compared.
+        expect(now == old_ || now.size() == whole.size(), "the file is neither the old nor the new one");
+        for (const std::string& name : namesIn(folder_))
+            expect(name.find(".part") == std::string::npos, "something was left after the next save");
+    }
+
+    Desk& desk_;
+    const Writer& writer_;
+    std::string folder_;
+    std::string file_;
+    std::string old_;
+    std::string stage_;
+    Finished done_;
+};
+
+} // namespace
+
+void tryWriters(Desk& desk) {
+    const std::string folder = desk.folder.path("writers");
+    int trials = 0;
+    const int before = desk.bad;
+    for (const Writer& writer : writers(folder)) {
+        putInputs(folder);
+        const std::string output = outputOf(desk, writer, folder);
+        if (output.empty())
+            continue;
+        Trial trial(desk, writer, folder, output);
+        for (std::size_t i = 0; i < stages.size(); ++i) {
+            // The short form meets every stage, but not with every writer.
+            if (desk.isBrief && desk.roll(1, 4) != 1)
+                continue;
+            ++trials;
+            if (!trial.run(stages[i]))
+                desk.wrong(writer.name + " never comes to: " + stages[i].name);
+        }
+    }
+    desk.figure("writers at every stage of a failing disk", trials,
+                std::to_string(desk.bad - before) + " wrong");
+}
+
+} // namespace tally::faults
