@@ -78,8 +78,8 @@ public:
     virtual void mark(const std::string& id, JournalState state) = 0;
     // Keeps the text that the user accepted of a reception. Throws file faults.
     virtual void accept(const std::string& id, std::string_view text) = 0;
-    // Whether the accepted text of a reception is on the disk; waits for the disk. What is not there is nowhere
-    // but in memory.
+    // Whether the accepted text of a reception is on the disk; waits for the disk. What is not there is
+    // nowhere but in memory.
     virtual bool keeps(const std::string& id) = 0;
     // Why receptions cannot be kept on disk, in words for the user; empty when they can.
     virtual std::string problem() const = 0;

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-// The well-known folders of this user and machine, as UTF-8 paths with "/"; not made before they are written
-// to.
+// The well-known folders of this user and machine, as paths with "/" (bytes; elsewhere than on Windows where
+// the environment says so with an absolute path); not made before they are written to.
 namespace tally::folders {
 
 std::string config(); // settings
@@ -18,7 +18,7 @@ std::string settingsFile();
 // Where a recover reads its text back from: never a folder that others can write to. Makes the folder.
 std::string recoverFile();
 
-// Makes a folder and those above it; false when that cannot be done.
+// Makes a folder and those above it, for this user alone; false when that cannot be done.
 bool make(const std::string& folder);
 
 struct Volume {

@@ -15,9 +15,9 @@
 namespace tally {
 
 // The journal as files of a folder, three to a reception: ".raw" the characters as they came, ".log" what is
-// known about them, ".dat" the accepted text; all for this user alone. Characters are with the system at once and
-// on the disk within a second; a thread of the journal's own waits for the disk. What it could not do is told when
-// the event loop runs.
+// known about them, ".dat" the accepted text; all for this user alone. Characters are with the system at once
+// and on the disk within a second; a thread of the journal's own waits for the disk. What it could not do is
+// told when the event loop runs.
 class JournalFolder : public Journal {
 public:
     JournalFolder(std::string folder, Files& files);

@@ -157,7 +157,9 @@ void describeLine(CLI::App& app, Raw& raw, Arguments& arguments) {
 
 void describeProgram(CLI::App& app, Arguments& arguments) {
     app.add_option("--link", arguments.link, "Makes a symbolic link to the device at this path");
-    app.add_option("--record", arguments.record, "Writes all that is sent and received into this file");
+    auto* record =
+        app.add_option("--record", arguments.record, "Writes all that is sent and received into this file");
+    app.add_flag("--overwrite", arguments.overwrite, "Replaces the record that is there")->needs(record);
     auto* replay = app.add_option("--replay", arguments.replay, "Plays such a file back instead");
     app.add_option("--script", arguments.script, "Follows the steps in this file")->excludes(replay);
     app.add_flag("--loop", arguments.loop,

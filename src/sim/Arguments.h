@@ -13,6 +13,7 @@ struct Arguments {
     InstrumentSetup setup;
     std::string link;
     std::string record;
+    bool overwrite = false; // of the record
     std::string replay;
     std::string script;
     std::string dtr;    // pipe

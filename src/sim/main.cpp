@@ -8,6 +8,7 @@
 #include <csignal>
 #include <ctime>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -113,6 +114,8 @@ int run(const Arguments& arguments) {
     std::ofstream file;
     std::unique_ptr<Recorder> recorder;
     if (!arguments.record.empty()) {
+        if (!arguments.overwrite && std::filesystem::is_regular_file(arguments.record))
+            throw std::runtime_error(arguments.record + " is there already; --overwrite replaces it");
         file.open(arguments.record);
         if (!file)
             throw std::runtime_error(arguments.record + " cannot be written");

@@ -52,8 +52,8 @@ int begin(const std::string& folder, int count) {
     return 0;
 }
 
-// Receives for some seconds at the pace of 115,200 baud while a clock of the event loop ticks; says the longest
-// pause between two ticks, in milliseconds.
+// Receives for some seconds at the pace of 115,200 baud while a clock of the event loop ticks; says the
+// longest pause between two ticks, in milliseconds.
 int pause(const std::string& folder) {
     using Clock = std::chrono::steady_clock;
     sim::Pty pty;

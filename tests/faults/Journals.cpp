@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// What the journal of downloads keeps when the program is killed, the cable pulled out, the disk slow, and when
-// many programs begin at once.
+// What the journal of downloads keeps when the program is killed, the cable pulled out, the disk slow, and
+// when many programs begin at once.
 #include "Desk.h"
 
 #include "link/Rescue.h"
@@ -47,9 +47,9 @@ std::string freshHome(const Desk& desk) {
 // An instrument at 115,200 baud with the longest recording; `speed` 0 sends as fast as it is read.
 std::unique_ptr<Background> instrument(const std::string& speed, std::string& device,
                                        const std::vector<std::string>& more = {}) {
-    std::vector<std::string> arguments = {"--type", "8",     "--clock",      "03-15-24 14:05",
-                                          "--stopped", "--speed", speed, "--plug",
-                                          "0.05",   "--quiet", "--with-parent"};
+    std::vector<std::string> arguments = {"--type",    "8",       "--clock",      "03-15-24 14:05",
+                                          "--stopped", "--speed", speed,          "--plug",
+                                          "0.05",      "--quiet", "--with-parent"};
     arguments.insert(arguments.end(), more.begin(), more.end());
     auto started = std::make_unique<Background>(program("tallyline-sim"), arguments);
     device = started->line().substr(6);
@@ -99,8 +99,8 @@ void killSeries(Desk& desk, const std::string& name, int trials, const std::stri
             desk.wrong(name + ": " + std::to_string(lost) + " characters lost");
     }
     desk.figure(name, trials,
-                std::to_string(losing) + " lost something, " + std::to_string(all) +
-                    " characters in all, " + std::to_string(worst) + " at worst");
+                std::to_string(losing) + " lost something, " + std::to_string(all) + " characters in all, " +
+                    std::to_string(worst) + " at worst");
 }
 
 int countOf(const Desk& desk, int brief, int whole) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// tallyline_faults [--brief] [--seed N] [KIND...]: lets the programs meet failing disks, kills and pulled cables,
-// and prints one line of figures for each kind of trial. Exit status 1 when something went wrong.
+// tallyline_faults [--brief] [--seed N] [KIND...]: lets the programs meet failing disks, kills and pulled
+// cables, and prints one line of figures for each kind of trial. Exit status 1 when something went wrong.
 #include "Desk.h"
 
 #include <algorithm>

@@ -6,7 +6,8 @@
 //                     ACTION error NUMBER (errno; a write takes half before it), kill, killafter,
 //                            before NUMBER or after NUMBER (milliseconds of waiting)
 //   TALLY_FAULT_PATH  only files whose path holds this text
-//   TALLY_FAULT_SEEN  a file of two 64-bit numbers that are kept up to date: how often a fault struck, and how
+//   TALLY_FAULT_SEEN  a file of two 64-bit numbers that are kept up to date: how often a fault struck, and
+//   how
 //                     many characters were read from terminals
 #include <atomic>
 #include <cerrno>
@@ -50,7 +51,8 @@ struct State {
     std::atomic<long> counted[calls] = {};
 };
 
-template <typename Function> Function next(const char* name) {
+template <typename Function>
+Function next(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 }
 
@@ -78,8 +80,8 @@ State& state() {
         fresh->path = getenv("TALLY_FAULT_PATH");
         const char* seen = getenv("TALLY_FAULT_SEEN");
         const int file = seen != nullptr ? open(seen, O_RDWR | O_CLOEXEC) : -1;
-        void* shared = file < 0 ? MAP_FAILED
-                                : mmap(nullptr, sizeof(Seen), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
+        void* shared =
+            file < 0 ? MAP_FAILED : mmap(nullptr, sizeof(Seen), PROT_READ | PROT_WRITE, MAP_SHARED, file, 0);
         if (shared != MAP_FAILED)
             fresh->seen = static_cast<Seen*>(shared);
         return fresh;
@@ -87,7 +89,15 @@ State& state() {
     return made;
 }
 
+// Lock files come and go beside what is written.
+bool isLock(const char* path) {
+    const std::size_t length = std::strlen(path);
+    return length > 5 && std::strcmp(path + length - 5, ".lock") == 0;
+}
+
 bool isOurs(const char* path) {
+    if (isLock(path))
+        return false;
     return state().path == nullptr || std::strstr(path, state().path) != nullptr;
 }
 
@@ -131,7 +141,8 @@ bool before(const Rule* rule) {
     return is(rule, "error");
 }
 
-template <typename Result> Result after(const Rule* rule, Result result) {
+template <typename Result>
+Result after(const Rule* rule, Result result) {
     const int error = errno;
     if (is(rule, "killafter"))
         kill(getpid(), SIGKILL);
@@ -141,7 +152,8 @@ template <typename Result> Result after(const Rule* rule, Result result) {
     return result;
 }
 
-template <typename Make> int call(Call kind, bool ours, const Make& make) {
+template <typename Make>
+int call(Call kind, bool ours, const Make& make) {
     const Rule* rule = ours ? strike(kind) : nullptr;
     return before(rule) ? -1 : after(rule, make());
 }

@@ -4,6 +4,10 @@
 #include "platform/QtClock.h"
 
 #include <QDir>
+#include <QTemporaryDir>
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 #include <gmock/gmock.h>
 #include <thread>
 
@@ -17,6 +21,59 @@ TEST(Folders, SettingsStandInTheProgramsOwnFolderOfTheUser) {
     EXPECT_NE(folders::config(), folders::cache());
     EXPECT_THAT(folders::data(), EndsWith("/Tallyline"));
 }
+
+#ifndef Q_OS_WIN
+// Sets a variable of the environment for one test.
+class Variable {
+public:
+    Variable(const char* name, const char* value)
+        : name_(name), had_(qEnvironmentVariableIsSet(name)), old_(qgetenv(name)) {
+        qputenv(name, value);
+    }
+    ~Variable() {
+        if (had_)
+            qputenv(name_, old_);
+        else
+            qunsetenv(name_);
+    }
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+private:
+    const char* name_;
+    bool had_;
+    QByteArray old_;
+};
+
+TEST(Folders, StandWhereTheEnvironmentSaysByteForByte) {
+    const Variable data("XDG_DATA_HOME", "/some/pl\xff"
+                                         "ce");
+    EXPECT_EQ(folders::data(), "/some/pl\xff"
+                               "ce/Tallyline");
+}
+
+TEST(Folders, ARelativePathInTheEnvironmentIsIgnored) {
+    const Variable home("HOME", "/home/somebody");
+    const Variable data("XDG_DATA_HOME", "data");
+    const Variable config("XDG_CONFIG_HOME", "./config");
+    const Variable cache("XDG_CACHE_HOME", "");
+    EXPECT_EQ(folders::data(), "/home/somebody/.local/share/Tallyline");
+    EXPECT_EQ(folders::config(), "/home/somebody/.config/Tallyline");
+    EXPECT_EQ(folders::cache(), "/home/somebody/.cache/Tallyline");
+}
+
+TEST(Folders, AreMadeWithThoseAboveThemForThisUserAlone) {
+    const QTemporaryDir dir;
+    const std::string folder = dir.path().toStdString() + "/a/b";
+    EXPECT_TRUE(folders::make(folder));
+    EXPECT_TRUE(folders::make(folder));
+    EXPECT_TRUE(folders::make(folder + "/"));
+    struct stat facts = {};
+    ASSERT_EQ(stat(folder.c_str(), &facts), 0);
+    EXPECT_EQ(facts.st_mode & 07777U, 0700U);
+    EXPECT_FALSE(folders::make("/proc/no/such"));
+}
+#endif
 
 TEST(Folders, HomeIsTheFirstPlaceToChooseAFolderFrom) {
     const auto volumes = folders::volumes();
