@@ -24,13 +24,16 @@ Fault::Fault(const Desk& desk, const std::string& rules, const std::string& path
     : seen_(desk.folder.write("seen", std::string(2 * sizeof(std::uint64_t), '\0'))) {
     const std::string shim = ::testing::binDir() + "/libtally_faults_shim.so";
     setenv("LD_PRELOAD", shim.c_str(), 1);
+    // A sanitizer would insist on being loaded first.
+    setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 1);
     setenv("TALLY_FAULT", rules.c_str(), 1);
     setenv("TALLY_FAULT_PATH", path.c_str(), 1);
     setenv("TALLY_FAULT_SEEN", seen_.c_str(), 1);
 }
 
 Fault::~Fault() {
-    for (const char* name : {"LD_PRELOAD", "TALLY_FAULT", "TALLY_FAULT_PATH", "TALLY_FAULT_SEEN"})
+    for (const char* name :
+         {"LD_PRELOAD", "ASAN_OPTIONS", "TALLY_FAULT", "TALLY_FAULT_PATH", "TALLY_FAULT_SEEN"})
         unsetenv(name);
 }
 

@@ -155,10 +155,11 @@ void startSeries(Desk& desk, const std::string& name, int starts, const std::str
 } // namespace
 
 void tryKills(Desk& desk) {
-    constexpr std::int64_t oneRead = 65536;
-    killSeries(desk, "killed at 115,200 baud", countOf(desk, 3, 200), "1", "write 0 after 0", 0, 1200);
+    // A kill between a read and the write that follows it; a pseudo-terminal gives no more at once.
+    constexpr std::int64_t oneRead = 4096;
+    killSeries(desk, "killed at 115,200 baud", countOf(desk, 3, 200), "1", "write 0 after 0", oneRead, 1200);
     killSeries(desk, "killed at 115,200 baud, 100 ms a write", countOf(desk, 3, 200), "1",
-               "write 0 after 100", 0, 1200);
+               "write 0 after 100", oneRead, 1200);
     killSeries(desk, "killed in a burst, 100 ms a write", countOf(desk, 3, 100), "0", "write 0 after 100",
                oneRead, 400);
     killSeries(desk, "killed in a burst, 100 ms before each write", countOf(desk, 3, 100), "0",
@@ -186,7 +187,8 @@ void tryUnplugging(Desk& desk) {
 void trySlowDisk(Desk& desk) {
     const int trials = countOf(desk, 1, 5);
     int worst = 0;
-    constexpr int mostPause = 100;
+    // Who waited for this disk would pause for 700; a busy machine alone brings some of the rest.
+    constexpr int mostPause = 350;
     for (int i = 0; i < trials; ++i) {
         const std::string place = freshHome(desk);
         const Fault fault(desk, "datasync 0 before 700;sync 0 before 700", place);
