@@ -90,7 +90,8 @@ void UserSettings::set(const std::string& section, const std::string& key, const
 
 void UserSettings::flush() {
     later_.stop();
-    if (unsaved_.empty())
+    // Who is waiting for the disk goes on with what was set meanwhile.
+    if (unsaved_.empty() || saving_)
         return;
     const auto slash = path_.find_last_of('/');
     if (slash != std::string::npos)
@@ -100,20 +101,31 @@ void UserSettings::flush() {
     lock.tryLock(lockMilliseconds);
     if (!damaged_)
         readBack();
+    saving_ = true;
     save();
+    saving_ = false;
+    if (written_ && !unsaved_.empty())
+        later_.start(0);
 }
 
 void UserSettings::save() {
     const std::string text = formatIni(values_);
+    // Others may be set while the disk is waited for.
+    IniSections saving;
+    saving.swap(unsaved_);
+    written_ = false;
     try {
         if (damaged_) {
             files_.write(path_ + ".damaged", files_.read(path_, mostBytes));
             damaged_ = false;
         }
         files_.write(path_, text);
-        unsaved_.clear();
+        written_ = true;
+        saving.clear();
         files_.write(backup(path_), text);
     } catch (const Fault& fault) {
+        for (auto& [section, keys] : saving)
+            unsaved_[section].merge(keys);
         problem("The settings cannot be saved in " + path_ + ": " + fault.what() +
                 ". They hold until the program ends.");
     }

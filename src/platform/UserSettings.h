@@ -43,7 +43,9 @@ private:
     Files& files_;
     std::string path_;
     IniSections values_;
-    IniSections unsaved_;  // set here and in no file yet
+    IniSections unsaved_; // set here and in no file yet
+    bool saving_ = false;
+    bool written_ = false; // by the last save
     bool damaged_ = false; // the file is kept as ".damaged" before it is replaced
     std::string problem_;
     bool reported_ = false;
