@@ -15,7 +15,7 @@ namespace tally::bench {
 
 namespace {
 
-constexpr int mostReadings = Recordings::mostReadings;
+constexpr int maximumReadings = Recordings::maximumReadings;
 
 // A day curve in tenths with some noise, as a feeder has it.
 std::int16_t curve(int i) {
@@ -30,14 +30,12 @@ Recordings longest(char mode, bool low) {
     facts.path = "bench.dat";
     facts.modeLetter = mode;
     facts.low = low;
-    facts.count = mostReadings;
+    facts.count = maximumReadings;
     facts.header =
         std::string("H1A") + mode + "   4711" + std::string(19, ' ') + "03-15-99 10:30   Vbatt  6.12";
-    for (int i = 0; i < mostReadings; ++i)
+    for (int i = 0; i < maximumReadings; ++i)
         recordings.gReadings[0].push_back(low ? curve(i) : static_cast<std::int16_t>(curve(i) / 10 * 10));
     recordings.ginx = 0;
-    recordings.gDatastart = 0;
-    recordings.gdataend = mostReadings - 1;
     return recordings;
 }
 
@@ -48,7 +46,7 @@ bool isSeparator(char c) {
 // What any program would write: from_chars over the items, turned round into tenths.
 std::vector<std::int16_t> plainLoop(const std::string& text, std::size_t at) {
     std::vector<std::int16_t> newestFirst;
-    newestFirst.reserve(mostReadings);
+    newestFirst.reserve(maximumReadings);
     const char* const end = text.data() + text.size();
     for (const char* p = text.data() + at; p < end;) {
         if (isSeparator(*p)) {
@@ -67,7 +65,7 @@ std::vector<std::int16_t> plainLoop(const std::string& text, std::size_t at) {
 
 void readingGoal(const std::string& name, char mode, bool low) {
     const Recordings recordings = longest(mode, low);
-    const auto text = std::make_shared<std::string>(quoted(buildDataText(recordings)));
+    const auto text = std::make_shared<std::string>(quoted(buildDataText(recordings, 0, recordings.all(0))));
     const std::size_t body = text->find('\r', text->find('H')) + 1;
     const auto check = readDataText(*text);
     if (std::get<Recording>(check).readings.size() != plainLoop(*text, body).size())

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Goals.h"
 
-#include "core/Prompt.h"
 #include "export/CsvData.h"
 #include "export/Export.h"
 #include "platform/SafeFile.h"
@@ -17,21 +16,12 @@ namespace tally::bench {
 
 namespace {
 
-class SilentPrompt : public Prompt {
-public:
-    Answer show(const Message&) override { return Answer::Ok; }
-    std::optional<std::string> input(const InputQuestion&) override { return std::nullopt; }
-    std::optional<std::string> chooseFile(const FileQuestion&) override { return std::nullopt; }
-};
-
 // A recording of the largest size with a day curve, its table shown, in a folder of its own.
 struct Desk {
     std::string folder;
     Recordings recordings;
-    DisplayState state;
     SafeFile files;
-    SilentPrompt prompt;
-    std::string heading;
+    Table table;
     std::string bytes; // of the export
 
     explicit Desk(bool low) {
@@ -42,20 +32,19 @@ struct Desk {
         info.low = low;
         info.path = folder + "/x.dat";
         info.start = toReadingTime({2024, 3, 1, 0, 0});
-        info.count = Recordings::mostReadings;
+        info.count = Recordings::maximumReadings;
         for (int i = 0; i < info.count; ++i)
             recordings.gReadings[0].push_back(
                 static_cast<std::int16_t>(2000 + 1500 * std::sin(i / 200.0) + i * 7919 % 101));
         recordings.ginx = 0;
-        recordings.gDatastart = 0;
-        recordings.gdataend = info.count - 1;
-        heading = Print(recordings, state);
+        table = Print(recordings, 0, recordings.all(0));
     }
     ~Desk() { std::filesystem::remove_all(folder); }
     Desk(const Desk&) = delete;
     Desk& operator=(const Desk&) = delete;
 
-    ExportDesk exports() { return {recordings, state, files, prompt, folder}; }
+    void csv() { (void)CsvData(recordings, 0, recordings.all(0), {files, folder}); }
+    void text(bool perLine) { (void)Export(recordings, 0, table, perLine, files); }
 };
 
 // An export against writing the bytes that it writes, in the same safe way.
@@ -69,12 +58,12 @@ void exportGoal(const std::string& name, const std::shared_ptr<Desk>& desk, cons
 
 void csvGoal(const std::string& name, bool low) {
     const auto desk = std::make_shared<Desk>(low);
-    exportGoal(name, desk, "Lotusint.csv", [desk] { CsvData(desk->exports()); });
+    exportGoal(name, desk, "Lotusint.csv", [desk] { desk->csv(); });
 }
 
 void textGoal(const std::string& name, bool perLine) {
     const auto desk = std::make_shared<Desk>(true);
-    exportGoal(name, desk, "x.prn", [desk, perLine] { Export(desk->exports(), desk->heading, perLine); });
+    exportGoal(name, desk, "x.prn", [desk, perLine] { desk->text(perLine); });
 }
 
 } // namespace

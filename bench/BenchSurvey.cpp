@@ -18,7 +18,7 @@ std::shared_ptr<SurveyData> station() {
         for (std::size_t phase = 0; phase < survey->feeders[feeder].size(); ++phase) {
             PhaseFile& file = survey->feeders[feeder][phase];
             file.facts.path = "phase.dat";
-            for (int i = 0; i < Recordings::mostReadings; ++i)
+            for (int i = 0; i < Recordings::maximumReadings; ++i)
                 file.readings.push_back(static_cast<std::int16_t>(
                     1200 + 900 * std::sin(i / 200.0 + static_cast<double>(feeder + phase)) + i * 7919 % 101));
         }

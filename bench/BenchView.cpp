@@ -18,8 +18,6 @@ namespace tally::bench {
 
 namespace {
 
-constexpr double volts = 13800;
-
 class StillClock : public Clock {
 public:
     ReadingTime localTime() const override { return {}; }
@@ -29,9 +27,8 @@ public:
 // Open files of the largest size with a day curve, and what is made from them.
 struct Desk {
     Recordings recordings;
-    DisplayState state;
+    Range range;
     StillClock clock;
-    Plot plot;
     std::string copy;
     std::vector<float> kilowatts;
 
@@ -42,29 +39,29 @@ struct Desk {
             info.low = low;
             info.path = "phase.dat";
             info.start = toReadingTime({2024, 3, 1, 0, 0});
-            info.count = Recordings::mostReadings;
+            info.count = Recordings::maximumReadings;
             auto& readings = recordings.gReadings[slot];
             for (int i = 0; i < info.count; ++i)
                 readings.push_back(static_cast<std::int16_t>(
                     2000 + 1500 * std::sin(i / 200.0 + static_cast<double>(slot)) + i * 7919 % 101));
         }
         recordings.ginx = 0;
-        startPlot(recordings, state);
+        range = recordings.all(0);
     }
 };
 
 void tableGoal(const std::string& name, char letter, bool low) {
     const auto desk = std::make_shared<Desk>(letter, low, 1);
-    Print(desk->recordings, desk->state);
-    desk->copy.resize(desk->recordings.gTable.size());
+    const auto table = std::make_shared<Table>(Print(desk->recordings, 0, desk->range));
+    desk->copy.resize(table->text.size());
     goal(
         name,
         [desk] {
-            Print(desk->recordings, desk->state);
-            keep(desk->recordings.gTable.data());
+            const Table made = Print(desk->recordings, 0, desk->range);
+            keep(made.text.data());
         },
-        [desk] {
-            std::memcpy(desk->copy.data(), desk->recordings.gTable.data(), desk->copy.size());
+        [desk, table] {
+            std::memcpy(desk->copy.data(), table->text.data(), desk->copy.size());
             keep(desk->copy.data());
             benchmark::ClobberMemory();
         },
@@ -90,25 +87,27 @@ void powerGoals() {
     goal(
         "power-of-three-files",
         [desk] {
-            DisplPlotPwr(desk->recordings, desk->state, volts, desk->clock, desk->plot);
-            keep(desk->state.power.data());
+            const Power power = powerOf(desk->recordings, desk->range, PowerBasis{}).value();
+            const Plot plot =
+                DisplPlotPwr(desk->recordings, PlotRequest{.range = desk->range}, power, desk->clock);
+            keep(plot.series[0].values.data());
         },
         [desk] { plainPower(*desk); }, 4);
 }
 
 void powerTableGoal(const std::string& name, char letter, bool low) {
     const auto desk = std::make_shared<Desk>(letter, low, 1);
-    viewPower(desk->recordings, desk->state, volts, desk->clock, desk->plot);
+    const auto power = std::make_shared<Power>(powerOf(desk->recordings, desk->range, PowerBasis{}).value());
     const auto data = std::make_shared<Desk>(letter, low, 1);
     goal(
         name,
-        [desk] {
-            Printpwr(desk->recordings, desk->state);
-            keep(desk->recordings.gTable.data());
+        [desk, power] {
+            const Table made = Printpwr(desk->recordings, *power);
+            keep(made.text.data());
         },
         [data] {
-            Print(data->recordings, data->state);
-            keep(data->recordings.gTable.data());
+            const Table made = Print(data->recordings, 0, data->range);
+            keep(made.text.data());
         },
         1.5);
 }

@@ -14,7 +14,7 @@ namespace tally::fuzz {
 inline void requireFacts(const Recording& recording) {
     const FileFacts& facts = recording.facts;
     const auto& readings = recording.readings;
-    require(!readings.empty() && readings.size() <= Recordings::mostReadings, "1 to 42,966 readings");
+    require(!readings.empty() && readings.size() <= Recordings::maximumReadings, "1 to 42,966 readings");
     require(static_cast<std::size_t>(facts.count) == readings.size(), "the count is that of the readings");
     require(facts.largest == *std::max_element(readings.begin(), readings.end()),
             "the largest is one of them");
@@ -31,11 +31,9 @@ inline bool savedAsItIs(const FileFacts& facts) {
 inline void requireReadBack(Recording recording) {
     Recordings model;
     model.ginx = 0;
-    model.gDatastart = 0;
-    model.gdataend = recording.facts.count - 1;
     model.gInfo[0] = recording.facts;
     model.gReadings[0] = recording.readings;
-    const auto again = readDataText(quoted(buildDataText(model)));
+    const auto again = readDataText(quoted(buildDataText(model, 0, model.all(0))));
     const auto* saved = std::get_if<Recording>(&again);
     require(saved != nullptr, "a saved file can be opened");
     if (!recording.facts.low)

@@ -65,9 +65,7 @@ std::string dataFile(const Setup& setup, std::vector<std::int16_t> readings) {
     facts.count = static_cast<int>(readings.size());
     recordings.gReadings[0] = std::move(readings);
     recordings.ginx = 0;
-    recordings.gDatastart = 0;
-    recordings.gdataend = facts.count - 1;
-    return quoted(buildDataText(recordings));
+    return quoted(buildDataText(recordings, 0, recordings.all(0)));
 }
 
 std::vector<std::int16_t> averages(const Setup& setup, const std::function<double(ReadingTime)>& load) {

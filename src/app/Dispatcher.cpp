@@ -4,31 +4,11 @@
 #include "core/Fault.h"
 
 #include <new>
-#include <optional>
+#include <string>
 
 namespace tally {
 
 namespace {
-
-struct Range {
-    int ginx, gDateX, gDatastart, gdataend;
-    bool gZoomFlag;
-
-    explicit Range(const Recordings& r)
-        : ginx(r.ginx),
-          gDateX(r.gDateX),
-          gDatastart(r.gDatastart),
-          gdataend(r.gdataend),
-          gZoomFlag(r.gZoomFlag) {}
-
-    void restore(Recordings& r) const {
-        r.ginx = ginx;
-        r.gDateX = gDateX;
-        r.gDatastart = gDatastart;
-        r.gdataend = gdataend;
-        r.gZoomFlag = gZoomFlag;
-    }
-};
 
 class Flag {
 public:
@@ -43,30 +23,33 @@ private:
 
 } // namespace
 
-bool Dispatcher::run(const std::function<void()>& command) {
+bool Dispatcher::runDone(const std::function<Done()>& command) {
     if (running_)
         return false;
     const Flag flag(running_);
     gErrorCallPoint = 0;
-    return attempt(command);
+    return attemptDone(command);
 }
 
-bool Dispatcher::attempt(const std::function<void()>& step) {
-    const Range range(recordings_);
-    const DisplayState display = display_;
-    std::optional<Fault> fault;
+bool Dispatcher::attemptDone(const std::function<Done()>& step) {
+    const Display display = display_;
+    const int ginx = recordings_.ginx;
+    const int gDateX = recordings_.gDateX;
+    std::string told;
     try {
-        step();
-    } catch (const Fault& thrown) {
-        fault = thrown;
+        const Done done = step();
+        if (done)
+            return true;
+        told = done.error().message();
+    } catch (const Fault& fault) {
+        told = faultReport(fault, gErrorCallPoint);
     } catch (const std::bad_alloc&) {
-        fault = Fault(7, "Out of memory");
+        told = faultReport(Fault(7, "Out of memory"), gErrorCallPoint);
     }
-    if (!fault)
-        return true;
-    range.restore(recordings_);
+    recordings_.ginx = ginx;
+    recordings_.gDateX = gDateX;
     display_ = display;
-    prompt_.tell(faultReport(*fault, gErrorCallPoint));
+    prompt_.tell(told);
     return false;
 }
 

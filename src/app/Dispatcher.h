@@ -3,32 +3,58 @@
 
 #include "core/Prompt.h"
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
+#include "core/Refusal.h"
+#include "view/Display.h"
 
 #include <functional>
+#include <type_traits>
+#include <utility>
 
 namespace tally {
 
-// Runs the commands of the window, one at a time: the one place where run-time faults are caught. After a
-// fault the range, the current file and the state of the display are what they were before.
+// A command that may be refused; what refused it is told and what is shown stays as it was.
+using Done = Expected<void>;
+
+// Runs the commands of the window, one at a time: the one place where run-time faults are caught and refusals
+// told. Before a command it keeps a copy of the display and of the current file; after a fault or a refusal
+// it puts them back.
 class Dispatcher {
 public:
-    Dispatcher(Recordings& recordings, DisplayState& display, Prompt& prompt)
+    Dispatcher(Recordings& recordings, Display& display, Prompt& prompt)
         : recordings_(recordings), display_(display), prompt_(prompt) {}
 
-    // False when the command failed, or did not run because another one is running (a session with an
-    // instrument lets the window live).
-    bool run(const std::function<void()>& command);
-    bool running() const { return running_; }
+    // A command gives nothing or a Done. False when it failed or was refused, or did not run because another
+    // one is running (a session with an instrument lets the window live).
+    template <class Command>
+    bool run(Command&& command) {
+        return runDone(asDone(std::forward<Command>(command)));
+    }
     // A step of a running command that may fail without ending it; false when it did.
-    bool attempt(const std::function<void()>& step);
+    template <class Step>
+    bool attempt(Step&& step) {
+        return attemptDone(asDone(std::forward<Step>(step)));
+    }
+    bool running() const { return running_; }
 
     // Where a session was when a fault came; 0 for nowhere. Reset before each command.
     int gErrorCallPoint = 0;
 
 private:
+    template <class Command>
+    static std::function<Done()> asDone(Command&& command) {
+        if constexpr (std::is_void_v<std::invoke_result_t<Command&>>)
+            return [&command]() -> Done {
+                command();
+                return {};
+            };
+        else
+            return [&command] { return command(); };
+    }
+    bool runDone(const std::function<Done()>& command);
+    bool attemptDone(const std::function<Done()>& step);
+
     Recordings& recordings_;
-    DisplayState& display_;
+    Display& display_;
     Prompt& prompt_;
     bool running_ = false;
 };

@@ -62,6 +62,7 @@ void Screen::makeChart() {
     chart_ = new Chart(chartPage_);
     chart_->setObjectName(QStringLiteral("ChartFX1"));
     chartBar_ = new ChartToolBar(chartPage_);
+    addPart(chartBar_, "chartShowAll");
     chartLabel_ = layOut(chartPage_, chartBar_, chart_, QStringLiteral("displayingChart"));
     addWidget(chartPage_);
     Q_EMIT chartMade();
@@ -82,8 +83,28 @@ void Screen::makeText() {
             text_, [this] { text_->copy(); });
     connect(addTextButton(bar, "textFind", "Find", "Search this text (Ctrl+F)"), &QAction::triggered, text_,
             [this] { text_->showFindBar(); });
+    addPart(bar, "textShowAll");
     textLabel_ = layOut(textPage_, bar, text_, QStringLiteral("displayingText"));
     addWidget(textPage_);
+}
+
+void Screen::addPart(QToolBar* bar, const char* name) {
+    auto* label = new QLabel(bar);
+    label->setObjectName(QStringLiteral("partShown"));
+    label->setContentsMargins(8, 0, 4, 0);
+    parts_.append(bar->addWidget(label));
+    QAction* all = addTextButton(bar, name, "Show all", "Leave the zoom and show every reading");
+    connect(all, &QAction::triggered, this, &Screen::showAllWanted);
+    parts_.append(all);
+    setPart(part_);
+}
+
+void Screen::setPart(const QString& part) {
+    part_ = part;
+    for (QAction* action : std::as_const(parts_))
+        action->setVisible(!part.isEmpty());
+    for (QLabel* label : findChildren<QLabel*>(QStringLiteral("partShown")))
+        label->setText(part);
 }
 
 QAction* Screen::addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip) {
@@ -132,6 +153,7 @@ void Screen::reset() {
     if (text_)
         text_->setText({}, {});
     displaying_.clear();
+    setPart({});
     setCurrentWidget(start_);
 }
 

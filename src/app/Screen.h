@@ -36,6 +36,8 @@ public:
     // `displaying` is the name that follows "Displaying ".
     void showPlot(const Plot& plot, bool onePage);
     void showText(const std::string& heading, const std::string& text, const std::string& displaying);
+    // Which part of a file is shown, beside a button that shows all; empty for the whole.
+    void setPart(const QString& part);
     // Takes chart and text away and shows the start page.
     void reset();
     const std::string& displaying() const { return displaying_; }
@@ -44,11 +46,13 @@ Q_SIGNALS:
     void chartMade(); // its signals can be connected
     void printText();
     void previewText();
+    void showAllWanted();
 
 private:
     void makeChart();
     void makeText();
     void setDisplaying(QLabel* label, const std::string& name);
+    void addPart(QToolBar* bar, const char* name);
     QAction* addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip);
 
     StartPage* start_;
@@ -60,6 +64,8 @@ private:
     QLabel* chartLabel_ = nullptr;
     QLabel* textLabel_ = nullptr;
     std::string displaying_;
+    QString part_;
+    QList<QAction*> parts_; // what says the part and shows all, of each line of buttons
 };
 
 } // namespace tally

@@ -11,7 +11,7 @@
 #include "link/Line.h"
 #include "link/PortChoice.h"
 #include "link/Waiter.h"
-#include "view/DisplayState.h"
+#include "view/Display.h"
 
 #include <functional>
 #include <string>
@@ -33,7 +33,7 @@ struct LinkServices {
 // What the main window works with; owned by main, or by a test.
 struct Services {
     Recordings& recordings;
-    DisplayState& display;
+    Display& display;
     Settings& settings;
     Files& files;
     Clock& clock;

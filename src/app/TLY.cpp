@@ -1,22 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY.h"
 
+#include "app/Commands.h"
 #include "app/FolderChoice.h"
 #include "app/Menus.h"
 #include "app/NoticeBar.h"
 #include "app/Screen.h"
 #include "app/StatusPanels.h"
-#include "app/TLY_Downloads.h"
-#include "app/TLY_Edit.h"
-#include "app/TLY_Export.h"
-#include "app/TLY_File.h"
-#include "app/TLY_Help.h"
-#include "app/TLY_Instrument.h"
-#include "app/TLY_Options.h"
-#include "app/TLY_Paper.h"
-#include "app/TLY_Power.h"
-#include "app/TLY_Survey.h"
-#include "app/TLY_View.h"
 
 #include <QMenuBar>
 #include <QStatusBar>
@@ -32,22 +22,16 @@ TLY::TLY(const Services& services, QWidget* parent)
     setAcceptDrops(true);
     menus_ = new Menus(*menuBar(), this);
     layOut();
-    file_ = std::make_unique<TLY_File>(*this);
-    view_ = std::make_unique<TLY_View>(*this);
-    power_ = std::make_unique<TLY_Power>(*this);
-    edit_ = std::make_unique<TLY_Edit>(*this);
-    paper_ = std::make_unique<TLY_Paper>(*this);
-    export_ = std::make_unique<TLY_Export>(*this);
-    downloads_ = std::make_unique<TLY_Downloads>(*this);
-    instrument_ = std::make_unique<TLY_Instrument>(*this);
-    survey_ = std::make_unique<TLY_Survey>(*this);
-    options_ = std::make_unique<TLY_Options>(*this);
-    help_ = std::make_unique<TLY_Help>(*this);
+    const Panes panes{
+        *this, *menus_, *screen_, *notices_, *status_, *folderChoice_, [this] { updateTitle(); }};
+    commands_ = std::make_unique<Commands>(services_, dispatcher_, panes);
     connectMenus();
+    connectMoreMenus();
+    connectTexts();
     addShortcuts();
     connectStartPage();
     menus_->apply(MenuEvent::startUp);
-    file_->showMru();
+    commands_->file.showMru();
     updateTitle();
     placeWindow();
 }
@@ -70,62 +54,75 @@ void TLY::layOut() {
 }
 
 // The word about a menu item goes when the item has been chosen.
-void TLY::command(const std::function<void()>& handler) {
-    statusBar()->clearMessage();
-    dispatcher_.run(handler);
+template <class Handler>
+std::function<void()> TLY::command(Handler handler) {
+    return [this, handler] {
+        statusBar()->clearMessage();
+        dispatcher_.run(handler);
+    };
 }
 
 void TLY::connectMenus() {
     const auto on = [this](std::string_view name, auto& group, auto handler) {
-        menus_->handle(name, [this, &group, handler] { command([&] { (group.*handler)(); }); });
+        menus_->handle(name, command([&group, handler] { return (group.*handler)(); }));
     };
-    on("mnuItemOpen", *file_, &TLY_File::mnuItemOpen_Click);
-    on("mnuItemClose", *file_, &TLY_File::mnuItemClose_Click);
-    on("mnuItemSave", *file_, &TLY_File::mnuItemSave_Click);
-    on("mnuItemImport", *file_, &TLY_File::mnuItemImport_Click);
-    menus_->handle("mnuItemExit", [this] { file_->mnuItemExit_Click(); });
-    menus_->handleMru([this](int index) { command([&] { file_->mnuMRU_Click(index); }); });
-    on("mnuitemexprep", *export_, &TLY_Export::mnuitemexprep_Click);
-    on("MnuItemexpdatacsv", *export_, &TLY_Export::MnuItemexpdatacsv_Click);
-    on("mnuItemexpdata1perLine", *export_, &TLY_Export::mnuItemexpdata1perLine_Click);
-    on("mnuItemPrintSum", *paper_, &TLY_Paper::mnuItemPrintSum_Click);
-    on("mnuItemPrintpwrSum", *paper_, &TLY_Paper::mnuItemPrintpwrSum_Click);
-    on("mnuItemPrintTable", *paper_, &TLY_Paper::mnuItemPrintTable_Click);
-    on("mnuItemPrintPwrTable", *paper_, &TLY_Paper::mnuItemPrintPwrTable_Click);
-    on("mnuItemNotes", *edit_, &TLY_Edit::mnuItemNotes_Click);
-    on("mnuItemForceRdg", *edit_, &TLY_Edit::mnuItemForceRdg_Click);
-    on("mnuItemadd", *edit_, &TLY_Edit::mnuItemadd_Click);
-    on("mnuItemClearNote", *edit_, &TLY_Edit::mnuItemClearNote_Click);
-    connectMoreMenus();
+    Commands& c = *commands_;
+    on("mnuItemOpen", c.file, &TLY_File::mnuItemOpen_Click);
+    on("mnuItemClose", c.file, &TLY_File::mnuItemClose_Click);
+    on("mnuItemSave", c.file, &TLY_File::mnuItemSave_Click);
+    on("mnuItemImport", c.chart, &TLY_Chart::mnuItemImport_Click);
+    menus_->handle("mnuItemExit", [this] { close(); });
+    menus_->handleMru(
+        [this](int index) { command([this, index] { return commands_->file.mnuMRU_Click(index); })(); });
+    on("mnuitemexprep", c.exports, &TLY_Export::mnuitemexprep_Click);
+    on("MnuItemexpdatacsv", c.exports, &TLY_Export::MnuItemexpdatacsv_Click);
+    on("mnuItemexpdata1perLine", c.exports, &TLY_Export::mnuItemexpdata1perLine_Click);
+    on("mnuItemPrintSum", c.paper, &TLY_Paper::mnuItemPrintSum_Click);
+    on("mnuItemPrintpwrSum", c.paper, &TLY_Paper::mnuItemPrintpwrSum_Click);
+    on("mnuItemPrintTable", c.paper, &TLY_Paper::mnuItemPrintTable_Click);
+    on("mnuItemPrintPwrTable", c.paper, &TLY_Paper::mnuItemPrintPwrTable_Click);
+    on("mnuItemNotes", c.edit, &TLY_Edit::mnuItemNotes_Click);
+    on("mnuItemForceRdg", c.edit, &TLY_Edit::mnuItemForceRdg_Click);
+    on("mnuItemadd", c.chart, &TLY_Chart::mnuItemadd_Click);
+    on("mnuItemClearNote", c.chart, &TLY_Chart::mnuItemClearNote_Click);
+    on("mnuitemsurvfil", c.survey, &TLY_Survey::mnuitemsurvfil_Click);
 }
 
 void TLY::connectMoreMenus() {
     const auto on = [this](std::string_view name, auto& group, auto handler) {
-        menus_->handle(name, [this, &group, handler] { command([&] { (group.*handler)(); }); });
+        menus_->handle(name, command([&group, handler] { return (group.*handler)(); }));
     };
-    on("mnuItemViewPlot", *view_, &TLY_View::mnuItemViewPlot_Click);
-    on("mnuItemViewTable", *view_, &TLY_View::mnuItemViewTable_Click);
-    on("mnuItemRefresh", *view_, &TLY_View::mnuItemRefresh_Click);
-    on("mnuItemViewsummary", *view_, &TLY_View::mnuItemViewsummary_Click);
-    on("mnuZoom", *view_, &TLY_View::mnuZoom_Click);
-    on("mnuItemScale", *view_, &TLY_View::mnuItemScale_Click);
-    on("mnuItemOnepgPlot", *view_, &TLY_View::mnuItemOnepgPlot_Click);
-    on("mnuItemViewPower", *power_, &TLY_Power::mnuItemViewPower_Click);
-    on("mnuItemViewPwrTable", *power_, &TLY_Power::mnuItemViewPwrTable_Click);
-    on("mnuItemViewpwrsummry", *power_, &TLY_Power::mnuItemViewpwrsummry_Click);
-    on("mnuItemPF", *power_, &TLY_Power::mnuItemPF_Click);
-    on("mnuItemDownload", *instrument_, &TLY_Instrument::mnuItemDownload_Click);
-    on("mnuItemInitialize", *instrument_, &TLY_Instrument::mnuItemInitialize_Click);
-    on("mnuItemRecover", *instrument_, &TLY_Instrument::mnuItemRecover_Click);
-    on("mnuItemStatusCheck", *instrument_, &TLY_Instrument::mnuItemStatusCheck_Click);
-    on("mnuItemPortSelect", *instrument_, &TLY_Instrument::mnuItemPortSelect_Click);
-    on("mnuItemInstSelect", *instrument_, &TLY_Instrument::mnuItemInstSelect_Click);
-    on("mnuitemsurvfil", *survey_, &TLY_Survey::mnuitemsurvfil_Click);
-    on("SpecialTest", *options_, &TLY_Options::SpecialTest_Click);
-    on("mnuItemDefaultDir", *options_, &TLY_Options::mnuItemDefaultDir_Click);
-    on("mnuItemUserID", *options_, &TLY_Options::mnuItemUserID_Click);
-    on("mnuItemHelp", *help_, &TLY_Help::mnuItemHelp_Click);
-    on("mnuItemAbout", *help_, &TLY_Help::mnuItemAbout_Click);
+    Commands& c = *commands_;
+    on("mnuItemViewPlot", c.view, &TLY_View::mnuItemViewPlot_Click);
+    on("mnuItemViewTable", c.view, &TLY_View::mnuItemViewTable_Click);
+    on("mnuItemRefresh", c.view, &TLY_View::mnuItemRefresh_Click);
+    on("mnuItemViewsummary", c.view, &TLY_View::mnuItemViewsummary_Click);
+    on("mnuZoom", c.view, &TLY_View::mnuZoom_Click);
+    on("mnuItemScale", c.view, &TLY_View::mnuItemScale_Click);
+    on("mnuItemOnepgPlot", c.view, &TLY_View::mnuItemOnepgPlot_Click);
+    on("mnuItemViewPower", c.power, &TLY_Power::mnuItemViewPower_Click);
+    on("mnuItemViewPwrTable", c.power, &TLY_Power::mnuItemViewPwrTable_Click);
+    on("mnuItemViewpwrsummry", c.power, &TLY_Power::mnuItemViewpwrsummry_Click);
+    on("mnuItemPF", c.power, &TLY_Power::mnuItemPF_Click);
+    on("mnuItemDownload", c.instrument, &TLY_Instrument::mnuItemDownload_Click);
+    on("mnuItemInitialize", c.instrument, &TLY_Instrument::mnuItemInitialize_Click);
+    on("mnuItemRecover", c.instrument, &TLY_Instrument::mnuItemRecover_Click);
+    on("mnuItemStatusCheck", c.instrument, &TLY_Instrument::mnuItemStatusCheck_Click);
+    on("mnuItemPortSelect", c.instrument, &TLY_Instrument::mnuItemPortSelect_Click);
+    on("mnuItemInstSelect", c.instrument, &TLY_Instrument::mnuItemInstSelect_Click);
+    on("SpecialTest", c.options, &TLY_Options::SpecialTest_Click);
+    on("mnuItemDefaultDir", c.options, &TLY_Options::mnuItemDefaultDir_Click);
+    on("mnuItemUserID", c.options, &TLY_Options::mnuItemUserID_Click);
+    on("mnuItemHelp", c.help, &TLY_Help::mnuItemHelp_Click);
+    on("mnuItemAbout", c.help, &TLY_Help::mnuItemAbout_Click);
+}
+
+// The buttons of the texts, and the one that leaves the zoom.
+void TLY::connectTexts() {
+    Commands& c = *commands_;
+    connect(screen_, &Screen::printText, this, command([&c] { c.printing.printShown(); }));
+    connect(screen_, &Screen::previewText, this, command([&c] { c.printing.previewShown(); }));
+    connect(screen_, &Screen::showAllWanted, this, command([&c] { return c.view.showAll(); }));
 }
 
 } // namespace tally

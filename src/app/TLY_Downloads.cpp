@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Downloads.h"
 
+#include "app/DefaultFolder.h"
+#include "app/Dispatcher.h"
 #include "app/Menus.h"
 #include "app/NoticeBar.h"
-#include "app/Screen.h"
-#include "app/StatusPanels.h"
-#include "app/TLY.h"
 #include "app/TLY_File.h"
+#include "app/Views.h"
 #include "app/forms/Words.h"
 #include "core/SaveText.h"
 #include "core/Text1252.h"
@@ -41,9 +41,9 @@ std::string shownLines(const std::string& text) {
 void TLY_Downloads::take(std::optional<PendingDownload> accepted) {
     if (!accepted)
         return;
-    window_.services().recordings.gText = accepted->text;
+    services_.recordings.gText = accepted->text;
     pending_ = std::move(accepted);
-    window_.menus().apply(MenuEvent::textKept);
+    menus_.apply(MenuEvent::textKept);
 }
 
 void TLY_Downloads::pendingSaved() {
@@ -53,19 +53,19 @@ void TLY_Downloads::pendingSaved() {
 }
 
 void TLY_Downloads::showNotices() {
-    const Journal& journal = window_.services().link.journal;
+    const Journal& journal = services_.link.journal;
     for (const QString& key : keys_)
-        window_.notices().remove(key);
+        notices_.remove(key);
     keys_.clear();
     if (!journal.problem().empty())
-        window_.notices().put(problemKey, words(journal.problem()));
+        notices_.put(problemKey, words(journal.problem()));
     const auto waiting = unsavedReceptions(journal);
     for (std::size_t i = 0; i < waiting.size() && i < mostNotices; ++i)
         notice(waiting[i]);
 }
 
 void TLY_Downloads::notice(const JournalEntry& entry) {
-    const auto on = [this](auto action) { return [this, action] { window_.dispatcher().run(action); }; };
+    const auto on = [this](auto action) { return [this, action] { dispatcher_.run(action); }; };
     const std::string id = entry.id;
     std::vector<NoticeAction> actions = {{QStringLiteral("Show"), on([this, entry] { show(entry); })}};
     if (entry.state != JournalState::accepted)
@@ -73,29 +73,23 @@ void TLY_Downloads::notice(const JournalEntry& entry) {
     actions.push_back({QStringLiteral("Save As..."), on([this, id] { saveAs(id); })});
     actions.push_back({QStringLiteral("Drop"), on([this, id] { drop(id); })});
     keys_.append(QStringLiteral("reception ") + words(id));
-    window_.notices().put(keys_.last(), words(receptionText(entry)), actions, false);
+    notices_.put(keys_.last(), words(receptionText(entry)), actions, false);
 }
 
 void TLY_Downloads::show(const JournalEntry& entry) {
-    const Services& s = window_.services();
-    window_.screen().showText({}, toUtf8(shownLines(s.link.journal.text(entry.id))),
-                              "a reception that is not saved");
-    s.display.viewKind = ViewKind::none;
-    window_.status().remark(words(receptionText(entry)));
-    window_.menus().apply(MenuEvent::textShown);
+    views_.showReception(toUtf8(shownLines(services_.link.journal.text(entry.id))), receptionText(entry));
 }
 
 void TLY_Downloads::validate(const std::string& id) {
-    const Services& s = window_.services();
-    take(validateReception(s.link.journal, id, s.prompt));
+    take(validateReception(services_.link.journal, id, services_.prompt));
     showNotices();
 }
 
 void TLY_Downloads::saveAs(const std::string& id) {
-    const Services& s = window_.services();
+    const Services& s = services_;
     const std::string text = s.link.journal.text(id);
-    const auto path = s.prompt.chooseFile(
-        {.save = true, .filter = std::string(saveFilter), .folder = window_.file().folder()});
+    const auto path =
+        s.prompt.chooseFile({.save = true, .filter = std::string(saveFilter), .folder = folder_.forDialog()});
     if (!path)
         return;
     s.files.write(*path, tally::quoted(text));
@@ -104,10 +98,10 @@ void TLY_Downloads::saveAs(const std::string& id) {
 
 void TLY_Downloads::drop(const std::string& id) {
     const Answer answer =
-        window_.services().prompt.show({.text = "Give this reception up? It cannot be shown or saved then.",
-                                        .buttons = Buttons::YesNo,
-                                        .exclamation = true,
-                                        .defaultAnswer = Answer::No});
+        services_.prompt.show({.text = "Give this reception up? It cannot be shown or saved then.",
+                               .buttons = Buttons::YesNo,
+                               .exclamation = true,
+                               .defaultAnswer = Answer::No});
     if (answer == Answer::Yes)
         settle(id, JournalState::dropped);
 }
@@ -116,10 +110,10 @@ void TLY_Downloads::drop(const std::string& id) {
 void TLY_Downloads::settle(const std::string& id, JournalState state) {
     if (pending_ && pending_->id == id)
         pending_.reset();
-    if (!pending_ && !window_.services().recordings.isOpen(0))
-        window_.menus().apply(MenuEvent::saved);
+    if (!pending_ && !services_.recordings.isOpen(0))
+        menus_.apply(MenuEvent::saved);
     if (!id.empty())
-        window_.services().link.journal.mark(id, state);
+        services_.link.journal.mark(id, state);
     showNotices();
 }
 

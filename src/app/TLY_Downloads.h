@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/Services.h"
 #include "link/DownloadSession.h"
 #include "link/Journal.h"
 
@@ -10,12 +11,23 @@
 
 namespace tally {
 
-class TLY;
+class DefaultFolder;
+class Dispatcher;
+class Menus;
+class NoticeBar;
+class Views;
 
 // Receptions that are not saved yet: each has its notice, and the accepted one waits for Save As.
 class TLY_Downloads {
 public:
-    explicit TLY_Downloads(TLY& window) : window_(window) {}
+    TLY_Downloads(const Services& services, Dispatcher& dispatcher, Views& views, DefaultFolder& folder,
+                  Menus& menus, NoticeBar& notices)
+        : services_(services),
+          dispatcher_(dispatcher),
+          views_(views),
+          folder_(folder),
+          menus_(menus),
+          notices_(notices) {}
 
     // Keeps an accepted text until it is saved; nothing is no change.
     void take(std::optional<PendingDownload> accepted);
@@ -35,7 +47,12 @@ private:
     void drop(const std::string& id);
     void settle(const std::string& id, JournalState state);
 
-    TLY& window_;
+    const Services& services_;
+    Dispatcher& dispatcher_;
+    Views& views_;
+    DefaultFolder& folder_;
+    Menus& menus_;
+    NoticeBar& notices_;
     std::optional<PendingDownload> pending_;
     QStringList keys_; // of the notices shown
 };

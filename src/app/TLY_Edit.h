@@ -1,39 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
-#include <vector>
+#include "app/Dispatcher.h"
+#include "app/Services.h"
+
+class QWidget;
 
 namespace tally {
 
-class TLY;
+class ForcedReadings;
+class Menus;
+class Views;
 
-// The Edit menu, and the notes on the chart.
+// The Edit menu.
 class TLY_Edit {
 public:
-    explicit TLY_Edit(TLY& window) : window_(window) {}
+    TLY_Edit(const Services& services, Dispatcher& dispatcher, Views& views, ForcedReadings& forced,
+             Menus& menus, QWidget* window)
+        : services_(services),
+          dispatcher_(dispatcher),
+          views_(views),
+          forced_(forced),
+          menus_(menus),
+          window_(window) {}
 
-    void mnuItemNotes_Click();
-    void mnuItemForceRdg_Click();
-    void mnuItemadd_Click();
-    void mnuItemClearNote_Click();
-
-    // Takes the last forcing back.
-    void undo();
-    // Readings of a slot were saved: forced ones among them are safe.
-    void saved(int slot, int first, int last);
-    // The notice of forced readings as it now is.
-    void showForced();
-    // Whether the open files may be closed: asks when forced readings were not saved.
-    bool mayLeave();
+    Done mnuItemNotes_Click();
+    Done mnuItemForceRdg_Click();
 
 private:
-    bool hasChart() const;
-
-    TLY& window_;
-    std::array<bool, 3> unsaved_{}; // forced readings of the slot stand in no file
-    std::vector<int> forcings_;     // slots, newest last
-    float lastValue_ = 0;           // entered last
+    const Services& services_;
+    Dispatcher& dispatcher_;
+    Views& views_;
+    ForcedReadings& forced_;
+    Menus& menus_;
+    QWidget* window_;     // for the dialogs
+    float lastValue_ = 0; // entered last
 };
 
 } // namespace tally

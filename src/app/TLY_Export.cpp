@@ -1,69 +1,94 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Export.h"
 
+#include "app/DefaultFolder.h"
 #include "app/Menus.h"
-#include "app/Screen.h"
-#include "app/TLY.h"
-#include "app/TLY_Power.h"
-#include "app/TLY_View.h"
+#include "app/Views.h"
+#include "app/VoltageQuestion.h"
+#include "export/CsvData.h"
 #include "export/Export.h"
-#include "export/ReportPower.h"
 #include "export/expmv90.h"
-#include "view/forms/TextView.h"
 
 namespace tally {
 
-ExportDesk TLY_Export::desk() const {
-    const Services& s = window_.services();
-    return {s.recordings, s.display, s.files, s.prompt, s.settings.get("Directory", "default")};
+namespace {
+
+bool isTable(View view) {
+    return view == View::table || view == View::powerTable;
 }
 
-std::string TLY_Export::title() const {
-    return window_.screen().text().heading().toStdString();
+} // namespace
+
+// With the data plot shown the CSV export, with a table shown the table as text.
+Done TLY_Export::MnuItemexpdatacsv_Click() {
+    const View view = services_.display.exportable();
+    if (view == View::dataPlot)
+        return exportCsv();
+    return isTable(view) ? exportTable(false) : Done();
 }
 
-void TLY_Export::MnuItemexpdatacsv_Click() {
-    const Services& s = window_.services();
-    if (s.display.viewKind == ViewKind::dataPlot) {
-        SelectFile(s.recordings, s.chooser, pending::csvExport);
-        if (s.recordings.ginx == Recordings::cancelled)
-            return;
-    } else {
-        window_.view().makeTableCurrent();
-    }
-    tally::MnuItemexpdatacsv_Click(desk(), title());
-    exported();
+Done TLY_Export::mnuItemexpdata1perLine_Click() {
+    return isTable(services_.display.exportable()) ? exportTable(true) : Done();
 }
 
-void TLY_Export::mnuItemexpdata1perLine_Click() {
-    window_.view().makeTableCurrent();
-    tally::mnuItemexpdata1perLine_Click(desk(), title());
-    exported();
+Done TLY_Export::exportCsv() {
+    Recordings& recordings = services_.recordings;
+    SelectFile(recordings, services_.chooser, pending::csvExport);
+    const int slot = recordings.ginx;
+    if (slot == Recordings::cancelled)
+        return {};
+    const auto part = services_.display.part(recordings, slot);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    const auto done = CsvData(recordings, slot, *part, {services_.files, folder_.stored()});
+    if (!done)
+        return tl::make_unexpected(done.error());
+    services_.prompt.tell(done->text);
+    return {};
 }
 
-void TLY_Export::mnuitemexprep_Click() {
-    expmv90(desk(), recorderId_, [this] { return makePower(); });
-    exported();
+Done TLY_Export::exportTable(bool onePerLine) {
+    const Display& display = services_.display;
+    services_.recordings.ginx = display.shownSlot();
+    const auto done =
+        Export(services_.recordings, display.shownSlot(), display.table(), onePerLine, services_.files);
+    if (!done)
+        return tl::make_unexpected(done.error());
+    exported(*done);
+    return {};
 }
 
-// The report reads the kilowatts of the last power plot; those of another range are worked out first.
-bool TLY_Export::makePower() {
-    const Services& s = window_.services();
-    if (s.display.powerDrawn && powerCovers(s.display, reportRange(s.recordings, s.display)))
-        return true;
-    const auto volts = window_.power().askVoltage();
-    if (!volts)
-        return false;
-    const PowerRefusal refusal = powerForReport(s.recordings, s.display, *volts, s.clock);
-    if (refusal != PowerRefusal::none)
-        s.prompt.tell(std::string(refusalText(refusal)));
-    return refusal == PowerRefusal::none;
+Done TLY_Export::mnuitemexprep_Click() {
+    const Recordings& recordings = services_.recordings;
+    if (!recordings.isOpen(0))
+        return refuse(std::string(noFileToExport));
+    const auto plan = planMetering(recordings, services_.display.displayed(recordings),
+                                   services_.display.powerFactor(), {services_.files, folder_.stored()});
+    if (!plan)
+        return tl::make_unexpected(plan.error());
+    if (!voltage_.ensureKnown())
+        return {};
+    views_.renewPower();
+    const auto power = views_.power();
+    if (!power)
+        return tl::make_unexpected(power.error());
+    const auto answer =
+        services_.prompt.input(recorderQuestion(services_.display.powerFactor(), recorderId_));
+    if (!answer)
+        return {};
+    const auto done = expmv90(*plan, *power, *answer, services_.files);
+    if (!done)
+        return tl::make_unexpected(done.error());
+    recorderId_ = keptIdentifier(*answer);
+    exported(*done);
+    return {};
 }
 
 // A view has to be shown again before the next export.
-void TLY_Export::exported() {
-    if (window_.services().display.viewKind == ViewKind::none)
-        window_.menus().apply(MenuEvent::textShown);
+void TLY_Export::exported(const Exported& done) {
+    services_.display.exported();
+    services_.prompt.tell(done.text);
+    menus_.apply(MenuEvent::textShown);
 }
 
 } // namespace tally

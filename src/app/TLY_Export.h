@@ -1,30 +1,40 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "export/ExportDesk.h"
+#include "app/Dispatcher.h"
+#include "app/Services.h"
+#include "export/ExportPlace.h"
 
 #include <string>
 
 namespace tally {
 
-class TLY;
+class DefaultFolder;
+class Menus;
+class Views;
+class VoltageQuestion;
 
 // File > Export.
 class TLY_Export {
 public:
-    explicit TLY_Export(TLY& window) : window_(window) {}
+    TLY_Export(const Services& services, Views& views, VoltageQuestion& voltage, DefaultFolder& folder,
+               Menus& menus)
+        : services_(services), views_(views), voltage_(voltage), folder_(folder), menus_(menus) {}
 
-    void mnuitemexprep_Click();
-    void MnuItemexpdatacsv_Click();
-    void mnuItemexpdata1perLine_Click();
+    Done mnuitemexprep_Click();
+    Done MnuItemexpdatacsv_Click();
+    Done mnuItemexpdata1perLine_Click();
 
 private:
-    ExportDesk desk() const;
-    std::string title() const;
-    bool makePower();
-    void exported();
+    Done exportCsv();
+    Done exportTable(bool onePerLine);
+    void exported(const Exported& done);
 
-    TLY& window_;
+    const Services& services_;
+    Views& views_;
+    VoltageQuestion& voltage_;
+    DefaultFolder& folder_;
+    Menus& menus_;
     std::string recorderId_; // of the last report
 };
 

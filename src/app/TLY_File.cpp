@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_File.h"
 
+#include "app/DefaultFolder.h"
+#include "app/ForcedReadings.h"
 #include "app/Menus.h"
 #include "app/NoticeBar.h"
-#include "app/Screen.h"
 #include "app/StatusPanels.h"
-#include "app/TLY.h"
 #include "app/TLY_Downloads.h"
-#include "app/TLY_Edit.h"
-#include "app/TLY_View.h"
+#include "app/Views.h"
 #include "app/forms/Words.h"
-#include "core/Fault.h"
 #include "core/Fileopen.h"
 #include "core/RecentFiles.h"
 #include "core/SaveText.h"
-#include "view/Span.h"
-#include "view/forms/Chart.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -23,23 +19,44 @@
 
 namespace tally {
 
-TLY_File::TLY_File(TLY& window) : window_(window) {
-    QObject::connect(&window.screen(), &Screen::chartMade, &window,
-                     [this] { connectChart(window_.screen().chart(), window_.screen().chartBar()); });
+namespace {
+
+const QString savedKey = QStringLiteral("saved");
+
+// "10 of 40 readings (12:15 to 14:30)"; the dates too where they differ. Empty for the whole file.
+std::string partText(const Recordings& recordings, int slot, const Range& range) {
+    const FileFacts& info = recordings.info(slot);
+    if (range.entries() == info.count)
+        return {};
+    const ReadingTime first = timeOf(info, range.first);
+    const ReadingTime last = timeOf(info, range.last);
+    const bool oneDay = formatTime(first, "%Y%m%d") == formatTime(last, "%Y%m%d");
+    const auto shown = [&](ReadingTime time) {
+        return oneDay ? formatTime(time, "%H:%M") : screenTime(time);
+    };
+    return std::to_string(range.entries()) + " of " + std::to_string(info.count) + " readings (" +
+           shown(first) + " to " + shown(last) + ")";
 }
 
-std::string TLY_File::folder() {
-    const std::string folder = window_.services().settings.get("Directory", "default");
-    const QString key = QStringLiteral("folder");
-    if (folder.empty() || QDir(words(folder)).exists()) {
-        window_.notices().remove(key);
-        return folder;
+// Asks before a part takes the place of an open file that is longer.
+bool mayReplace(const Services& services, const std::string& path, const Range& range,
+                const std::string& part) {
+    for (int slot = 0; slot < Recordings::slotCount; ++slot) {
+        const FileFacts& info = services.recordings.info(slot);
+        if (info.path.empty() || info.count <= range.entries() || !services.files.same(info.path, path))
+            continue;
+        return services.prompt.show(
+                   {.text = info.path + " is open and holds " + std::to_string(info.count) +
+                            " readings.\r\nReplace it by " +
+                            (part.empty() ? std::to_string(range.entries()) + " readings" : part) + "?",
+                    .buttons = Buttons::YesNo,
+                    .exclamation = true,
+                    .defaultAnswer = Answer::No}) == Answer::Yes;
     }
-    window_.notices().put(key, QStringLiteral("The default directory %1 is not there. File dialogs start in "
-                                              "the current one; choose another under Options > Default Dir.")
-                                   .arg(words(folder)));
-    return {};
+    return true;
 }
+
+} // namespace
 
 std::string TLY_File::sample() {
     const QString program = QCoreApplication::applicationDirPath();
@@ -52,132 +69,131 @@ std::string TLY_File::sample() {
     return {};
 }
 
-void TLY_File::mnuItemOpen_Click() {
+Done TLY_File::mnuItemOpen_Click() {
     const auto path =
-        window_.services().prompt.chooseFile({.filter = std::string(openFilter), .folder = folder()});
-    if (path)
-        open(*path);
+        services_.prompt.chooseFile({.filter = std::string(openFilter), .folder = parts_.folder.forDialog()});
+    return path ? open(*path) : Done();
 }
 
-void TLY_File::mnuMRU_Click(int index) {
-    open(window_.menus().mruPath(index), recentGone);
+Done TLY_File::mnuMRU_Click(int index) {
+    return open(parts_.menus.mruPath(index), recentGone);
 }
 
 void TLY_File::openAll(const std::vector<std::string>& paths) {
-    for (const std::string& path : paths) {
-        if (!open(path))
+    for (const std::string& path : paths)
+        if (!parts_.dispatcher.attempt([&] { return open(path); }))
             return;
-    }
 }
 
-bool TLY_File::open(const std::string& path, std::string_view whenClosed) {
-    const Services& s = window_.services();
-    const OpenOutcome outcome = Fileopen(s.recordings, s.files, path);
+Done TLY_File::open(const std::string& path, std::string_view whenClosed) {
+    const OpenOutcome outcome = Fileopen(services_.recordings, services_.files, path);
     if (outcome != OpenOutcome::opened) {
         const bool closed = outcome == OpenOutcome::notFound || outcome == OpenOutcome::cannotRead;
-        s.prompt.tell(std::string(closed && !whenClosed.empty() ? whenClosed : openMessage(outcome)));
-        return false;
+        return refuse(std::string(closed && !whenClosed.empty() ? whenClosed : openMessage(outcome)));
     }
-    addRecentFile(s.settings, path);
-    opened();
-    return true;
+    addRecentFile(services_.settings, path);
+    return opened();
 }
 
-void TLY_File::opened() {
-    const Services& s = window_.services();
-    const FileFacts& info = s.recordings.info(s.recordings.ginx);
-    forgetViews(s.display);
-    Menus& menus = window_.menus();
-    menus.apply(MenuEvent::opened);
+Done TLY_File::opened() {
+    const Recordings& recordings = services_.recordings;
+    const int slot = recordings.ginx;
+    const FileFacts& info = recordings.info(slot);
+    services_.display.opened(recordings, slot);
+    parts_.menus.apply(MenuEvent::opened);
     if (info.unit() == 'V')
-        menus.apply(MenuEvent::voltage);
-    if (s.recordings.freeSlot() < 0)
-        menus.apply(MenuEvent::thirdOpened);
+        parts_.menus.apply(MenuEvent::voltage);
+    if (recordings.freeSlot() < 0)
+        parts_.menus.apply(MenuEvent::thirdOpened);
     showMru();
-    window_.updateTitle();
-    window_.view().showSummary();
+    parts_.namesChanged();
+    const Done shown = parts_.views.showSummary(slot);
+    parts_.views.showTogether();
     if (info.notesUnreadable)
-        window_.status().remark(QStringLiteral("The notes of the file could not be read."));
+        parts_.status.remark(QStringLiteral("The notes of the file could not be read."));
     if (info.unreadable > 0)
-        window_.status().remark(
+        parts_.status.remark(
             QStringLiteral("%1 item(s) of the file could not be read as numbers; each counts with its "
                            "leading number, or 0")
                 .arg(info.unreadable));
+    return shown;
 }
 
 void TLY_File::showMru() {
-    const Services& s = window_.services();
-    window_.menus().showMru(recentFiles(s.settings), s.recordings.freeSlot() >= 0);
+    parts_.menus.showMru(recentFiles(services_.settings), services_.recordings.freeSlot() >= 0);
 }
 
 void TLY_File::mnuItemClose_Click() {
-    if (!window_.edit().mayLeave())
+    if (!parts_.forced.mayLeave())
         return;
     reset();
     showMru();
 }
 
 void TLY_File::reset() {
-    const Services& s = window_.services();
-    s.recordings.closeAll();
-    forgetViews(s.display);
-    s.display.onePage = false;
-    s.display.powerView = false;
-    s.settings.set("Settings", "Vline", "0");
-    window_.screen().reset();
-    window_.status().remark({});
-    window_.status().pointer({}, {});
-    window_.edit().showForced();
-    window_.updateTitle();
-    window_.menus().apply(MenuEvent::close);
-    if (window_.downloads().pending())
-        window_.menus().apply(MenuEvent::textKept);
+    services_.recordings.closeAll();
+    services_.settings.set("Settings", "Vline", "0");
+    parts_.views.reset();
+    parts_.forced.show();
+    parts_.notices.remove(savedKey);
+    parts_.namesChanged();
+    parts_.menus.apply(MenuEvent::close);
+    if (parts_.downloads.pending())
+        parts_.menus.apply(MenuEvent::textKept);
 }
 
-// The applied span, else the whole of the chosen file, whatever the first one covers.
-ShownRange TLY_File::saveRange() const {
-    const Services& s = window_.services();
-    const ShownRange whole{0, s.recordings.info(s.recordings.ginx).count - 1};
-    return s.display.spanApplied ? ShownRange{s.recordings.gDatastart, s.recordings.gdataend} : whole;
-}
-
-// Leaves the data text of a range in gText and the displayed range as it is.
-void TLY_File::buildRange(const ShownRange& range) {
-    Recordings& recordings = window_.services().recordings;
-    const ShownRange shown{recordings.gDatastart, recordings.gdataend};
-    recordings.gDatastart = range.first;
-    recordings.gdataend = range.last;
-    buildText(recordings);
-    recordings.gDatastart = shown.first;
-    recordings.gdataend = shown.last;
-}
-
-void TLY_File::mnuItemSave_Click() {
-    const Services& s = window_.services();
-    ShownRange saved;
-    if (s.recordings.isOpen(0)) {
-        SelectFile(s.recordings, s.chooser);
-        if (s.recordings.ginx == Recordings::cancelled)
-            return;
-        saved = saveRange();
-        buildRange(saved);
+Done TLY_File::mnuItemSave_Click() {
+    Recordings& recordings = services_.recordings;
+    if (!recordings.isOpen(0)) {
+        savePending();
+        return {};
     }
-    const bool download = !s.recordings.isOpen(0) && window_.downloads().pending();
-    const std::string text =
-        tally::quoted(download ? window_.downloads().pending()->text : s.recordings.gText);
-    const auto path =
-        s.prompt.chooseFile({.save = true, .filter = std::string(saveFilter), .folder = folder()});
+    SelectFile(recordings, services_.chooser);
+    const int slot = recordings.ginx;
+    if (slot == Recordings::cancelled)
+        return {};
+    const auto wanted = services_.display.readings(recordings, slot);
+    return wanted ? saveReadings(slot, *wanted) : tl::make_unexpected(wanted.error());
+}
+
+Done TLY_File::saveWhole(int slot) {
+    return saveReadings(slot, services_.recordings.all(slot));
+}
+
+// The text that waits since a download; without one what the last save left.
+void TLY_File::savePending() {
+    const auto& pending = parts_.downloads.pending();
+    const std::string text = tally::quoted(pending ? pending->text : services_.recordings.gText);
+    const auto path = services_.prompt.chooseFile(
+        {.save = true, .filter = std::string(saveFilter), .folder = parts_.folder.forDialog()});
     if (!path)
         return;
-    s.files.write(*path, text);
-    if (download)
-        window_.downloads().pendingSaved();
-    window_.edit().saved(s.recordings.ginx, saved.first, saved.last);
-    window_.menus().apply(MenuEvent::saved);
+    services_.files.write(*path, text);
+    if (pending)
+        parts_.downloads.pendingSaved();
+    parts_.menus.apply(MenuEvent::saved);
 }
 
-void TLY_File::mnuItemExit_Click() {
-    window_.close();
+Done TLY_File::saveReadings(int slot, const Range& wanted) {
+    Recordings& recordings = services_.recordings;
+    const Range range = rangeToSave(recordings, slot, wanted);
+    const std::string part = partText(recordings, slot, range);
+    buildText(recordings, slot, range);
+    const auto path = services_.prompt.chooseFile({.save = true,
+                                                   .filter = std::string(saveFilter),
+                                                   .folder = parts_.folder.forDialog(),
+                                                   .title = part.empty() ? part : "Save " + part});
+    if (!path || !mayReplace(services_, *path, range, part))
+        return {};
+    services_.files.write(*path, tally::quoted(recordings.gText));
+    parts_.forced.saved(slot, range);
+    if (part.empty())
+        parts_.notices.remove(savedKey);
+    else
+        parts_.notices.put(savedKey, words(fileNameOf(*path) + " holds " + part + " of " +
+                                           fileNameOf(recordings.info(slot).path) + "."));
+    parts_.menus.apply(MenuEvent::saved);
+    return {};
 }
 
 } // namespace tally

@@ -3,18 +3,20 @@
 
 #include "app/HelpWindow.h"
 #include "app/MenuHelp.h"
-#include "app/TLY.h"
 #include "app/forms/About.h"
 #include "app/forms/Words.h"
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QMainWindow>
 #include <QMenuBar>
 
 namespace tally {
 
-TLY_Help::TLY_Help(TLY& window)
-    : window_(window), helpFile_(QCoreApplication::applicationDirPath() + QStringLiteral("/tallyhelp.hlp")) {
+TLY_Help::TLY_Help(const Services& services, QMainWindow& window)
+    : services_(services),
+      window_(window),
+      helpFile_(QCoreApplication::applicationDirPath() + QStringLiteral("/tallyhelp.hlp")) {
     new MenuHelp(
         *window.menuBar(), [this](const QString& menu) { showMenu(menu); }, &window);
 }
@@ -38,11 +40,11 @@ void TLY_Help::showMenu(const QString& menu) {
 void TLY_Help::show(const QString& page) {
     QString why;
     if (!WinHelpA(window_, helpFile_, &why, page))
-        window_.services().prompt.tell(why.toStdString());
+        services_.prompt.tell(why.toStdString());
 }
 
 void TLY_Help::mnuItemAbout_Click() {
-    About about(words(window_.services().settings.get("Security", "userid")), &window_);
+    About about(words(services_.settings.get("Security", "userid")), &window_);
     about.exec();
 }
 

@@ -1,15 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/Services.h"
+
 #include <QString>
+
+class QMainWindow;
 
 namespace tally {
 
-class TLY;
-
+// Help and About.
 class TLY_Help {
 public:
-    explicit TLY_Help(TLY& window);
+    TLY_Help(const Services& services, QMainWindow& window);
 
     void mnuItemHelp_Click();
     // The page of a menu, by the name of the menu.
@@ -22,7 +25,8 @@ public:
 private:
     void show(const QString& page);
 
-    TLY& window_;
+    const Services& services_;
+    QMainWindow& window_;
     QString helpFile_;
 };
 

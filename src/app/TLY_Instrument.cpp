@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Instrument.h"
 
+#include "app/Dispatcher.h"
 #include "app/Menus.h"
 #include "app/StatusPanels.h"
-#include "app/TLY.h"
 #include "app/TLY_Downloads.h"
 #include "app/forms/Words.h"
 #include "control/forms/Abort.h"
@@ -13,6 +13,7 @@
 #include "link/forms/PortSel.h"
 #include "link/forms/Status.h"
 
+#include <QMainWindow>
 #include <QMenuBar>
 
 namespace tally {
@@ -21,84 +22,88 @@ namespace {
 
 class MenusOff {
 public:
-    explicit MenusOff(TLY& window) : window_(window) { window_.menuBar()->setEnabled(false); }
+    MenusOff(QMenuBar& bar, Menus& menus) : bar_(bar), menus_(menus) { bar_.setEnabled(false); }
     ~MenusOff() {
-        window_.menuBar()->setEnabled(true);
-        window_.menus().refreshAll();
+        bar_.setEnabled(true);
+        menus_.refreshAll();
     }
     MenusOff(const MenusOff&) = delete;
     MenusOff& operator=(const MenusOff&) = delete;
 
 private:
-    TLY& window_;
+    QMenuBar& bar_;
+    Menus& menus_;
 };
 
 } // namespace
 
-TLY_Instrument::TLY_Instrument(TLY& window)
-    : window_(window),
-      context_{window.services().link.line,
-               window.services().link.waiter,
-               window.services().prompt,
-               window.services().link.instrument,
-               window.services().link.journal,
-               window.dispatcher().gErrorCallPoint,
-               window.services().link.requestCancel,
-               [&window](const std::string& text) { window.status().remark(lines(text)); }} {
-    InstrumentState& instrument = window.services().link.instrument;
-    instrument.gCommPort = storedCommPort(window.services().settings);
+TLY_Instrument::TLY_Instrument(const Services& services, Dispatcher& dispatcher, TLY_Downloads& downloads,
+                               Menus& menus, StatusPanels& status, QMainWindow* window)
+    : services_(services),
+      downloads_(downloads),
+      menus_(menus),
+      status_(status),
+      window_(window),
+      context_{services.link.line,
+               services.link.waiter,
+               services.prompt,
+               services.link.instrument,
+               services.link.journal,
+               dispatcher.gErrorCallPoint,
+               services.link.requestCancel,
+               [&status](const std::string& text) { status.remark(lines(text)); }} {
+    services.link.instrument.gCommPort = storedCommPort(services.settings);
 }
 
 void TLY_Instrument::session(const std::function<void()>& run) {
-    InstrumentState& instrument = window_.services().link.instrument;
+    InstrumentState& instrument = services_.link.instrument;
     if (instrument.instSelection == 0)
-        runInstSel(&window_, instrument, true);
+        runInstSel(window_, instrument, true);
     if (instrument.instSelection == 0)
         return;
-    const MenusOff off(window_);
+    const MenusOff off(*window_->menuBar(), menus_);
     run();
     sayProblem();
-    window_.activateWindow();
+    window_->activateWindow();
 }
 
 // What made a port invalid; the message boxes of the commands do not name it.
 void TLY_Instrument::sayProblem() {
-    const std::string problem = window_.services().link.line.problem();
+    const std::string problem = services_.link.line.problem();
     if (!problem.empty())
-        window_.status().remark(lines(problem));
+        status_.remark(lines(problem));
 }
 
 void TLY_Instrument::mnuItemDownload_Click() {
-    const Services& s = window_.services();
-    session(
-        [&] { window_.downloads().take(runDownload(&window_, context_, s.files, s.link.workingDirectory)); });
-    window_.downloads().showNotices();
+    const Services& s = services_;
+    session([&] { downloads_.take(runDownload(window_, context_, s.files, s.link.workingDirectory)); });
+    downloads_.showNotices();
 }
 
 void TLY_Instrument::mnuItemInitialize_Click() {
-    session([&] { runInitialize(&window_, context_, window_.services().link.journal); });
+    session([&] { runInitialize(window_, context_, services_.link.journal); });
 }
 
 void TLY_Instrument::mnuItemRecover_Click() {
-    const Services& s = window_.services();
-    session([&] { window_.downloads().take(runRecover(&window_, context_, s.files, s.link.temporary)); });
-    window_.downloads().showNotices();
+    const Services& s = services_;
+    session([&] { downloads_.take(runRecover(window_, context_, s.files, s.link.temporary)); });
+    downloads_.showNotices();
 }
 
 void TLY_Instrument::mnuItemStatusCheck_Click() {
-    session([&] { runStatusCheck(&window_, context_); });
+    session([&] { runStatusCheck(window_, context_); });
 }
 
 void TLY_Instrument::mnuItemPortSelect_Click() {
-    const Services& s = window_.services();
-    runPortSel(&window_, s.link.instrument, s.link.line, s.settings, s.prompt, s.link.ports);
+    const Services& s = services_;
+    runPortSel(window_, s.link.instrument, s.link.line, s.settings, s.prompt, s.link.ports);
     sayProblem();
-    window_.activateWindow();
+    window_->activateWindow();
 }
 
 void TLY_Instrument::mnuItemInstSelect_Click() {
-    runInstSel(&window_, window_.services().link.instrument);
-    window_.activateWindow();
+    runInstSel(window_, services_.link.instrument);
+    window_->activateWindow();
 }
 
 } // namespace tally

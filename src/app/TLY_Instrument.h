@@ -1,18 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/Services.h"
 #include "link/forms/SessionContext.h"
 
 #include <functional>
 
+class QMainWindow;
+
 namespace tally {
 
-class TLY;
+class Dispatcher;
+class Menus;
+class StatusPanels;
+class TLY_Downloads;
 
 // The Instrument menu, and the choice of port and type.
 class TLY_Instrument {
 public:
-    explicit TLY_Instrument(TLY& window);
+    TLY_Instrument(const Services& services, Dispatcher& dispatcher, TLY_Downloads& downloads, Menus& menus,
+                   StatusPanels& status, QMainWindow* window);
 
     void mnuItemDownload_Click();
     void mnuItemInitialize_Click();
@@ -26,7 +33,11 @@ private:
     void session(const std::function<void()>& run);
     void sayProblem();
 
-    TLY& window_;
+    const Services& services_;
+    TLY_Downloads& downloads_;
+    Menus& menus_;
+    StatusPanels& status_;
+    QMainWindow* window_; // for the dialogs, and its menu bar
     SessionContext context_;
 };
 

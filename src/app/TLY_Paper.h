@@ -1,35 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "view/forms/Paper.h"
+#include "app/Dispatcher.h"
+#include "app/Services.h"
 
 namespace tally {
 
-class TLY;
+class Printing;
+class Views;
+class VoltageQuestion;
 
-// Everything that goes to a printer.
+// File > Print.
 class TLY_Paper {
 public:
-    explicit TLY_Paper(TLY& window);
+    TLY_Paper(const Services& services, Views& views, VoltageQuestion& voltage, Printing& printing)
+        : services_(services), views_(views), voltage_(voltage), printing_(printing) {}
 
-    void mnuItemPrintSum_Click();
-    void mnuItemPrintTable_Click();
-    void mnuItemPrintpwrSum_Click();
-    void mnuItemPrintPwrTable_Click();
-
-    // A text that needs no heading.
-    void print(const std::string& title, const std::string& text);
-    void preview(const std::string& title, const std::string& text);
-    // What is shown: the chart or the text.
-    void printShown();
-    void previewShown();
+    Done mnuItemPrintSum_Click();
+    Done mnuItemPrintTable_Click();
+    Done mnuItemPrintpwrSum_Click();
+    Done mnuItemPrintPwrTable_Click();
 
 private:
-    TextReport report(const std::string& title, const std::string& heading, const std::string& text) const;
-    TextReport shownText() const;
-    Paper paper() const;
-
-    TLY& window_;
+    const Services& services_;
+    Views& views_;
+    VoltageQuestion& voltage_;
+    Printing& printing_;
 };
 
 } // namespace tally

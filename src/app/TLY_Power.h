@@ -1,41 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "view/Power.h"
-
-#include <optional>
-#include <string>
+#include "app/Dispatcher.h"
+#include "app/Services.h"
 
 namespace tally {
 
-class TLY;
+class StatusPanels;
+class Views;
+class VoltageQuestion;
 
-inline constexpr std::string_view powerTableName = "power table";
-
-// The power views and what they are worked out from.
+// The power views and the power factor.
 class TLY_Power {
 public:
-    explicit TLY_Power(TLY& window) : window_(window) {}
+    TLY_Power(const Services& services, Views& views, VoltageQuestion& voltage, StatusPanels& status)
+        : services_(services), views_(views), voltage_(voltage), status_(status) {}
 
-    void mnuItemViewPower_Click();
-    void mnuItemViewPwrTable_Click();
-    void mnuItemViewpwrsummry_Click();
+    Done mnuItemViewPower_Click();
+    Done mnuItemViewPwrTable_Click();
+    Done mnuItemViewpwrsummry_Click();
     void mnuItemPF_Click();
 
-    // The power plot over the displayed range with the voltage in force.
-    void redraw();
-    // Draws the power plot first when none was drawn since the files were opened; false when that ended
-    // without one.
-    bool ensureDrawn();
-
-    // Asks for the line voltage and keeps the answer; volts, or nothing when it was left.
-    std::optional<double> askVoltage();
-
 private:
-    bool drawn(PowerRefusal refusal, const Plot& plot);
-
-    TLY& window_;
-    std::string hint_; // about the voltage entered last
+    const Services& services_;
+    Views& views_;
+    VoltageQuestion& voltage_;
+    StatusPanels& status_;
 };
 
 } // namespace tally

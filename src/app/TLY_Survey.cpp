@@ -1,27 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Survey.h"
 
-#include "app/TLY.h"
-#include "app/TLY_File.h"
-#include "app/TLY_Paper.h"
+#include "app/DefaultFolder.h"
+#include "app/Dispatcher.h"
+#include "app/Printing.h"
 #include "survey/SurveyDesk.h"
 #include "survey/forms/LoadSurv.h"
 
 namespace tally {
 
 void TLY_Survey::mnuitemsurvfil_Click() {
-    const Services& s = window_.services();
-    if (!startSurvey(survey_, s.prompt))
+    if (!startSurvey(survey_, services_.prompt))
         return;
     const SurveyServices services{
-        .files = s.files,
-        .prompt = s.prompt,
-        .clock = s.clock,
-        .folder = window_.file().folder(),
-        .print = [this](const SurveyPaper& paper) { window_.paper().print(paper.title, paper.text); },
-        .preview = [this](const SurveyPaper& paper) { window_.paper().preview(paper.title, paper.text); },
-        .attempt = [this](const std::function<void()>& step) { window_.dispatcher().attempt(step); }};
-    LoadSurv dialog(survey_, services, &window_);
+        .files = services_.files,
+        .prompt = services_.prompt,
+        .clock = services_.clock,
+        .folder = folder_.forDialog(),
+        .print = [this](const SurveyPaper& paper) { printing_.print(paper.title, {}, paper.text); },
+        .preview = [this](const SurveyPaper& paper) { printing_.preview(paper.title, paper.text); },
+        .attempt = [this](const std::function<void()>& step) { dispatcher_.attempt(step); }};
+    LoadSurv dialog(survey_, services, window_);
     dialog.exec();
 }
 

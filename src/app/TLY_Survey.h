@@ -1,22 +1,36 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "app/Services.h"
 #include "survey/SurveyData.h"
+
+class QWidget;
 
 namespace tally {
 
-class TLY;
-struct SurveyPaper;
+class DefaultFolder;
+class Dispatcher;
+class Printing;
 
 // The Load Survey menu.
 class TLY_Survey {
 public:
-    explicit TLY_Survey(TLY& window) : window_(window) {}
+    TLY_Survey(const Services& services, Dispatcher& dispatcher, DefaultFolder& folder, Printing& printing,
+               QWidget* window)
+        : services_(services),
+          dispatcher_(dispatcher),
+          folder_(folder),
+          printing_(printing),
+          window_(window) {}
 
     void mnuitemsurvfil_Click();
 
 private:
-    TLY& window_;
+    const Services& services_;
+    Dispatcher& dispatcher_;
+    DefaultFolder& folder_;
+    Printing& printing_;
+    QWidget* window_; // for the dialog
     SurveyData survey_;
 };
 

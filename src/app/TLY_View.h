@@ -1,51 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "view/Plot.h"
+#include "app/Dispatcher.h"
+#include "app/Services.h"
+
+class QWidget;
 
 namespace tally {
 
-class Chart;
-class ChartToolBar;
-class TLY;
+class Menus;
+class Views;
 
 // The data views: plot, table, summary, and what is done to the plot.
 class TLY_View {
 public:
-    explicit TLY_View(TLY& window);
+    TLY_View(const Services& services, Views& views, Menus& menus, QWidget* window)
+        : services_(services), views_(views), menus_(menus), window_(window) {}
 
-    void mnuItemViewPlot_Click();
-    void mnuItemViewTable_Click();
-    void mnuItemViewsummary_Click();
-    void mnuItemRefresh_Click();
-    void mnuZoom_Click();
-    void mnuItemScale_Click();
-    void mnuItemOnepgPlot_Click();
-
-    // Draws the displayed range as the view that is on: data plot or power plot.
-    void redraw();
-    // Shows a plot that was worked out; `remark` goes to the status line.
-    void show(const Plot& plot, const std::string& remark);
-    // Shows again what is on, after readings or notes have changed.
-    void refresh();
-    // Shows the summary of the current file without asking which.
-    void showSummary();
-    // The file whose table is shown becomes the current one again.
-    void makeTableCurrent();
-    // A plot that does not belong to the open recordings: no range, no read-out.
-    void showImported(const Plot& plot);
-    bool noFile() const; // tells it
+    Done mnuItemViewPlot_Click();
+    Done mnuItemViewTable_Click();
+    Done mnuItemViewsummary_Click();
+    Done mnuItemRefresh_Click();
+    Done mnuZoom_Click();
+    Done mnuItemScale_Click();
+    Done mnuItemOnepgPlot_Click();
+    // Leaves the zoom; what is shown stays the view.
+    Done showAll();
 
 private:
-    void connectChart(Chart& chart);
-    void showTable();
-    void spanEnded(int point);
-    void pointerMoved(int point);
-    std::string labelAt(int point) const;
-
-    TLY& window_;
-    bool imported_ = false;
-    int shownSlot_ = 0; // of the table or summary that is shown
+    const Services& services_;
+    Views& views_;
+    Menus& menus_;
+    QWidget* window_; // for the dialog
 };
 
 } // namespace tally

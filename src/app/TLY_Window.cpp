@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The main window as a window: title, place, drops, shortcuts, closing.
+#include "app/Commands.h"
 #include "app/Menus.h"
 #include "app/NoticeBar.h"
 #include "app/Screen.h"
 #include "app/StartPage.h"
 #include "app/TLY.h"
-#include "app/TLY_Downloads.h"
-#include "app/TLY_Edit.h"
-#include "app/TLY_File.h"
-#include "app/TLY_Help.h"
-#include "app/TLY_Paper.h"
-#include "app/TLY_View.h"
 #include "app/forms/Words.h"
-#include "view/ShownRange.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"
 
@@ -46,9 +40,10 @@ void TLY::addShortcuts() {
         addAction(action);
         connect(action, &QAction::triggered, this, run);
     };
-    add("printShown", QKeySequence::Print, [this] { dispatcher_.run([this] { paper_->printShown(); }); });
-    add("copyShown", QKeySequence::Copy, [this] { file_->copyShown(); });
-    add("undoForced", QKeySequence::Undo, [this] { dispatcher_.run([this] { edit_->undo(); }); });
+    add("printShown", QKeySequence::Print,
+        [this] { dispatcher_.run([this] { commands_->printing.printShown(); }); });
+    add("copyShown", QKeySequence::Copy, [this] { commands_->chart.copyShown(); });
+    add("undoForced", QKeySequence::Undo, [this] { dispatcher_.run([this] { commands_->forced.undo(); }); });
 }
 
 void TLY::connectStartPage() {
@@ -62,9 +57,9 @@ void TLY::connectStartPage() {
 }
 
 void TLY::openFiles(const std::vector<std::string>& paths, bool plot) {
-    dispatcher_.run([&] { file_->openAll(paths); });
+    dispatcher_.run([&] { commands_->file.openAll(paths); });
     if (plot && services_.recordings.isOpen(0))
-        dispatcher_.run([this] { view_->mnuItemViewPlot_Click(); });
+        dispatcher_.run([this] { return commands_->view.mnuItemViewPlot_Click(); });
 }
 
 void TLY::updateTitle() {
@@ -74,6 +69,10 @@ void TLY::updateTitle() {
             names.append(words(fileNameOf(services_.recordings.info(slot).path)));
     setWindowTitle(names.isEmpty() ? QStringLiteral("Tallyline")
                                    : names.join(QStringLiteral(", ")) + QStringLiteral(" - Tallyline"));
+}
+
+void TLY::setHelpFile(const QString& path) {
+    commands_->help.setHelpFile(path);
 }
 
 void TLY::reportSettings(const std::string& text) {
@@ -93,7 +92,7 @@ bool TLY::event(QEvent* event) {
         painted_ = true;
         QTimer::singleShot(0, this, [this] {
             Q_EMIT firstFrame();
-            downloads_->showNotices();
+            commands_->downloads.showNotices();
         });
     }
     return done;
@@ -103,7 +102,7 @@ void TLY::closeEvent(QCloseEvent* event) {
     // A session with an instrument ends first.
     if (dispatcher_.running())
         services_.link.requestCancel();
-    if (dispatcher_.running() || !edit_->mayLeave()) {
+    if (dispatcher_.running() || !commands_->forced.mayLeave()) {
         event->ignore();
         return;
     }

@@ -99,7 +99,7 @@ int main(int argc, char** argv) {
     tally::UserSettings settings(files, tally::folders::settingsFile());
     tally::QtClock clock;
     tally::Recordings recordings;
-    tally::DisplayState display;
+    tally::Display display;
     tally::QtPrompt prompt;
     tally::AppSlotChooser chooser(prompt);
     Link link(files, settings);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cli/Context.h"
+#include "core/Refusal.h"
 
 #include <CLI/CLI.hpp>
 
@@ -26,6 +27,7 @@ constexpr int usage = 2;
 class Refused : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
+    explicit Refused(const Refusal& refusal) : std::runtime_error(refusal.message()) {}
 };
 
 // Arguments that make no sense (a range outside the file, an unknown type); exit status 2.
@@ -33,6 +35,14 @@ class WrongUsage : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+// The value, or Refused with its refusal.
+template <typename Value>
+Value valueOrRefused(Expected<Value> result) {
+    if (!result)
+        throw Refused(result.error());
+    return *std::move(result);
+}
 
 // Adds one command, with what it does and the option --at that every command has, to the program.
 //   CLI::App& command = addCommand(program, context, "name", "what it does", action);

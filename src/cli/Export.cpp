@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "export/Export.h"
 
-#include "cli/AnswerPrompt.h"
 #include "cli/Commands.h"
 #include "cli/PowerOptions.h"
-#include "core/Fault.h"
 #include "export/CsvData.h"
 #include "export/expmv90.h"
-#include "view/LineVoltage.h"
 #include "view/Print.h"
 
 namespace tally::cli {
@@ -24,13 +21,9 @@ struct Options {
     bool perLine = false;
 };
 
-// Runs an export and prints its line; a refusal or a fault ends the command with its text.
-template <typename Run>
-int report(Context& context, const AnswerPrompt& prompt, Run run) {
-    const ExportOutcome outcome = run();
-    if (outcome != ExportOutcome::saved)
-        throw Refused(prompt.told());
-    context.out(prompt.told() + "\n");
+// Prints the line of an export that was written; a refusal ends the command with its text.
+int report(Context& context, const Expected<Exported>& exported) {
+    context.out(valueOrRefused(exported).text + "\n");
     return status::done;
 }
 
@@ -39,33 +32,26 @@ std::string directoryOf(Context& context, const Options& options) {
 }
 
 int exportCsv(Context& context, const Options& options) {
-    OpenFiles open = openFiles(context, {*options.file}, *options.range);
-    AnswerPrompt prompt;
-    const ExportDesk desk{open.recordings, open.state, context.files(), prompt,
-                          directoryOf(context, options)};
-    return report(context, prompt, [&] { return CsvData(desk); });
+    const OpenFiles open = openFiles(context, {*options.file}, *options.range);
+    const ExportPlace place{context.files(), directoryOf(context, options)};
+    return report(context, CsvData(open.recordings, 0, open.part(), place));
 }
 
 int exportText(Context& context, const Options& options) {
-    OpenFiles open = openFiles(context, {*options.file}, *options.range);
-    AnswerPrompt prompt;
-    const ExportDesk desk{open.recordings, open.state, context.files(), prompt, {}};
-    const std::string heading = Print(open.recordings, open.state);
-    return report(context, prompt, [&] { return Export(desk, heading, options.perLine); });
+    const OpenFiles open = openFiles(context, {*options.file}, *options.range);
+    const Table table = Print(open.recordings, 0, open.part());
+    return report(context, Export(open.recordings, 0, table, options.perLine, context.files()));
 }
 
 int exportMetering(Context& context, const Options& options) {
-    OpenFiles open = openFiles(context, *options.files, *options.range);
-    setPowerFactor(open.recordings, options.power->powerFactor);
-    AnswerPrompt prompt(options.identifier);
-    const ExportDesk desk{open.recordings, open.state, context.files(), prompt,
-                          directoryOf(context, options)};
-    const auto makePower = [&] {
-        drawPower(context, open, *options.power);
-        return true;
-    };
-    std::string recorderId;
-    return report(context, prompt, [&] { return expmv90(desk, recorderId, makePower); });
+    const OpenFiles open = openFiles(context, *options.files, *options.range);
+    const PowerBasis basis = options.power->basis(context);
+    const ExportPlace place{context.files(), directoryOf(context, options)};
+    const MeteringPlan plan = valueOrRefused(planMetering(open.recordings, open.part(), basis.factor, place));
+    const Power power = valueOrRefused(powerOf(open.recordings, plan.range, basis));
+    options.power->warn(context);
+    warnTogether(context, open);
+    return report(context, expmv90(plan, power, options.identifier, context.files()));
 }
 
 void addDirectory(CLI::App& command, Options& options) {

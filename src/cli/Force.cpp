@@ -22,14 +22,10 @@ ForceWhich whichOf(const std::string& name) {
 int run(Context& context, const Options& options) {
     OpenFiles open = openFiles(context, {*options.file}, *options.range);
     float lastValue = 0;
-    const ForceResult result =
-        forceReadings(open.recordings, options.value, whichOf(options.which), lastValue);
-    if (!result.done())
-        throw Refused(result.message);
-    context.warn(std::to_string(result.count) + " reading(s) forced");
-    open.recordings.gDatastart = 0;
-    open.recordings.gdataend = open.recordings.info(0).count - 1;
-    writeFile(context, options.to, tally::quoted(buildDataText(open.recordings)));
+    const int count = valueOrRefused(
+        forceReadings(open.recordings, 0, open.readings(), options.value, whichOf(options.which), lastValue));
+    context.warn(std::to_string(count) + " reading(s) forced");
+    writeFile(context, options.to, tally::quoted(buildDataText(open.recordings, 0, open.recordings.all(0))));
     return 0;
 }
 

@@ -4,7 +4,7 @@
 #include "core/Fault.h"
 #include "core/Fileopen.h"
 #include "core/NotesFile.h"
-#include "view/Span.h"
+#include "view/FilesTogether.h"
 
 #include <QFileInfo>
 
@@ -69,8 +69,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
         warnOfUnreadable(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;
-    open.recordings.gDatastart = 0;
-    open.recordings.gdataend = open.recordings.info(0).count - 1;
+    open.display.opened(open.recordings, 0);
     return open;
 }
 
@@ -81,11 +80,16 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
     const int last = open.recordings.info(0).count - 1;
     const int from = indexOf(range.from, 0);
     const int to = indexOf(range.to, last);
-    if (!applyRange(open.recordings, open.state, from, to))
+    if (!open.display.applyRange(open.recordings, from, to))
         throw WrongUsage("The range " + std::to_string(from) + " to " + std::to_string(to) +
                          " is turned round or outside the file, which has the readings 0 to " +
                          std::to_string(last));
     return open;
+}
+
+void warnTogether(Context& context, const OpenFiles& open) {
+    for (const std::string& warning : togetherWarnings(open.recordings))
+        context.warn(warning);
 }
 
 void writeFile(Context& context, const std::string& path, const std::string& bytes) {

@@ -3,7 +3,7 @@
 
 #include "cli/Command.h"
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
+#include "view/Display.h"
 
 #include <memory>
 #include <string>
@@ -21,7 +21,12 @@ struct RangeOptions {
 // The files that a command names, opened, with the range applied.
 struct OpenFiles {
     Recordings recordings;
-    DisplayState state;
+    Display display;
+
+    // What a command covers of the first file: the applied range, else every whole interval.
+    Range part() const { return display.displayed(recordings); }
+    // The same for what counts in readings.
+    Range readings() const { return display.zoomed() ? part() : recordings.all(0); }
 };
 
 // Adds --from and --to.
@@ -30,13 +35,16 @@ std::shared_ptr<RangeOptions> addRange(CLI::App& command);
 std::shared_ptr<std::string> addFile(CLI::App& command);
 std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command);
 
-// Opens files, the first one current. Items that were no numbers are warned of. Throws Refusal with the text
+// Opens files, the first one current. Items that were no numbers are warned of. Throws Refused with the text
 // of what was refused.
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths);
 // The same with the range marked and applied. Throws WrongUsage for a bad range.
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, const RangeOptions& range);
 
-// Writes a file as a whole. Throws Refusal that names the file and the cause.
+// Says on standard error what must be known before the files are read side by side.
+void warnTogether(Context& context, const OpenFiles& open);
+
+// Writes a file as a whole. Throws Refused that names the file and the cause.
 void writeFile(Context& context, const std::string& path, const std::string& bytes);
 
 } // namespace tally::cli

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Json.h"
 #include "cli/PowerOptions.h"
+#include "view/FilesTogether.h"
 #include "view/PlotModel.h"
-#include "view/Span.h"
 #include "view/forms/ChartPicture.h"
 
 #include <charconv>
@@ -42,7 +42,7 @@ Statistic statisticOf(const std::string& name) {
     return name == "max" ? Statistic::maximum : name == "min" ? Statistic::minimum : Statistic::average;
 }
 
-Json jsonOf(const Plot& plot, const DisplayState& state) {
+Json jsonOf(const Plot& plot) {
     Json series = Json::array();
     for (const PlotSeries& one : plot.series)
         series.push_back({{"legend", one.legend}, {"points", one.values.size()}});
@@ -52,19 +52,19 @@ Json jsonOf(const Plot& plot, const DisplayState& state) {
             {"ymax", plot.yMax},
             {"labels", plot.labels},
             {"series", series},
-            {"extremeMin", state.extremeMin},
-            {"extremeMax", state.extremeMax}};
+            {"extremeMin", plot.extremeMin},
+            {"extremeMax", plot.extremeMax}};
 }
 
 Plot draw(Context& context, OpenFiles& open, const Options& options) {
     if (!options.yMin.empty())
-        setScale(open.state, options.yMin);
-    open.state.dataDisplayed = statisticOf(options.show);
-    if (options.asPower)
-        return drawPower(context, open, *options.power);
-    if (options.range->given())
-        requestZoom(open.recordings, open.state);
-    return DisplPlot(open.recordings, open.state, context.clock());
+        open.display.setScale(options.yMin);
+    open.display.setStatistic(statisticOf(options.show));
+    const PlotRequest request = open.display.plotRequest(open.recordings);
+    if (!options.asPower)
+        return DisplPlot(open.recordings, request, context.clock());
+    return DisplPlotPwr(open.recordings, request, powerOfFiles(context, open, *options.power),
+                        context.clock());
 }
 
 void writePicture(Context& context, const Plot& plot, const std::string& path, QSize size) {
@@ -82,12 +82,13 @@ int run(Context& context, const Options& options) {
         throw WrongUsage("-o: '" + options.to + "' must end in .png, .pdf or .svg");
     OpenFiles open = openFiles(context, *options.files, *options.range);
     const Plot plot = draw(context, open, options);
-    if (!plot.remark.empty())
-        context.warn(plot.remark);
+    if (const std::string shorter = shorterFiles(open.recordings); !shorter.empty())
+        context.warn(shorter);
+    warnTogether(context, open);
     if (!options.to.empty())
         writePicture(context, plot, options.to, size);
     if (*options.json)
-        outJson(context, jsonOf(plot, open.state));
+        outJson(context, jsonOf(plot));
     return 0;
 }
 
@@ -104,7 +105,7 @@ void addPlot(CLI::App& program, Context& shared) {
     command.add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
     command.add_option("--show", options->show, "what several Min/Max/Avg files show")
         ->check(CLI::IsMember({"avg", "max", "min"}));
-    command.add_option("--ymin", options->yMin, "least value of the y axis, a whole number");
+    command.add_option("--ymin", options->yMin, "minimum of the y axis, a whole number");
     command.add_flag("--power", options->asPower, "draw kilowatts");
     command.add_option("--size", options->size, "width and height in pixels")->capture_default_str();
 }

@@ -17,30 +17,28 @@ struct Options {
     bool summary = false;
 };
 
-Json jsonOf(const OpenFiles& open, const Plot& plot, const std::string& title) {
+Json jsonOf(const Power& power, const Plot& plot, const std::string& title) {
     Json kw = Json::array();
-    for (const float value : open.state.power)
+    for (const float value : power.kilowatts)
         kw.push_back(shortest(value));
-    return {{"kw", kw},
-            {"energy", open.state.energyText},
-            {"ymin", plot.yMin},
-            {"ymax", plot.yMax},
-            {"extremeMin", open.state.powerExtremeMin},
-            {"extremeMax", open.state.powerExtremeMax},
+    return {{"kw", kw},          {"energy", power.energyText},     {"ymin", plot.yMin},
+            {"ymax", plot.yMax}, {"extremeMin", power.extremeMin}, {"extremeMax", power.extremeMax},
             {"title", title}};
 }
 
 int run(Context& context, const Options& options) {
-    OpenFiles open = openFiles(context, *options.files, *options.range);
-    const Plot plot = drawPower(context, open, *options.power);
-    const std::string vline = options.power->vline(context);
+    const OpenFiles open = openFiles(context, *options.files, *options.range);
+    const Power power = powerOfFiles(context, open, *options.power);
+    warnTogether(context, open);
     if (*options.json) {
-        outJson(context, jsonOf(open, plot, plot.title.substr(0, plot.title.find("\r\n"))));
+        const PlotRequest request = open.display.plotRequest(open.recordings);
+        const Plot plot = DisplPlotPwr(open.recordings, request, power, context.clock());
+        outJson(context, jsonOf(power, plot, powerTitle(open.recordings, power.basis)));
     } else if (options.table) {
-        const std::string heading = Printpwr(open.recordings, open.state);
-        context.out(heading + "\r\n" + open.recordings.gTable);
+        const Table table = Printpwr(open.recordings, power);
+        context.out(table.heading + "\r\n" + table.text);
     } else {
-        context.out(Printpwrinfo(open.recordings, open.state, vline));
+        context.out(Printpwrinfo(open.recordings, power, open.display.zoomed()));
     }
     return 0;
 }

@@ -2,25 +2,29 @@
 #pragma once
 
 #include "cli/OpenFiles.h"
-#include "view/Plot.h"
+#include "view/Power.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace tally::cli {
 
 // --volts and --pf, as they were typed.
 struct PowerOptions {
-    std::string volts;
-    std::string powerFactor;
+    std::optional<std::string> volts;
+    std::optional<std::string> powerFactor;
 
-    // The line voltage as text: the given one, the stored one or the default.
-    std::string vline(Context& context) const;
+    // The line voltage given, stored or the program's default, and the power factor. Throws WrongUsage for
+    // what is no plain number.
+    PowerBasis basis(Context& context) const;
+    // Says on standard error which line voltage was taken when that is hardly meant.
+    void warn(Context& context) const;
 };
 
 std::shared_ptr<PowerOptions> addPowerOptions(CLI::App& command);
 
-// Draws the power plot of the open files over their range. Throws Refusal with the text of the box.
-Plot drawPower(Context& context, OpenFiles& open, const PowerOptions& options);
+// The power of the open files over their range. Throws Refused with the text of the box.
+Power powerOfFiles(Context& context, const OpenFiles& open, const PowerOptions& options);
 
 } // namespace tally::cli

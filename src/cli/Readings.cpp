@@ -2,13 +2,12 @@
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
 #include "core/Numbers.h"
-#include "view/ShownRange.h"
 
 namespace tally::cli {
 
 namespace {
 
-Json jsonOf(const Recordings& recordings, const ShownRange& range) {
+Json jsonOf(const Recordings& recordings, const Range& range) {
     Json list = Json::array();
     for (int i = range.first; i <= range.last; ++i)
         list.push_back({{"i", i},
@@ -17,7 +16,7 @@ Json jsonOf(const Recordings& recordings, const ShownRange& range) {
     return list;
 }
 
-std::string linesOf(const Recordings& recordings, const ShownRange& range) {
+std::string linesOf(const Recordings& recordings, const Range& range) {
     std::string lines;
     for (int i = range.first; i <= range.last; ++i)
         lines += std::to_string(i) + "," + screenTime(timeOf(recordings.info(0), i)) + "," +
@@ -37,7 +36,7 @@ void addReadings(CLI::App& program, Context& shared) {
     CLI::App& command = addCommand(
         program, shared, "readings", "index, time and value of each reading", [options](Context& context) {
             const OpenFiles open = openFiles(context, {*options->file}, *options->range);
-            const ShownRange range = {open.recordings.gDatastart, open.recordings.gdataend};
+            const Range range = open.readings();
             if (*options->json)
                 outJson(context, jsonOf(open.recordings, range));
             else

@@ -14,7 +14,8 @@ void addSave(CLI::App& program, Context& shared) {
     CLI::App& command =
         addCommand(program, shared, "save", "write the data file of a range", [options](Context& context) {
             const OpenFiles open = openFiles(context, {*options->file}, *options->range);
-            writeFile(context, options->to, tally::quoted(buildDataText(open.recordings)));
+            writeFile(context, options->to,
+                      tally::quoted(buildDataText(open.recordings, 0, open.readings())));
             return 0;
         });
     options->file = addFile(command);

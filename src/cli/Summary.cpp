@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/OpenFiles.h"
-#include "view/PlotModel.h"
 #include "view/Printinfo.h"
 
 namespace tally::cli {
@@ -13,10 +12,8 @@ void addSummary(CLI::App& program, Context& shared) {
     auto options = std::make_shared<Options>();
     CLI::App& command =
         addCommand(program, shared, "summary", "the summary of a data file", [options](Context& context) {
-            OpenFiles open = openFiles(context, {*options->file}, *options->range);
-            // The extremes of the selected range are those that its plot finds.
-            DisplPlot(open.recordings, open.state, context.clock());
-            context.out(Printinfo(open.recordings, open.state));
+            const OpenFiles open = openFiles(context, {*options->file}, *options->range);
+            context.out(Printinfo(open.recordings, 0, open.display.selection(open.recordings)));
             return 0;
         });
     options->file = addFile(command);

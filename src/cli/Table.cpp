@@ -10,13 +10,13 @@ void addTable(CLI::App& program, Context& shared) {
         std::shared_ptr<RangeOptions> range;
     };
     auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(program, shared, "table", "the data table: heading and readings",
-                                   [options](Context& context) {
-                                       OpenFiles open = openFiles(context, {*options->file}, *options->range);
-                                       const std::string heading = Print(open.recordings, open.state);
-                                       context.out(heading + "\r\n" + open.recordings.gTable);
-                                       return 0;
-                                   });
+    CLI::App& command = addCommand(
+        program, shared, "table", "the data table: heading and readings", [options](Context& context) {
+            const OpenFiles open = openFiles(context, {*options->file}, *options->range);
+            const Table table = Print(open.recordings, 0, open.part());
+            context.out(table.heading + "\r\n" + table.text);
+            return 0;
+        });
     options->file = addFile(command);
     options->range = addRange(command);
 }

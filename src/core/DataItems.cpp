@@ -158,7 +158,7 @@ private:
 
     void keepNewest() {
         const std::size_t count =
-            std::min(work_.size() - next_, static_cast<std::size_t>(Recordings::mostReadings));
+            std::min(work_.size() - next_, static_cast<std::size_t>(Recordings::maximumReadings));
         items_.readings.assign(work_.end() - static_cast<std::ptrdiff_t>(count), work_.end());
     }
 

@@ -31,13 +31,11 @@ Notes notesBeside(const Files& files, const std::string& path, bool& unreadable)
 void fillSlot(Recordings& recordings, int slot, Recording&& recording, Notes&& notes) {
     const auto row = static_cast<std::size_t>(slot);
     recordings.gFileName = recording.facts.path;
-    recordings.gDatastart = 0;
-    recordings.gdataend = recording.facts.count - 1;
     recordings.gInfo[row] = std::move(recording.facts);
     recordings.gReadings[row] = std::move(recording.readings);
     recordings.gNotes[row] = std::move(notes);
     recordings.forcedEdits[row].clear();
-    recordings.gZoomFlag = false;
+    recordings.written[row].clear();
     recordings.ginx = slot;
 }
 

@@ -16,7 +16,7 @@ enum class OpenOutcome { opened, modeMixing, notVoltage, notFound, cannotRead, b
 // The text of the message box; empty for opened.
 std::string_view openMessage(OpenOutcome outcome);
 
-// Reads a data file and its notes into the first free slot, makes it current and the whole file the range.
+// Reads a data file and its notes into the first free slot and makes it current.
 // `voltageOnly` refuses current recordings. Refused, nothing has changed. The recent list and the menus are
 // the caller's.
 OpenOutcome Fileopen(Recordings& recordings, const Files& files, const std::string& path,

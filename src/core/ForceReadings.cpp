@@ -17,36 +17,39 @@ constexpr std::string_view betweenText = "  - Must be between 0 and ";
 
 // What is beyond single precision becomes its largest number, which every limit refuses.
 float single(double value) {
-    constexpr double most = std::numeric_limits<float>::max();
-    return static_cast<float>(std::clamp(value, -most, most));
+    constexpr double maximum = std::numeric_limits<float>::max();
+    return static_cast<float>(std::clamp(value, -maximum, maximum));
 }
 
 } // namespace
 
-ForceResult forceReadings(Recordings& recordings, std::string_view text, ForceWhich which, float& lastValue) {
-    if (recordings.ginx < 0 || recordings.ginx >= Recordings::slotCount)
-        return {std::string(forceSlotError), 0};
-    const auto slot = static_cast<std::size_t>(recordings.ginx);
+Expected<int> forceReadings(Recordings& recordings, int slot, const Range& range, std::string_view text,
+                            ForceWhich which, float& lastValue) {
+    if (slot < 0 || slot >= Recordings::slotCount)
+        return refuse(std::string(forceSlotError));
+    const auto row = static_cast<std::size_t>(slot);
     const float value = single(Val(text));
     lastValue = value;
-    const float limit = recordings.gInfo[slot].low ? limitLow : limitHigh;
-    const int start = toInt16(recordings.gDatastart);
-    const int end = toInt16(recordings.gdataend);
+    const float limit = recordings.gInfo[row].low ? limitLow : limitHigh;
+    const int start = toInt16(range.first);
+    const int end = toInt16(range.last);
     const int first = which == ForceWhich::rightmost ? end : start;
     const int last = which == ForceWhich::leftmost ? start : end;
     if (!(value >= 0 && value <= limit))
-        return {std::string(outsideText) + std::string(betweenText) + plain(limit), 0};
+        return refuse(std::string(outsideText) + std::string(betweenText) + plain(limit));
 
-    auto& readings = recordings.gReadings[slot];
+    auto& readings = recordings.gReadings[row];
     const int from = std::max(first, 0);
     const int count = std::min(last, static_cast<int>(readings.size()) - 1) - from + 1;
     if (count <= 0)
-        return {};
+        return 0;
+    if (recordings.written[row].empty())
+        recordings.written[row] = readings;
     const auto begin = readings.begin() + from;
-    recordings.forcedEdits[slot].push_back({from, {begin, begin + count}});
+    recordings.forcedEdits[row].push_back({from, {begin, begin + count}});
     std::fill(begin, begin + count, toInt16(value * 10.0F));
-    recordings.gInfo[slot].forced = true;
-    return {{}, count};
+    recordings.gInfo[row].forced = true;
+    return count;
 }
 
 int undoForcing(Recordings& recordings, int slot) {
@@ -60,6 +63,25 @@ int undoForcing(Recordings& recordings, int slot) {
     edits.pop_back();
     recordings.gInfo[static_cast<std::size_t>(slot)].forced = !edits.empty();
     return count;
+}
+
+int unsavedReadings(const Recordings& recordings, int slot) {
+    const auto row = static_cast<std::size_t>(slot);
+    const auto& written = recordings.written.at(row);
+    const auto& readings = recordings.gReadings.at(row);
+    int others = 0;
+    for (std::size_t i = 0; i < written.size(); ++i)
+        others += written[i] != readings[i] ? 1 : 0;
+    return others;
+}
+
+void readingsSaved(Recordings& recordings, int slot, const Range& saved) {
+    const auto row = static_cast<std::size_t>(slot);
+    auto& written = recordings.written.at(row);
+    const auto& readings = recordings.gReadings.at(row);
+    const int end = std::min(saved.last + 1, static_cast<int>(written.size()));
+    for (int i = std::max(saved.first, 0); i < end; ++i)
+        written[static_cast<std::size_t>(i)] = readings[static_cast<std::size_t>(i)];
 }
 
 } // namespace tally

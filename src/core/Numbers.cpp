@@ -194,6 +194,19 @@ double Val(std::string_view text) {
     return parse(numberPart(text, used));
 }
 
+std::optional<double> plainNumber(std::string_view text) {
+    const std::string_view number = text.substr(text.starts_with('-') ? 1 : 0);
+    bool digit = false;
+    int points = 0;
+    for (const char c : number) {
+        digit = digit || (c >= '0' && c <= '9');
+        points += c == '.' ? 1 : 0;
+        if (c != '.' && (c < '0' || c > '9'))
+            return std::nullopt;
+    }
+    return digit && points <= 1 ? std::optional(Val(text)) : std::nullopt;
+}
+
 std::string plain(double value) {
     return value == 0 ? "0" : digitsOf(value);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,10 @@ double Int(double value);
 // The leading number of a text (blanks skipped, point as decimal sign, exponent allowed); 0 for none,
 // infinite for one that is too large.
 double Val(std::string_view text);
+
+// A text that is wholly a decimal number: digits with at most one point, a minus sign before them; nothing
+// for anything else, an exponent included.
+std::optional<double> plainNumber(std::string_view text);
 
 // A number as text, shortest form that reads back: "12", "12.5", "-.5" is written "-0.5".
 std::string plain(double value);

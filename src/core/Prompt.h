@@ -33,6 +33,7 @@ struct FileQuestion {
     std::string filter;
     std::string folder;
     std::string name = {};
+    std::string title = {}; // empty for that of the system
 };
 
 // The one way in which logic asks and tells. The window answers with boxes, the command line with options, a

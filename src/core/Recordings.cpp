@@ -39,7 +39,12 @@ void Recordings::closeAll() {
     gReadings = {};
     gNotes = {};
     forcedEdits = {};
+    written = {};
     ginx = noFile;
+}
+
+std::string fileNameOf(const std::string& path) {
+    return path.substr(path.find_last_of("/\\") + 1);
 }
 
 int intervalsOf(const FileFacts& info) {

@@ -32,17 +32,25 @@ struct FileFacts {
     const char* rangeWord() const { return low ? "LOW" : "HIGH"; }
 };
 
+// Readings of one file: the first and the last index, both inclusive; none when last < first.
+struct Range {
+    int first = 0;
+    int last = -1;
+    int entries() const { return last < first ? 0 : last - first + 1; }
+    bool operator==(const Range&) const = default;
+};
+
 // Readings that a forcing replaced: what stood at `first` and after it.
 struct ForcedEdit {
     int first = 0;
     std::vector<std::int16_t> before;
 };
 
-// The open recordings and the range that is shown: the one model, owned by main and passed by reference.
+// The open recordings: the one model, owned by main and passed by reference.
 struct Recordings {
     static constexpr int slotCount = 3;
     static constexpr int lastIndex = 42966; // highest index a reading can have
-    static constexpr int mostReadings = 42966;
+    static constexpr int maximumReadings = 42966;
     static constexpr int noFile = -1;
     static constexpr int cancelled = -2;
 
@@ -51,15 +59,12 @@ struct Recordings {
         gReadings;                                            // tenths, oldest first, exactly `count` of them
     std::array<std::array<std::string, 4>, slotCount> gNotes; // Location, Circuit, Name, Other (UTF-8)
     std::array<std::vector<ForcedEdit>, slotCount> forcedEdits; // newest last
-    std::string gText;                                          // text of a save, or the result of CalcDate
-    std::string gTable;                                         // text of the table shown last
-    std::string gFileName;                                      // path being opened or saved
+    // The readings as a file last held them, once some were forced; empty while nothing was.
+    std::array<std::vector<std::int16_t>, slotCount> written;
+    std::string gText;     // text of a save, or the result of CalcDate
+    std::string gFileName; // path being opened or saved
     int ginx = noFile;
     int gDateX = 0;
-    int gDatastart = 1;
-    int gdataend = 0;
-    bool gZoomFlag = false;
-    float powerFactor = 1.0F;
 
     bool isOpen(int slot) const { return !gInfo[static_cast<std::size_t>(slot)].path.empty(); }
     const FileFacts& info(int slot) const; // throws Subscript outside 0 to 3
@@ -67,13 +72,18 @@ struct Recordings {
     int freeSlot() const; // first free slot 0 to 2, or -1
     // Tenths; 0 at an index that the file has no reading for; throws Subscript outside 0 to 42966.
     std::int16_t reading(int slot, int index) const;
-    // Frees every slot; the range and the power factor stay.
+    // Every reading of a file; throws Subscript as `info` does.
+    Range all(int slot) const { return {0, info(slot).count - 1}; }
+    // Frees every slot.
     void closeAll();
 };
 
 // Intervals of a file: of a Min/Max/Avg recording the triples, counted from the newest reading; what is over
 // at the oldest end is an interval of its own.
 int intervalsOf(const FileFacts& info);
+
+// The name part of a path ("a/b.dat" gives "b.dat").
+std::string fileNameOf(const std::string& path);
 
 // The time of the interval that a reading belongs to; the index may lie outside the file.
 ReadingTime timeOf(const FileFacts& info, std::int64_t index);

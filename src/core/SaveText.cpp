@@ -18,24 +18,6 @@ constexpr std::string_view leadingBreaks = "\r\n\n\n";
 constexpr std::string_view formItem = "T: ";
 constexpr int valuesPerLine = 10;
 
-struct Range {
-    int first;
-    int last;
-};
-
-// Whole triples around the range, counted from the newest reading; at the oldest end what is over goes along.
-Range rangeToSave(const Recordings& recordings, const FileFacts& info) {
-    const int newest = info.count - 1;
-    Range range{recordings.gDatastart, std::min(recordings.gdataend, newest)};
-    if (range.first < 0 || range.first > range.last)
-        throw fault::subscript();
-    if (isMinMaxAvg(info.modeLetter)) {
-        range.last += (newest - range.last) % 3;
-        range.first = std::max(range.first - (3 - (newest - range.first + 1) % 3) % 3, 0);
-    }
-    return range;
-}
-
 // Tenths as "##0.0" (LOW) or "###0", right-aligned to its field.
 void appendValue(std::string& text, int tenths, bool low) {
     std::array<char, 8> field{};
@@ -63,10 +45,24 @@ void appendValue(std::string& text, int tenths, bool low) {
 
 } // namespace
 
-std::string buildDataText(const Recordings& recordings) {
-    const FileFacts& info = recordings.info(recordings.ginx);
-    const Range range = rangeToSave(recordings, info);
-    const auto& readings = recordings.gReadings.at(static_cast<std::size_t>(recordings.ginx));
+// Triples are counted from the newest reading; at the oldest end what is over goes along.
+Range rangeToSave(const Recordings& recordings, int slot, const Range& wanted) {
+    const FileFacts& info = recordings.info(slot);
+    const int newest = info.count - 1;
+    Range range{wanted.first, std::min(wanted.last, newest)};
+    if (range.first < 0 || range.first > range.last)
+        throw fault::subscript();
+    if (isMinMaxAvg(info.modeLetter)) {
+        range.last += (newest - range.last) % 3;
+        range.first = std::max(range.first - (3 - (newest - range.first + 1) % 3) % 3, 0);
+    }
+    return range;
+}
+
+std::string buildDataText(const Recordings& recordings, int slot, const Range& wanted) {
+    const FileFacts& info = recordings.info(slot);
+    const Range range = rangeToSave(recordings, slot, wanted);
+    const auto& readings = recordings.gReadings.at(static_cast<std::size_t>(slot));
 
     std::string header = info.header;
     putTime(header, column::time, timeOf(info, range.last));
@@ -88,9 +84,9 @@ std::string buildDataText(const Recordings& recordings) {
     return text;
 }
 
-void buildText(Recordings& recordings) {
-    recordings.gText = buildDataText(recordings);
-    recordings.gDateX = recordings.gdataend;
+void buildText(Recordings& recordings, int slot, const Range& wanted) {
+    recordings.gText = buildDataText(recordings, slot, wanted);
+    recordings.gDateX = wanted.last;
 }
 
 std::string quoted(std::string_view text) {

@@ -4,12 +4,11 @@
 #include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "view/FieldWriter.h"
-#include "view/PlotSeries.h"
+#include "view/Range.h"
 #include "view/RunningTime.h"
 
 #include <algorithm>
 #include <span>
-#include <utility>
 
 namespace tally {
 
@@ -31,7 +30,7 @@ char* writeField(char* to, const FieldWriter& field, std::int16_t tenths) {
 
 } // namespace
 
-std::string csvText(const Recordings& recordings, int slot, const ShownRange& range) {
+std::string csvText(const Recordings& recordings, int slot, const Range& range) {
     const FileFacts& info = recordings.info(slot);
     const FieldWriter field(info.low ? lowField : highField);
     const int minutesPerLine = modeRow(info.modeLetter).minutes * static_cast<int>(readingsPerLine);
@@ -54,32 +53,18 @@ std::string csvText(const Recordings& recordings, int slot, const ShownRange& ra
     return text;
 }
 
-ExportOutcome CsvData(const ExportDesk& desk) {
-    Recordings& recordings = desk.recordings;
-    const int slot = recordings.ginx;
-    if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot)) {
-        desk.prompt.tell(std::string(noFileToExport));
-        return ExportOutcome::noFile;
-    }
+Expected<Exported> CsvData(const Recordings& recordings, int slot, const Range& range,
+                           const ExportPlace& place) {
+    if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
+        return refuse(std::string(noFileToExport));
     const char letter = recordings.info(slot).modeLetter;
-    if (letter != 'a' && letter != 'd') {
-        recordings.gTable.clear();
-        desk.prompt.tell(std::string(csvWrongMode));
-        return ExportOutcome::wrongMode;
-    }
-    const std::string path = exportPath(desk, slot, std::string(csvName));
-    if (refuseOwnFile(desk, path))
-        return ExportOutcome::ownFile;
-    const ShownRange range =
-        desk.state.spanApplied ? shownRange(recordings, desk.state, slot) : wholeFile(recordings, slot);
-    std::string text = csvText(recordings, slot, range);
-    const std::size_t tableSize = text.size();
-    text += "\r\n";
-    desk.files.write(path, text);
-    text.resize(tableSize);
-    recordings.gTable = std::move(text);
-    desk.prompt.tell(path + " saved OK ");
-    return ExportOutcome::saved;
+    if (letter != 'a' && letter != 'd')
+        return refuse(std::string(csvWrongMode));
+    const std::string path = exportPath(recordings, slot, std::string(csvName), place);
+    if (const auto free = checkNotOpen(recordings, path, place.files); !free)
+        return tl::make_unexpected(free.error());
+    place.files.write(path, csvText(recordings, slot, range).append("\r\n"));
+    return Exported{path, path + " saved OK "};
 }
 
 } // namespace tally

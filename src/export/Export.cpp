@@ -2,7 +2,6 @@
 #include "export/Export.h"
 
 #include "core/ModeTable.h"
-#include "export/CsvData.h"
 #include "export/ScreenTime.h"
 #include "view/RunningTime.h"
 
@@ -47,7 +46,7 @@ std::string_view nextLine(std::string_view& table) {
 }
 
 // What an interval has at most besides its values: the time, its line end, a blank for each value.
-constexpr std::size_t mostBesideValues = timeChars + 2 + 3;
+constexpr std::size_t maximumBesideValues = timeChars + 2 + 3;
 
 // Writes the intervals of a table line, whose values begin at `values`, and gives the end.
 char* writeIntervals(char* to, std::string_view values, const ModeParameters& mode, RunningTime& time) {
@@ -95,7 +94,7 @@ PerLineText onePerLineText(std::string_view table, char modeLetter) {
         if (!line.starts_with(expected.text()))
             expected.set(parseScreenTime(line));
         time.set(expected.time());
-        const std::size_t most = mode.intervals() * mostBesideValues + line.size();
+        const std::size_t most = mode.intervals() * maximumBesideValues + line.size();
         if (text.size() - used < most)
             text.resize(text.size() + std::max(most, 2 * table.size()));
         char* const to = text.data() + used;
@@ -106,47 +105,26 @@ PerLineText onePerLineText(std::string_view table, char modeLetter) {
     return made;
 }
 
-ExportOutcome Export(const ExportDesk& desk, const std::string& title, bool onePerLine) {
-    const Recordings& recordings = desk.recordings;
-    const int slot = recordings.ginx;
-    if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot)) {
-        desk.prompt.tell(std::string(noFileToExport));
-        return ExportOutcome::noFile;
-    }
+Expected<Exported> Export(const Recordings& recordings, int slot, const Table& table, bool onePerLine,
+                          Files& files) {
+    if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
+        return refuse(std::string(noFileToExport));
     const FileFacts& info = recordings.info(slot);
     const std::string path =
         info.path.substr(0, info.path.size() - std::min<std::size_t>(3, info.path.size())) + "prn";
-    if (refuseOwnFile(desk, path))
-        return ExportOutcome::ownFile;
+    if (const auto free = checkNotOpen(recordings, path, files); !free)
+        return tl::make_unexpected(free.error());
     if (!onePerLine) {
-        desk.files.write(path, title + "\r\n" + recordings.gTable + "\r\n");
+        files.write(path, table.heading + "\r\n" + table.text + "\r\n");
     } else {
-        PerLineText made = onePerLineText(recordings.gTable, info.modeLetter);
+        PerLineText made = onePerLineText(table.text, info.modeLetter);
         if (!made.lineTooShort)
             made.text += "\r\n";
-        desk.files.write(path, made.text);
-        if (made.lineTooShort) {
-            desk.prompt.tell(std::string(shortLineError));
-            return ExportOutcome::tableError;
-        }
+        files.write(path, made.text);
+        if (made.lineTooShort)
+            return refuse(std::string(shortLineError));
     }
-    desk.state.viewKind = ViewKind::none;
-    desk.prompt.tell(path + " saved OK");
-    return ExportOutcome::saved;
-}
-
-ExportOutcome MnuItemexpdatacsv_Click(const ExportDesk& desk, const std::string& title) {
-    if (desk.state.viewKind == ViewKind::dataPlot)
-        return CsvData(desk);
-    if (desk.state.viewKind == ViewKind::table)
-        return Export(desk, title, false);
-    return ExportOutcome::noView;
-}
-
-ExportOutcome mnuItemexpdata1perLine_Click(const ExportDesk& desk, const std::string& title) {
-    if (desk.state.viewKind != ViewKind::table)
-        return ExportOutcome::noView;
-    return Export(desk, title, true);
+    return Exported{path, path + " saved OK"};
 }
 
 } // namespace tally

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "export/ExportDesk.h"
+#include "export/ExportPlace.h"
+#include "view/Display.h"
 
 #include <string>
 #include <string_view>
@@ -11,16 +12,12 @@ namespace tally {
 inline constexpr std::string_view shortLineError =
     "Software Error #2 in Export.bas. Line in gTable$ too short.";
 
-// Writes gTable beside the data file of the current slot (ginx), with the extension "prn": the title line and
-// the table as they stand or, with `onePerLine`, one interval a line. Resets the view kind. Throws file
-// faults and, for a line that begins with no time, Type mismatch; then nothing has changed.
-ExportOutcome Export(const ExportDesk& desk, const std::string& title, bool onePerLine);
-
-// The export commands of the menu. `title` is the heading of the table that is shown (bytes).
-// With the data plot shown the CSV export, with a table shown the table as text.
-ExportOutcome MnuItemexpdatacsv_Click(const ExportDesk& desk, const std::string& title);
-// With a table shown one interval a line.
-ExportOutcome mnuItemexpdata1perLine_Click(const ExportDesk& desk, const std::string& title);
+// Writes the table of a file beside it, with the extension "prn": heading and table as they stand or, with
+// `onePerLine`, one interval a line. A line that is too short refuses it; what was converted before stands in
+// the file then. Throws file faults and, for a line that begins with no time, Type mismatch; then nothing has
+// changed.
+Expected<Exported> Export(const Recordings& recordings, int slot, const Table& table, bool onePerLine,
+                          Files& files);
 
 // A table with one interval a line.
 struct PerLineText {

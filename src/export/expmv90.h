@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "export/ExportDesk.h"
+#include "core/Prompt.h"
+#include "export/ExportPlace.h"
+#include "export/MeteringText.h"
+#include "view/Power.h"
 
-#include <functional>
 #include <string>
 
 namespace tally {
@@ -18,12 +20,24 @@ inline constexpr std::string_view meteringBadFactor =
 inline constexpr std::string_view meteringBadId =
     "A Recorder ID can hold no double quotes and no control characters. No report was written.";
 
-// Makes the kilowatts of the last power plot cover the report's range (powerForReport), with whatever has to
-// be asked; false when it was cancelled or refused, which it has told.
-using MakePower = std::function<bool()>;
+// A report that can be written: what is refused is refused before anything is asked or worked out.
+struct MeteringPlan {
+    Range range; // of the first file
+    WholeHours hours;
+    std::string path;
+};
+Expected<MeteringPlan> planMetering(const Recordings& recordings, const Range& range, float powerFactor,
+                                    const ExportPlace& place);
 
-// Writes the hourly metering report of the open files. `recorderId` (UTF-8) is offered as the identifier and
-// keeps the answer for the next time. Resets the view kind. Throws file faults; then nothing was written.
-ExportOutcome expmv90(const ExportDesk& desk, std::string& recorderId, const MakePower& makePower);
+// The question for the recorder's identifier (UTF-8); `preset` is the one of the last report.
+InputQuestion recorderQuestion(float powerFactor, const std::string& preset);
+
+// Writes the hourly metering report from the power of the plan's range. Throws file faults and Overflow; then
+// nothing was written.
+Expected<Exported> expmv90(const MeteringPlan& plan, const Power& power, const std::string& identifier,
+                           Files& files);
+
+// An identifier as a report keeps it: what its field holds of it.
+std::string keptIdentifier(const std::string& identifier);
 
 } // namespace tally

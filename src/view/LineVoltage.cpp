@@ -4,6 +4,7 @@
 #include "core/Fault.h"
 #include "core/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -14,7 +15,7 @@ namespace {
 constexpr const char* section = "Settings";
 constexpr const char* key = "Vline";
 // No feeder is metered at less than a low-voltage circuit has.
-constexpr double leastVolts = 100;
+constexpr double lowestVolts = 100;
 
 double singleRange(double value) {
     if (std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max()))
@@ -22,18 +23,52 @@ double singleRange(double value) {
     return value;
 }
 
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+// Whether the comma at a place stands between a digit and exactly three digits.
+bool groupsThousands(std::string_view text, std::size_t comma) {
+    if (comma == 0 || !isDigit(text[comma - 1]) || text.size() < comma + 4)
+        return false;
+    for (std::size_t i = comma + 1; i < comma + 4; ++i)
+        if (!isDigit(text[i]))
+            return false;
+    return text.size() == comma + 4 || !isDigit(text[comma + 4]);
+}
+
+std::string ungrouped(std::string_view text) {
+    std::string number;
+    // Behind the decimal point a comma groups nothing.
+    const auto point = std::min(text.find('.'), text.size());
+    for (std::size_t i = 0; i < text.size(); ++i)
+        if (text[i] != ',' || i > point || !groupsThousands(text, i))
+            number += text[i];
+    return number;
+}
+
 } // namespace
 
+double PowerBasis::volts() const {
+    return voltsOf(vline);
+}
+
+PowerScale PowerBasis::scale() const {
+    return {static_cast<float>(volts() / 1000), factor};
+}
+
+bool hasVline(const Settings& settings) {
+    return Val(settings.get(section, key)) != 0;
+}
+
 std::string vlineOf(const Settings& settings) {
-    const std::string stored = settings.get(section, key);
-    return stored.empty() ? std::string(defaultVline) : stored;
+    return hasVline(settings) ? settings.get(section, key) : std::string(defaultVline);
 }
 
 std::string storeVline(Settings& settings) {
-    const std::string stored = settings.get(section, key);
-    if (stored.empty())
+    if (!hasVline(settings))
         settings.set(section, key, std::string(defaultVline));
-    return stored.empty() ? std::string(defaultVline) : stored;
+    return settings.get(section, key);
 }
 
 void keepVline(Settings& settings, const std::string& answer) {
@@ -42,31 +77,36 @@ void keepVline(Settings& settings, const std::string& answer) {
 }
 
 double voltsOf(std::string_view vline) {
-    return singleRange(Val(vline));
+    return singleRange(Val(ungrouped(vline)));
 }
 
-std::string voltageHint(std::string_view vline) {
-    const double volts = Val(vline);
-    if (volts >= leastVolts)
+std::optional<double> plainVolts(std::string_view entry) {
+    return plainNumber(ungrouped(entry));
+}
+
+std::string voltageHint(std::string_view entry) {
+    const double volts = voltsOf(entry);
+    if (volts == 0)
+        return "Line voltage taken as " + std::string(defaultVline) + " volts; 0 counts as none.";
+    const std::string taken = "Line voltage taken as " + plain(volts) + " volts";
+    if (volts < lowestVolts) {
+        std::string hint = taken + "; the entry must be volts, not KV";
+        if (volts > 0)
+            hint += " (" + plain(volts * 1000) + " for " + plain(volts) + " KV)";
+        return hint + ".";
+    }
+    return plainVolts(entry) ? std::string() : taken + "; the entry is not wholly a number.";
+}
+
+float powerFactorOf(std::string_view answer) {
+    const auto factor = static_cast<float>(singleRange(Val(answer)));
+    return factor == 0.0F ? 1.0F : factor;
+}
+
+std::string powerFactorHint(std::string_view answer) {
+    if (const auto number = plainNumber(answer); number && *number != 0)
         return {};
-    std::string hint = "Line voltage taken as " + plain(volts) + " volts; the entry must be volts, not KV";
-    if (volts > 0)
-        hint += " (" + plain(volts * 1000) + " for " + plain(volts) + " KV)";
-    return hint + ".";
-}
-
-std::string powerFactorPreset(Recordings& recordings) {
-    recordings.powerFactor = powerFactorOf(recordings);
-    return plain(recordings.powerFactor);
-}
-
-void setPowerFactor(Recordings& recordings, std::string_view answer) {
-    if (!answer.empty())
-        recordings.powerFactor = static_cast<float>(singleRange(Val(answer)));
-}
-
-float powerFactorOf(const Recordings& recordings) {
-    return recordings.powerFactor == 0.0F ? 1.0F : recordings.powerFactor;
+    return "Power factor taken as " + plain(powerFactorOf(answer)) + ".";
 }
 
 } // namespace tally

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Recordings.h"
 #include "core/Settings.h"
+#include "view/PowerValues.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,21 +15,37 @@ inline constexpr std::string_view voltagePrompt =
 inline constexpr std::string_view powerFactorPrompt = "Enter Power Factor to be used \rmust be 1 or less";
 inline constexpr std::string_view defaultVline = "13800";
 
-// The stored line voltage as text, or the default; `storeVline` writes the default where nothing is stored.
+// What power is worked out with.
+struct PowerBasis {
+    std::string vline = std::string(defaultVline); // line voltage in volts, as it was entered
+    float factor = 1.0F;                           // power factor, not 0
+
+    // Both throw Overflow beyond single precision.
+    double volts() const;
+    PowerScale scale() const;
+};
+
+// Whether a line voltage is stored; 0 counts as none, and so does what is no number.
+bool hasVline(const Settings& settings);
+// The stored line voltage as text, or the default; `storeVline` writes the default where none is stored.
 std::string vlineOf(const Settings& settings);
 std::string storeVline(Settings& settings);
 // An answer other than the stored voltage is kept.
 void keepVline(Settings& settings, const std::string& answer);
-// Volts of an entry: its leading number, 0 for none. Throws Overflow beyond single precision.
-double voltsOf(std::string_view vline);
-// A quiet hint for an entry that is hardly meant as volts ("13.8", "abc", "-5"); empty otherwise.
-std::string voltageHint(std::string_view vline);
 
-// The power factor in use as the box offers it; 0 becomes 1.0 first.
-std::string powerFactorPreset(Recordings& recordings);
-// The answer of the box: empty keeps the old one. No range is checked. Throws Overflow.
-void setPowerFactor(Recordings& recordings, std::string_view answer);
-// The power factor in use: 1.0 in place of 0.
-float powerFactorOf(const Recordings& recordings);
+// Volts of an entry: its leading number, 0 for none; a comma before three digits groups thousands. Throws
+// Overflow beyond single precision.
+double voltsOf(std::string_view vline);
+// The same for an entry that is wholly a number; nothing otherwise.
+std::optional<double> plainVolts(std::string_view entry);
+// What the status line says of an entry that is hardly meant as volts ("13.8"), not wholly a number or counts
+// as none: with the value that is used. Empty otherwise.
+std::string voltageHint(std::string_view entry);
+
+// The power factor of an answer: its leading number in single precision; 0 counts as 1. Not checked
+// against 1. Throws Overflow.
+float powerFactorOf(std::string_view answer);
+// What the status line says of an answer that is not wholly a number, or 0; empty otherwise.
+std::string powerFactorHint(std::string_view answer);
 
 } // namespace tally

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -13,6 +14,7 @@ struct PlotSeries {
     std::string legend; // UTF-8
     std::vector<float> values;
     std::vector<std::pair<int, int>> forced; // runs of points that were forced, first and last
+    std::string unit;                        // "A", "V", "KW"; empty in a plot from a chart file
 };
 
 // Everything a plot shows, worked out; a form only paints it.
@@ -28,7 +30,9 @@ struct Plot {
     int firstEntry = 0;      // reading index of point 0 ...
     int entriesPerPoint = 1; // ... and readings per point (3 in a Min/Max/Avg recording)
     std::string displaying;  // what "Displaying " is followed by
-    std::string remark;      // status line, e.g. which file is shorter; may be empty
+    std::string remark; // what is to be known about the files together, e.g. which is shorter; may be empty
+    std::int16_t extremeMin = 0; // smallest and largest reading of the range, tenths; of a power plot of the
+    std::int16_t extremeMax = 0; // combined currents, as PowerValues has them
 };
 
 } // namespace tally

@@ -3,7 +3,7 @@
 
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
-#include "view/ShownRange.h"
+#include "view/Range.h"
 
 #include <algorithm>
 

@@ -4,12 +4,12 @@
 #include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
+#include "view/FilesTogether.h"
 #include "view/PlotAxis.h"
 #include "view/PlotSeries.h"
 #include "view/PlotTitle.h"
-#include "view/ShownRange.h"
+#include "view/Range.h"
 
-#include <algorithm>
 #include <array>
 
 namespace tally {
@@ -21,72 +21,54 @@ constexpr std::array<const char*, 3> statisticLegends = {"Average", "Max", "Min"
 constexpr std::array<const char*, 3> statisticTitles = {"Data Displayed: AVERAGE", "Data Displayed: MAXIMUM",
                                                         "Data Displayed: MINIMUM"};
 
-struct Extremes {
-    std::int16_t smallest = 0;
-    std::int16_t largest = 0;
-};
-
-// Over all readings of the range in every file; a reading that a file does not have counts as 0.
-Extremes extremesOf(const Recordings& recordings, const ShownRange& shown) {
-    Extremes extremes;
-    bool first = true;
-    for (int slot = 0; slot < recordings.openCount(); ++slot) {
-        const ShownRange range = sameIntervals(recordings, shown, slot);
-        const auto readings = present(recordings, slot, range);
-        std::int16_t smallest = readings.empty() ? std::int16_t{0} : readings.front();
-        std::int16_t largest = smallest;
-        for (const std::int16_t reading : readings) {
-            smallest = std::min(smallest, reading);
-            largest = std::max(largest, reading);
-        }
-        if (static_cast<int>(readings.size()) < range.entries()) {
-            smallest = std::min(smallest, std::int16_t{0});
-            largest = std::max(largest, std::int16_t{0});
-        }
-        extremes.smallest = first ? smallest : std::min(extremes.smallest, smallest);
-        extremes.largest = first ? largest : std::max(extremes.largest, largest);
-        first = false;
-    }
-    return extremes;
-}
-
-PlotSeries seriesOf(const Recordings& recordings, int slot, const ShownRange& shown, int offset,
+PlotSeries seriesOf(const Recordings& recordings, int slot, const Range& shown, int offset,
                     const std::string& legend) {
-    const ShownRange range = sameIntervals(recordings, shown, slot);
+    const Range range = sameIntervals(recordings, shown, slot);
     const int stride = valuesPerInterval(recordings.info(0).modeLetter);
     return {legend, seriesValues(recordings, slot, range, stride, offset),
-            forcedRuns(recordings, slot, range, stride, offset)};
+            forcedRuns(recordings, slot, range, stride, offset),
+            std::string(1, recordings.info(slot).unit())};
 }
 
-std::vector<PlotSeries> allSeries(const Recordings& recordings, const DisplayState& state,
-                                  const ShownRange& shown) {
+std::vector<PlotSeries> allSeries(const Recordings& recordings, const PlotRequest& request) {
     std::vector<PlotSeries> all;
     const bool triples = isMinMaxAvg(recordings.info(0).modeLetter);
     if (triples && recordings.openCount() == 1) {
         for (std::size_t i = 0; i < statisticLegends.size(); ++i)
-            all.push_back(seriesOf(recordings, 0, shown, static_cast<int>(i), statisticLegends[i]));
+            all.push_back(seriesOf(recordings, 0, request.range, static_cast<int>(i), statisticLegends[i]));
         return all;
     }
-    const int offset = triples ? static_cast<int>(state.dataDisplayed) - 1 : 0;
+    const int offset = triples ? static_cast<int>(request.statistic) - 1 : 0;
     for (int slot = 0; slot < recordings.openCount(); ++slot)
-        all.push_back(seriesOf(recordings, slot, shown, offset, fileNameOf(recordings.info(slot).path)));
+        all.push_back(
+            seriesOf(recordings, slot, request.range, offset, fileNameOf(recordings.info(slot).path)));
     return all;
 }
 
 // The line above the title block: the file, or which statistic is shown of several.
-std::string firstLine(const Recordings& recordings, const DisplayState& state) {
+std::string firstLine(const Recordings& recordings, const PlotRequest& request) {
     const FileFacts& info = recordings.info(0);
     if (!isMinMaxAvg(info.modeLetter))
         return {};
     if (recordings.openCount() > 1)
-        return std::string(statisticTitles.at(static_cast<std::size_t>(state.dataDisplayed) - 1)) + "\r\n";
-    return state.spanSelected ? std::string() : "File: " + info.path + "\r\n";
+        return std::string(statisticTitles.at(static_cast<std::size_t>(request.statistic) - 1)) + "\r\n";
+    return request.selected ? std::string() : "File: " + info.path + "\r\n";
 }
 
-void applyUserScale(Plot& plot, const DisplayState& state) {
-    if (!state.userScale)
+// Files of both units are drawn on one axis.
+std::string axisTitle(const Recordings& recordings) {
+    const auto title = [&](int slot) { return recordings.info(slot).unit() == 'V' ? "VOLTS" : "AMPS"; };
+    const std::string first = title(0);
+    for (int slot = 1; slot < recordings.openCount(); ++slot)
+        if (title(slot) != first)
+            return first + ", " + title(slot);
+    return first;
+}
+
+void applyUserScale(Plot& plot, const PlotRequest& request) {
+    if (!request.yMinimum)
         return;
-    plot.yMin = state.yMinimum;
+    plot.yMin = *request.yMinimum;
     // An axis needs some height to be drawn.
     if (plot.yMax <= plot.yMin)
         plot.yMax = plot.yMin + 10;
@@ -94,32 +76,26 @@ void applyUserScale(Plot& plot, const DisplayState& state) {
 
 } // namespace
 
-Plot DisplPlot(Recordings& recordings, DisplayState& state, const Clock& clock) {
+Plot DisplPlot(const Recordings& recordings, const PlotRequest& request, const Clock& clock) {
     if (recordings.openCount() == 0)
         throw fault::subscript();
     const FileFacts& info = recordings.info(0);
-    const ShownRange shown = rangeToDraw(recordings, state);
-    settleRange(recordings, state, shown);
-
     Plot plot;
-    plot.yTitle = info.unit() == 'V' ? "VOLTS" : "AMPS";
-    plot.firstEntry = shown.first;
+    plot.yTitle = axisTitle(recordings);
+    plot.firstEntry = request.range.first;
     plot.entriesPerPoint = valuesPerInterval(info.modeLetter);
-    plot.points = shown.entries() / plot.entriesPerPoint;
-    plot.series = allSeries(recordings, state, shown);
-    plot.title = firstLine(recordings, state) + titleBlock(recordings, state, clock);
+    plot.points = request.range.entries() / plot.entriesPerPoint;
+    plot.series = allSeries(recordings, request);
+    plot.title = firstLine(recordings, request) + titleBlock(recordings, request.selected, clock);
     plot.displaying = openNames(recordings);
-    plot.remark = shorterFiles(recordings);
+    plot.remark = togetherRemark(recordings);
     labelAxis(plot, info);
 
-    const Extremes extremes = extremesOf(recordings, shown);
+    const Extremes extremes = extremesOf(recordings, request.range);
     scaleAxis(plot, extremes.smallest, extremes.largest);
-    applyUserScale(plot, state);
-    state.extremeMin = extremes.smallest;
-    state.extremeMax = extremes.largest;
-    state.viewKind = ViewKind::dataPlot;
-    state.powerView = false;
-    clearOneShots(state);
+    applyUserScale(plot, request);
+    plot.extremeMin = extremes.smallest;
+    plot.extremeMax = extremes.largest;
     return plot;
 }
 
@@ -132,9 +108,9 @@ ReadOut readOut(const Recordings& recordings, const Plot& plot, int point, int s
         series >= static_cast<int>(plot.series.size()))
         return {};
     const int entry = plot.firstEntry + plot.entriesPerPoint * point;
-    const float value = plot.series[static_cast<std::size_t>(series)].values[static_cast<std::size_t>(point)];
-    const std::string unit = plot.yTitle == "KW" ? " KW" : plot.yTitle == "VOLTS" ? " V" : " A";
-    return {screenTime(timeOf(recordings.info(0), entry)), Format(value, "##0.0") + unit};
+    const PlotSeries& line = plot.series[static_cast<std::size_t>(series)];
+    return {screenTime(timeOf(recordings.info(0), entry)),
+            Format(line.values[static_cast<std::size_t>(point)], "##0.0") + " " + line.unit};
 }
 
 } // namespace tally

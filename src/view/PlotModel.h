@@ -3,18 +3,15 @@
 
 #include "core/Clock.h"
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
+#include "view/Display.h"
 #include "view/Plot.h"
-#include "view/Span.h"
 
 #include <string>
 
 namespace tally {
 
-// Works out the data plot of the open files over the displayed range, narrowed to the marked span when a zoom
-// was requested. Leaves the extremes of the range in the state, makes the data plot the view and clears the
-// one-shot flags. Throws Subscript out of range when no file is open.
-Plot DisplPlot(Recordings& recordings, DisplayState& state, const Clock& clock);
+// Works out the data plot of the open files. Throws Subscript out of range when no file is open.
+Plot DisplPlot(const Recordings& recordings, const PlotRequest& request, const Clock& clock);
 
 // Whether `displaysel` is to be asked before a plot: several Min/Max/Avg files are open.
 bool needsStatistic(const Recordings& recordings);

@@ -14,13 +14,7 @@ int floorDiv(int value, int by) {
 
 } // namespace
 
-std::span<const std::int16_t> present(const Recordings& recordings, int slot, const ShownRange& range) {
-    const std::span<const std::int16_t> all = recordings.gReadings.at(static_cast<std::size_t>(slot));
-    const auto from = std::min(static_cast<std::size_t>(std::max(range.first, 0)), all.size());
-    return all.subspan(from, std::min(static_cast<std::size_t>(range.entries()), all.size() - from));
-}
-
-std::vector<float> seriesValues(const Recordings& recordings, int slot, const ShownRange& range, int stride,
+std::vector<float> seriesValues(const Recordings& recordings, int slot, const Range& range, int stride,
                                 int offset) {
     const auto readings = present(recordings, slot, range);
     std::vector<float> values(static_cast<std::size_t>(range.entries() / stride));
@@ -34,7 +28,7 @@ std::vector<float> seriesValues(const Recordings& recordings, int slot, const Sh
     return values;
 }
 
-std::vector<std::pair<int, int>> forcedRuns(const Recordings& recordings, int slot, const ShownRange& range,
+std::vector<std::pair<int, int>> forcedRuns(const Recordings& recordings, int slot, const Range& range,
                                             int stride, int offset) {
     std::vector<std::pair<int, int>> runs;
     const int lastPoint = range.entries() / stride - 1;

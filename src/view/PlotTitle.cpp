@@ -3,9 +3,7 @@
 
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
-#include "view/ShownRange.h"
 
-#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -34,7 +32,8 @@ std::string modeLine(char letter) {
 
 } // namespace
 
-std::string titleBlock(const Recordings& recordings, const DisplayState& state, const Clock& clock) {
+std::string titleBlock(const Recordings& recordings, const std::optional<Range>& selected,
+                       const Clock& clock) {
     std::string block = fileData(recordings);
     block.append(newLine).append(modeLine(recordings.info(0).modeLetter));
     block.append(newLine).append("Date printed   ").append(formatTime(clock.localTime(), "%b-%d-%y"));
@@ -44,33 +43,12 @@ std::string titleBlock(const Recordings& recordings, const DisplayState& state, 
         for (std::size_t i = 0; i < noteLabels.size(); ++i)
             block.append(newLine).append(noteLabels[i]).append(recordings.gNotes[slot][i]);
     }
-    if (state.spanSelected) {
-        block.append(newLine).append("Selected:   ").append(screenTime(state.spanStartTime));
-        block.append("   to   ").append(screenTime(state.spanEndTime));
+    if (selected) {
+        const FileFacts& info = recordings.info(0);
+        block.append(newLine).append("Selected:   ").append(screenTime(timeOf(info, selected->first)));
+        block.append("   to   ").append(screenTime(timeOf(info, selected->last)));
     }
     return block;
-}
-
-std::string openNames(const Recordings& recordings) {
-    std::string names;
-    for (int slot = 0; slot < Recordings::slotCount; ++slot)
-        if (recordings.isOpen(slot))
-            names += (names.empty() ? "" : ", ") + fileNameOf(recordings.info(slot).path);
-    return names;
-}
-
-std::string shorterFiles(const Recordings& recordings) {
-    int longest = 0;
-    for (int slot = 0; slot < Recordings::slotCount; ++slot)
-        longest = std::max(longest, recordings.info(slot).count);
-    std::string text;
-    for (int slot = 0; slot < Recordings::slotCount; ++slot) {
-        const FileFacts& info = recordings.info(slot);
-        if (recordings.isOpen(slot) && info.count < longest)
-            text += (text.empty() ? "Shorter: " : ", ") + fileNameOf(info.path) + " (" +
-                    std::to_string(info.count) + " of " + std::to_string(longest) + " readings)";
-    }
-    return text;
 }
 
 } // namespace tally

@@ -4,34 +4,39 @@
 #include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
+#include "view/FilesTogether.h"
 #include "view/PlotAxis.h"
 #include "view/PlotSeries.h"
 #include "view/PlotTitle.h"
 #include "view/PowerValues.h"
-#include "view/ShownRange.h"
-#include "view/Span.h"
-#include "view/ViewRollback.h"
 
+#include <cmath>
 #include <utility>
 
 namespace tally {
 
 namespace {
 
-constexpr double mostKilowattHours = 1000000;
+constexpr double maximumKilowattHours = 1000000;
 constexpr std::string_view energyPattern = "###,###,##0";
 
 std::string energyText(double kilowattHours) {
-    if (kilowattHours > mostKilowattHours)
+    if (kilowattHours > maximumKilowattHours)
         return Format(kilowattHours / 1000, energyPattern) + " MWHR";
     return Format(kilowattHours, energyPattern) + " KWHR";
 }
 
-PowerScale scaleOf(const Recordings& recordings, double volts) {
-    return {static_cast<float>(volts / 1000), powerFactorOf(recordings)};
+// Kilowatts of a current, in double precision and with the factors as they were entered: a whole number stays
+// one. `percent` is the room above or below.
+double axisEnd(double tenths, int percent, const PowerBasis& basis) {
+    const double factor = Val(plain(basis.factor)); // 0.9, not the 0.89999998 that is nearest to it
+    const double value = tenths * percent * basis.volts() * factor / 1e6;
+    // What the last binary places take from a whole number.
+    const double whole = std::round(value);
+    return std::fabs(value - whole) <= std::fabs(whole) * 1e-12 ? whole : value;
 }
 
-std::vector<std::pair<int, int>> forcedPoints(const Recordings& recordings, const ShownRange& range) {
+std::vector<std::pair<int, int>> forcedPoints(const Recordings& recordings, const Range& range) {
     std::vector<std::pair<int, int>> runs;
     for (int slot = 0; slot < recordings.openCount(); ++slot) {
         const auto more = forcedRuns(recordings, slot, range, 1, 0);
@@ -40,61 +45,57 @@ std::vector<std::pair<int, int>> forcedPoints(const Recordings& recordings, cons
     return mergedRuns(std::move(runs));
 }
 
-std::string sourceText(const Recordings& recordings, const ShownRange& range, double volts) {
-    const FileFacts& info = recordings.info(0);
-    const PowerScale scale = scaleOf(recordings, volts);
-    return "Power of " + openNames(recordings) + " at " + plain(scale.kilovolts) + " KV, power factor " +
-           plain(scale.factor) + ", " + screenTime(timeOf(info, range.first)) + " to " +
-           screenTime(timeOf(info, range.last));
-}
-
-Plot powerPlot(const Recordings& recordings, const DisplayState& state, const ShownRange& range, double volts,
-               const PowerValues& values, const Clock& clock) {
-    const FileFacts& info = recordings.info(0);
-    const PowerScale scale = scaleOf(recordings, volts);
-    Plot plot;
-    plot.yTitle = "KW";
-    plot.firstEntry = range.first;
-    plot.points = range.entries();
-    plot.series.push_back({"KW", values.kilowatts, forcedPoints(recordings, range)});
-    plot.title = powerTitle(recordings, volts) + "\r\n" + titleBlock(recordings, state, clock);
-    plot.displaying = openNames(recordings);
-    plot.remark = shorterFiles(recordings);
-    labelAxis(plot, info);
-    // With three files the top is the plain sum, not the mean times 1.732: the axis reaches above the plot.
-    plot.yMin = Int(static_cast<double>(values.smallest / 10.0F * 0.9F * scale.kilovolts * scale.factor));
-    plot.yMax = static_cast<double>(values.largest / 10.0F * 1.1F * scale.kilovolts * scale.factor);
-    return plot;
+// With three files the top is the plain sum, not the mean times 1.732: the axis reaches above the plot.
+void scalePowerAxis(Plot& plot, const Recordings& recordings, const Power& power) {
+    const bool three = recordings.openCount() == Recordings::slotCount;
+    const double smallest = three ? power.smallestSum * 1.732 / 3 : power.smallestSum;
+    plot.yMin = Int(axisEnd(smallest, 90, power.basis));
+    plot.yMax = axisEnd(power.extremeMax, 110, power.basis);
 }
 
 } // namespace
 
-PowerRefusal checkPower(const Recordings& recordings) {
-    PowerRefusal refusal = PowerRefusal::none;
+Expected<void> checkPower(const Recordings& recordings) {
+    Expected<void> result;
     for (int slot = 0; slot < recordings.openCount(); ++slot) {
         const FileFacts& info = recordings.info(slot);
         if (info.unit() != 'A')
-            refusal = PowerRefusal::notAmps;
+            result = refuse(std::string(powerNotAmps));
         if (isMinMaxAvg(info.modeLetter))
-            refusal = PowerRefusal::notAverage;
+            result = refuse(std::string(powerNotAverage));
     }
-    return refusal;
+    return result;
 }
 
-std::string_view refusalText(PowerRefusal refusal) {
-    switch (refusal) {
-    case PowerRefusal::notAmps:
-        return "Files must all be amps for power to plot";
-    case PowerRefusal::notAverage:
-        return "Files must be average mode for power to plot";
-    case PowerRefusal::none:
-        break;
-    }
-    return {};
+Expected<Power> powerOf(const Recordings& recordings, const Range& range, const PowerBasis& basis) {
+    if (recordings.openCount() == 0)
+        throw fault::subscript();
+    if (const auto fit = checkPower(recordings); !fit)
+        return tl::make_unexpected(fit.error());
+    PowerValues values = powerValues(recordings, range, basis.scale());
+    Power power;
+    power.range = range;
+    power.basis = basis;
+    power.extremeMin = toInt16(static_cast<double>(values.smallest));
+    power.extremeMax = toInt16(static_cast<double>(values.largest));
+    power.smallestSum = values.smallestSum;
+    power.kilowatts = std::move(values.kilowatts);
+    power.energyText = energyText(values.sumAfterFirst * modeRow(recordings.info(0).modeLetter).minutes / 60);
+    return power;
 }
 
-std::string powerTitle(const Recordings& recordings, double volts) {
-    const PowerScale scale = scaleOf(recordings, volts);
+std::string energyOf(const Recordings& recordings, const Range& range, const PowerBasis& basis) {
+    try {
+        const auto power = powerOf(recordings, range, basis);
+        return power ? power->energyText : std::string();
+    } catch (const Fault&) {
+        // A summary says what it can; the power views say what overflows.
+        return {};
+    }
+}
+
+std::string powerTitle(const Recordings& recordings, const PowerBasis& basis) {
+    const PowerScale scale = basis.scale();
     std::string title;
     for (int slot = 0; slot < recordings.openCount(); ++slot)
         title += recordings.info(slot).path + "   ";
@@ -104,51 +105,30 @@ std::string powerTitle(const Recordings& recordings, double volts) {
            "Power Factor: " + plain(scale.factor);
 }
 
-void startPower(Recordings& recordings, DisplayState& state) {
-    startPlot(recordings, state);
-    state.userScale = false;
-    state.yMinimum = 0;
-    state.powerView = true;
+std::string powerSource(const Recordings& recordings, const Power& power) {
+    const FileFacts& info = recordings.info(0);
+    const PowerScale scale = power.basis.scale();
+    return "Power of " + openNames(recordings) + " at " + plain(scale.kilovolts) + " KV, power factor " +
+           plain(scale.factor) + ", " + screenTime(timeOf(info, power.range.first)) + " to " +
+           screenTime(timeOf(info, power.range.last));
 }
 
-PowerRefusal DisplPlotPwr(Recordings& recordings, DisplayState& state, double volts, const Clock& clock,
-                          Plot& out) {
-    if (recordings.openCount() == 0)
-        throw fault::subscript();
-    const PowerRefusal refusal = checkPower(recordings);
-    if (refusal != PowerRefusal::none)
-        return refusal;
-    // Everything that can fail comes first.
-    const ShownRange range = rangeToDraw(recordings, state);
-    PowerValues values = powerValues(recordings, range, scaleOf(recordings, volts));
-    const std::int16_t smallest = toInt16(static_cast<double>(values.smallest));
-    const std::int16_t largest = toInt16(static_cast<double>(values.largest));
-    Plot plot = powerPlot(recordings, state, range, volts, values, clock);
-
-    settleRange(recordings, state, range);
-    state.power = std::move(values.kilowatts);
-    state.powerFirst = range.first;
-    state.powerExtremeMin = state.extremeMin = smallest;
-    state.powerExtremeMax = state.extremeMax = largest;
-    state.energyText = energyText(values.sumAfterFirst * modeRow(recordings.info(0).modeLetter).minutes / 60);
-    state.powerSource = sourceText(recordings, range, volts);
-    state.powerDrawn = true;
-    state.powerView = true;
-    state.viewKind = ViewKind::powerPlot;
-    clearOneShots(state);
-    recordings.powerFactor = powerFactorOf(recordings);
-    out = std::move(plot);
-    return refusal;
-}
-
-PowerRefusal viewPower(Recordings& recordings, DisplayState& state, double volts, const Clock& clock,
-                       Plot& out) {
-    ViewRollback rollback(recordings, state);
-    startPower(recordings, state);
-    const PowerRefusal refusal = DisplPlotPwr(recordings, state, volts, clock, out);
-    if (refusal == PowerRefusal::none)
-        rollback.keep();
-    return refusal;
+Plot DisplPlotPwr(const Recordings& recordings, const PlotRequest& request, const Power& power,
+                  const Clock& clock) {
+    Plot plot;
+    plot.yTitle = "KW";
+    plot.firstEntry = power.range.first;
+    plot.points = power.range.entries();
+    plot.series.push_back({"KW", power.kilowatts, forcedPoints(recordings, power.range), "KW"});
+    plot.title =
+        powerTitle(recordings, power.basis) + "\r\n" + titleBlock(recordings, request.selected, clock);
+    plot.displaying = openNames(recordings);
+    plot.remark = togetherRemark(recordings);
+    labelAxis(plot, recordings.info(0));
+    scalePowerAxis(plot, recordings, power);
+    plot.extremeMin = power.extremeMin;
+    plot.extremeMax = power.extremeMax;
+    return plot;
 }
 
 } // namespace tally

@@ -3,37 +3,50 @@
 
 #include "core/Clock.h"
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
+#include "core/Refusal.h"
+#include "view/Display.h"
 #include "view/LineVoltage.h"
 #include "view/Plot.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tally {
 
-enum class PowerRefusal { none, notAmps, notAverage };
+inline constexpr std::string_view powerNotAmps = "Files must all be amps for power to plot";
+inline constexpr std::string_view powerNotAverage = "Files must be average mode for power to plot";
 
 // Whether the open files can be shown as power; the last file that fails decides which refusal it is.
-PowerRefusal checkPower(const Recordings& recordings);
-// The text of the message box; empty for none.
-std::string_view refusalText(PowerRefusal refusal);
+Expected<void> checkPower(const Recordings& recordings);
 
-// What Power View > Power Plot resets before it draws: the whole first file, no span, not on one page, no y
-// scale; the power plot becomes the current view.
-void startPower(Recordings& recordings, DisplayState& state);
+// The power of a range of the open files, all of it from one computation.
+struct Power {
+    Range range;                  // of the first file
+    PowerBasis basis;             // what it was worked out with
+    std::vector<float> kilowatts; // entry 0 is the reading at range.first
+    std::string energyText;       // "12,345 KWHR"; the first reading is left out
+    std::int16_t extremeMin = 0;  // tenths of amps; with three files the mean times 1.732 ...
+    std::int16_t extremeMax = 0;  // ... and here the plain sum
+    std::int32_t smallestSum = 0; // summed current, tenths of amps
+};
 
-// Works out power, energy and extremes of the displayed range at a line voltage in volts, and the power plot.
-// Refused or thrown (Overflow; Subscript out of range with no file), nothing has changed. A power factor of 0
-// becomes 1.0. The first line of the title is the power title line.
-PowerRefusal DisplPlotPwr(Recordings& recordings, DisplayState& state, double volts, const Clock& clock,
-                          Plot& out);
+// Throws Overflow, and Subscript out of range with no file.
+Expected<Power> powerOf(const Recordings& recordings, const Range& range, const PowerBasis& basis);
 
-// startPower and DisplPlotPwr as one step: refused or thrown, the range and the flags stay as they were too.
-PowerRefusal viewPower(Recordings& recordings, DisplayState& state, double volts, const Clock& clock,
-                       Plot& out);
+// The energy of a range as a text; empty where the files give no power.
+std::string energyOf(const Recordings& recordings, const Range& range, const PowerBasis& basis);
+
+// The power plot; the power is that of the request's range. The first line of the title is the power title
+// line.
+Plot DisplPlotPwr(const Recordings& recordings, const PlotRequest& request, const Power& power,
+                  const Clock& clock);
 
 // The power title line alone.
-std::string powerTitle(const Recordings& recordings, double volts);
+std::string powerTitle(const Recordings& recordings, const PowerBasis& basis);
+
+// Files, voltage, power factor and times that a power was worked out from, for the status line.
+std::string powerSource(const Recordings& recordings, const Power& power);
 
 } // namespace tally

@@ -13,7 +13,7 @@ namespace tally {
 namespace {
 
 // Summed currents, tenths of amps; a file without a reading counts as 0.
-std::vector<std::int32_t> summedCurrents(const Recordings& recordings, const ShownRange& range) {
+std::vector<std::int32_t> summedCurrents(const Recordings& recordings, const Range& range) {
     std::vector<std::int32_t> sums(static_cast<std::size_t>(range.entries()));
     // Only the sums of three files are 16-bit numbers, at every step.
     const bool narrow = recordings.openCount() == Recordings::slotCount;
@@ -71,6 +71,7 @@ PowerValues valuesOf(const std::vector<std::int32_t>& sums, const PowerScale& sc
     }
     values.smallest = Files::combined(static_cast<float>(smallest));
     values.largest = static_cast<float>(largest);
+    values.smallestSum = smallest;
     // The power goes up or down with the current throughout, so its ends stand for all values.
     for (const std::int32_t end : {smallest, largest})
         if (!std::isfinite(Files::kilowatts(static_cast<float>(end), scale)))
@@ -81,7 +82,7 @@ PowerValues valuesOf(const std::vector<std::int32_t>& sums, const PowerScale& sc
 
 } // namespace
 
-PowerValues powerValues(const Recordings& recordings, const ShownRange& range, const PowerScale& scale) {
+PowerValues powerValues(const Recordings& recordings, const Range& range, const PowerScale& scale) {
     const auto sums = summedCurrents(recordings, range);
     return recordings.openCount() == Recordings::slotCount ? valuesOf<ThreeFiles>(sums, scale)
                                                            : valuesOf<OneOrTwoFiles>(sums, scale);

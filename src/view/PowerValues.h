@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Recordings.h"
-#include "view/ShownRange.h"
+#include "view/Range.h"
 
 #include <cstdint>
 #include <vector>
@@ -21,9 +21,10 @@ struct PowerValues {
     double sumAfterFirst = 0;     // of all kilowatts but the first
     float smallest = 0;           // combined current, tenths of amps; with three files the mean times 1.732
     float largest = 0;            // summed current, tenths of amps
+    std::int32_t smallestSum = 0; // summed current at `smallest`, tenths of amps
 };
 
 // Throws Overflow when three currents sum beyond 16 bits or a kilowatt value beyond single precision.
-PowerValues powerValues(const Recordings& recordings, const ShownRange& range, const PowerScale& scale);
+PowerValues powerValues(const Recordings& recordings, const Range& range, const PowerScale& scale);
 
 } // namespace tally

@@ -3,8 +3,7 @@
 
 #include "core/Fault.h"
 #include "core/ModeTable.h"
-#include "view/PlotSeries.h"
-#include "view/ShownRange.h"
+#include "view/Range.h"
 #include "view/TableText.h"
 
 namespace tally {
@@ -32,20 +31,17 @@ const TableLayout& layoutOf(char letter) {
 
 } // namespace
 
-std::string Print(Recordings& recordings, const DisplayState& state) {
-    const int slot = recordings.ginx;
+Table Print(const Recordings& recordings, int slot, const Range& range) {
     if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
         throw fault::subscript();
     const FileFacts& info = recordings.info(slot);
-    const ShownRange range = shownRange(recordings, state, slot);
     const TableLayout& layout = layoutOf(info.modeLetter);
     const int intervalsPerLine = layout.perLine / valuesPerInterval(info.modeLetter);
     const int minutesPerLine = modeRow(info.modeLetter).minutes * intervalsPerLine;
-    tableText(recordings.gTable, present(recordings, slot, range), layout, !info.low,
+    Table table{std::string(layout.heading), {}};
+    tableText(table.text, present(recordings, slot, range), layout, !info.low,
               {timeOf(info, range.first), minutesPerLine});
-    if (!state.spanApplied)
-        recordings.gdataend = info.count - 1;
-    return std::string(layout.heading);
+    return table;
 }
 
 } // namespace tally

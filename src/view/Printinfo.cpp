@@ -4,8 +4,10 @@
 #include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
-#include "view/ShownRange.h"
+#include "view/Range.h"
 #include "view/Summary.h"
+
+#include <algorithm>
 
 namespace tally {
 
@@ -14,20 +16,23 @@ namespace {
 constexpr std::size_t modeField = 15;
 constexpr std::size_t valuesField = 29;
 
-std::string selectedLines(const Recordings& recordings, const DisplayState& state, int slot) {
+// The extremes are those of the displayed range over all files, as the plot shows them.
+std::string selectedLines(const Recordings& recordings, const Range& selected, int slot) {
     const FileFacts& info = recordings.info(slot);
-    const ShownRange range = shownRange(recordings, state, slot);
+    Range range = sameIntervals(recordings, selected, slot);
+    range.last = std::min(range.last, info.count - 1);
+    const Extremes extremes = extremesOf(recordings, selected);
     return "           Selected:       Start  " + screenTime(timeOf(info, range.first)) +
            "                   Finish  " + screenTime(timeOf(info, range.last)) + "\r\n" +
-           "                                   Min      " + Format(state.extremeMin / 10.0, "###0.0") +
+           "                                   Min      " + Format(extremes.smallest / 10.0, "###0.0") +
            "           " + "                                 max       " +
-           Format(state.extremeMax / 10.0, "###0.0") + "\r\n";
+           Format(extremes.largest / 10.0, "###0.0") + "\r\n";
 }
 
 } // namespace
 
-std::string Printinfo(const Recordings& recordings, const DisplayState& state) {
-    const int slot = recordings.ginx;
+std::string Printinfo(const Recordings& recordings, int slot, const std::optional<Range>& selected,
+                      const std::string& energy) {
     if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
         throw fault::subscript();
     const FileFacts& info = recordings.info(slot);
@@ -39,10 +44,10 @@ std::string Printinfo(const Recordings& recordings, const DisplayState& state) {
             "    End:  " + screenTime(timeOf(info, info.count - 1)) + "\r\n";
     text += "                       Min: " + plainTenths(info.smallest) + "    " +
             " Max: " + plainTenths(info.largest) + "\r\n";
-    if (!state.energyText.empty())
-        text += "                   Total Energy In Displayed Area  " + state.energyText + "\r\n";
-    if (state.spanApplied)
-        text += selectedLines(recordings, state, slot);
+    if (!energy.empty())
+        text += "                   Total Energy In Displayed Area  " + energy + "\r\n";
+    if (selected)
+        text += selectedLines(recordings, *selected, slot);
     return text + noteLines(recordings, slot);
 }
 

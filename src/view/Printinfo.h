@@ -2,16 +2,18 @@
 #pragma once
 
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace tally {
 
-// The summary of the current file (ginx), UTF-8, lines ended by CR LF. Throws Subscript out of range when no
-// file is current.
-std::string Printinfo(const Recordings& recordings, const DisplayState& state);
+// The summary of a file, UTF-8, lines ended by CR LF. `selected` is the applied span in readings of the first
+// file, `energy` the energy of the displayed range (empty: none was worked out). Throws Subscript out of
+// range when no file is open in the slot.
+std::string Printinfo(const Recordings& recordings, int slot, const std::optional<Range>& selected = {},
+                      const std::string& energy = {});
 
 inline constexpr std::string_view noFileForSummary = "Error - No file available. Need to open a file.";
 inline constexpr std::string_view noFileForPrintSummary = "Error - No file available.  Need to open a file.";

@@ -3,7 +3,6 @@
 
 #include "core/Fault.h"
 #include "core/ModeTable.h"
-#include "view/ShownRange.h"
 #include "view/TableText.h"
 
 namespace tally {
@@ -26,15 +25,15 @@ const TableLayout& layoutOf(char letter) {
 
 } // namespace
 
-std::string Printpwr(Recordings& recordings, const DisplayState& state) {
+Table Printpwr(const Recordings& recordings, const Power& power) {
     if (!recordings.isOpen(0))
         throw fault::subscript();
     const FileFacts& info = recordings.info(0);
     const TableLayout& layout = layoutOf(info.modeLetter);
-    // The values belong to the range that the power plot was drawn over, whatever is displayed now.
-    tableText(recordings.gTable, state.power, layout, !info.low,
-              {timeOf(info, state.powerFirst), modeRow(info.modeLetter).minutes * layout.perLine});
-    return std::string(layout.heading);
+    Table table{std::string(layout.heading), {}};
+    tableText(table.text, power.kilowatts, layout, !info.low,
+              {timeOf(info, power.range.first), modeRow(info.modeLetter).minutes * layout.perLine});
+    return table;
 }
 
 } // namespace tally

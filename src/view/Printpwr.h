@@ -2,14 +2,12 @@
 #pragma once
 
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
-
-#include <string>
+#include "view/Display.h"
+#include "view/Power.h"
 
 namespace tally {
 
-// Lays out the kilowatts of the last power plot as the power table in gTable, lines ended by CR LF, and gives
-// its heading line. Draw the power plot first where `powerDrawn` is false; without one the table is empty.
-std::string Printpwr(Recordings& recordings, const DisplayState& state);
+// Lays out the kilowatts of a power as the power table. Throws Subscript out of range when no file is open.
+Table Printpwr(const Recordings& recordings, const Power& power);
 
 } // namespace tally

@@ -3,8 +3,6 @@
 
 #include "core/Fault.h"
 #include "core/Numbers.h"
-#include "view/Power.h"
-#include "view/ShownRange.h"
 #include "view/Summary.h"
 
 #include <algorithm>
@@ -14,8 +12,9 @@ namespace tally {
 namespace {
 
 // Kilowatts of a stored extreme (tenths of amps), in single precision like the readings.
-std::string kilowatts(std::int16_t tenths, float factor, float volts) {
-    return Format(static_cast<float>(tenths) / 10.0F * factor * volts / 1000.0F, "###0.0");
+std::string kilowatts(std::int16_t tenths, const PowerBasis& basis) {
+    const auto volts = static_cast<float>(basis.volts());
+    return Format(static_cast<float>(tenths) / 10.0F * basis.factor * volts / 1000.0F, "###0.0");
 }
 
 // The oldest and the newest time of all open files.
@@ -30,24 +29,21 @@ std::string allFilesLine(const Recordings& recordings) {
     return "All Files:  Start:  " + screenTime(start) + "                End:  " + screenTime(end) + "\r\n";
 }
 
-std::string selectedLines(const Recordings& recordings, const DisplayState& state, const std::string& min,
+std::string selectedLines(const Recordings& recordings, const Range& range, const std::string& min,
                           const std::string& max) {
     const FileFacts& info = recordings.info(0);
-    const int last = state.powerFirst + static_cast<int>(state.power.size()) - 1;
-    return "Selected:       Start  " + screenTime(timeOf(info, state.powerFirst)) +
-           "                Finish  " + screenTime(timeOf(info, last)) + "\r\n" + " Min " + min +
+    return "Selected:       Start  " + screenTime(timeOf(info, range.first)) + "                Finish  " +
+           screenTime(timeOf(info, range.last)) + "\r\n" + " Min " + min +
            "                                      max  " + max + "\r\n";
 }
 
 } // namespace
 
-std::string Printpwrinfo(const Recordings& recordings, const DisplayState& state, std::string_view vline) {
+std::string Printpwrinfo(const Recordings& recordings, const Power& power, bool selected) {
     if (!recordings.isOpen(0))
         throw fault::subscript();
-    const float factor = powerFactorOf(recordings);
-    const auto volts = static_cast<float>(voltsOf(vline));
-    const std::string min = kilowatts(state.powerExtremeMin, factor, volts);
-    const std::string max = kilowatts(state.powerExtremeMax, factor, volts);
+    const std::string min = kilowatts(power.extremeMin, power.basis);
+    const std::string max = kilowatts(power.extremeMax, power.basis);
 
     std::string text = leftIn("Average", 15) + "  Values" + "\r\n";
     for (int slot = 0; slot < recordings.openCount(); ++slot)
@@ -56,11 +52,11 @@ std::string Printpwrinfo(const Recordings& recordings, const DisplayState& state
     text += allFilesLine(recordings);
     text += "         Min: " + min + " KW" + "                                      Max: " + max + " KW    " +
             "\r\n";
-    text += "Line Voltage: " + std::string(vline) + "   " +
-            "   Total Energy In Displayed Area: " + state.energyText + "   " +
-            "  Power Factor: " + plain(factor) + "\r\n";
-    if (state.spanApplied)
-        text += selectedLines(recordings, state, min, max);
+    text += "Line Voltage: " + power.basis.vline + "   " +
+            "   Total Energy In Displayed Area: " + power.energyText + "   " +
+            "  Power Factor: " + plain(power.basis.factor) + "\r\n";
+    if (selected)
+        text += selectedLines(recordings, power.range, min, max);
     for (int slot = 0; slot < recordings.openCount(); ++slot)
         text += noteLines(recordings, slot);
     return text;

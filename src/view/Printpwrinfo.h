@@ -2,15 +2,14 @@
 #pragma once
 
 #include "core/Recordings.h"
-#include "view/DisplayState.h"
+#include "view/Power.h"
 
 #include <string>
-#include <string_view>
 
 namespace tally {
 
-// The summary of the last power plot, UTF-8, lines ended by CR LF; `vline` is the line voltage as the
-// setting holds it. Throws Subscript out of range when no file is open.
-std::string Printpwrinfo(const Recordings& recordings, const DisplayState& state, std::string_view vline);
+// The summary of a power, UTF-8, lines ended by CR LF; `selected` says that its range is an applied span,
+// which the summary then names. Throws Subscript out of range when no file is open.
+std::string Printpwrinfo(const Recordings& recordings, const Power& power, bool selected);
 
 } // namespace tally

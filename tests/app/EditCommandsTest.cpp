@@ -3,6 +3,7 @@
 
 #include "app/forms/EditNotes.h"
 #include "app/forms/ForceRdgs.h"
+#include "core/Fileopen.h"
 
 #include <QCloseEvent>
 #include <QLineEdit>
@@ -73,15 +74,6 @@ TEST_F(EditTest, ForcingChangesTheZoomedRangeAndSaysSoWithUndo) {
     EXPECT_TRUE(changed().empty());
     EXPECT_FALSE(window.notices().has(QStringLiteral("forced")));
     EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 10.0F);
-}
-
-TEST_F(EditTest, ForcingARangeWithoutReadingsLeavesNothingToSave) {
-    openZoomed();
-    recordings.gDatastart = recordings.gdataend = int(recordings.gReadings[0].size());
-    force("60");
-    EXPECT_TRUE(changed().empty());
-    EXPECT_FALSE(window.notices().has(QStringLiteral("forced")));
-    EXPECT_TRUE(closes()) << "nothing is asked";
 }
 
 TEST_F(EditTest, LeftmostAndRightmostForceOneReading) {
@@ -207,6 +199,93 @@ TEST_F(EditTest, SaveOfAnotherRangeDoesNotCount) {
     prompt.files.push_back("/d/out.dat");
     click("mnuItemSave");
     EXPECT_TRUE(window.notices().has(QStringLiteral("forced")));
+}
+
+TEST_F(EditTest, UndoAfterASaveIsAgainUnsaved) {
+    openZoomed();
+    force("50");
+    prompt.files.push_back("/d/out.dat");
+    click("mnuItemSave");
+    window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
+    EXPECT_THAT(window.notices().text(QStringLiteral("forced")).toStdString(),
+                HasSubstr("a.dat: 4 reading(s) taken back, not saved yet."));
+    prompt.answers = {Answer::No};
+    EXPECT_FALSE(closes());
+    force("50");
+    EXPECT_FALSE(window.notices().has(QStringLiteral("forced"))) << "the file holds what the window does";
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(EditTest, WithoutAZoomTheWholeOfTheChosenFileIsForced) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(96, 100)));
+    open("/d/b.dat", dataFile('a', {100, 100}));
+    chooser.answers = {0};
+    click("mnuItemViewTable");
+    whenOpen<ForceRdgs>([](ForceRdgs& form) {
+        EXPECT_EQ(form.findChild<QRadioButton*>(QStringLiteral("Option1"))->text(),
+                  QStringLiteral("All Readings (96)"));
+        text(form, "Text1").setText(QStringLiteral("7"));
+        press(form, "Command1");
+    });
+    click("mnuItemForceRdg");
+    EXPECT_EQ(changed().size(), 96U);
+}
+
+TEST_F(EditTest, ForcingCountsTheReadingsThatTheFileHas) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(96, 100)));
+    open("/d/b.dat", dataFile('a', {100, 100}));
+    whenOpen<ForceRdgs>([](ForceRdgs& form) {
+        EXPECT_EQ(form.findChild<QRadioButton*>(QStringLiteral("Option1"))->text(),
+                  QStringLiteral("All Readings (2)"));
+        press(form, "Command2");
+    });
+    click("mnuItemForceRdg");
+}
+
+TEST_F(EditTest, ForcingRenewsTheSummaryOnTheScreen) {
+    openZoomed();
+    click("mnuItemViewsummary");
+    force("50");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("max       50.0"));
+}
+
+TEST_F(EditTest, SaveOfAZoomSaysWhichPartItWrites) {
+    openZoomed();
+    const FileFacts& info = recordings.info(0);
+    const auto at = [&](int i) { return formatTime(timeOf(info, i), "%H:%M"); };
+    const std::string part = "4 of 16 readings (" + at(4) + " to " + at(7) + ")";
+    prompt.files.push_back("/d/out.dat");
+    click("mnuItemSave");
+    EXPECT_EQ(prompt.filesAsked.back().title, "Save " + part);
+    EXPECT_EQ(window.notices().text(QStringLiteral("saved")).toStdString(),
+              "out.dat holds " + part + " of a.dat.");
+}
+
+TEST_F(EditTest, PartOfAFileReplacesTheLongerOpenFileOnlyWhenAsked) {
+    openZoomed();
+    const std::string before = files.contents["/d/a.dat"];
+    prompt.files = {"/d/a.dat"};
+    prompt.answers = {Answer::No};
+    click("mnuItemSave");
+    EXPECT_THAT(prompt.shown.back().text, HasSubstr("Replace it by 4 of 16 readings ("));
+    EXPECT_EQ(prompt.shown.back().defaultAnswer, Answer::No);
+    EXPECT_EQ(files.contents["/d/a.dat"], before);
+}
+
+TEST_F(EditTest, TheNoticesButtonSavesTheWholeFile) {
+    openZoomed();
+    force("50", "Option2");
+    prompt.files.push_back("/d/out.dat");
+    auto* notice = window.notices().findChild<QWidget*>(QStringLiteral("notice"));
+    ASSERT_NE(notice, nullptr);
+    for (auto* button : notice->findChildren<QPushButton*>())
+        if (button->text() == QStringLiteral("Save As..."))
+            button->click();
+    QApplication::processEvents();
+    Recordings reopened;
+    ASSERT_EQ(Fileopen(reopened, files, "/d/out.dat"), OpenOutcome::opened);
+    EXPECT_EQ(reopened.gReadings[0], recordings.gReadings[0]);
+    EXPECT_FALSE(window.notices().has(QStringLiteral("forced")));
 }
 
 TEST_F(EditTest, NotesAreSavedAndShownAgain) {

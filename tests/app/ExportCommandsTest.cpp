@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
+#include "app/forms/ForceRdgs.h"
+
+#include <QLineEdit>
+
 namespace tally {
 namespace {
 
@@ -40,7 +44,8 @@ TEST_F(WindowTest, TableEnablesBothDataExportsUntilOneIsDone) {
     EXPECT_TRUE(enabled("mnuItemexpdata1perLine"));
     click("mnuItemexpdata1perLine");
     EXPECT_THAT(files.contents["/d/a.prn"], StartsWith("yy mm dd hh mm Reading\r\n"));
-    EXPECT_EQ(display.viewKind, ViewKind::none);
+    EXPECT_EQ(display.exportable(), View::none);
+    EXPECT_EQ(display.view(), View::table);
     EXPECT_FALSE(enabled("MnuItemexpdatacsv"));
     EXPECT_FALSE(enabled("mnuItemexpdata1perLine"));
 }
@@ -78,22 +83,70 @@ TEST_F(WindowTest, PowerPlotEnablesTheMeteringReport) {
     EXPECT_THAT(files.contents["/d/Lotusint.prn"], HasSubstr("      1380,"));
 }
 
-TEST_F(WindowTest, MeteringReportOfAnotherRangeAsksForTheVoltageFirst) {
+TEST_F(WindowTest, MeteringReportIsOfTheReadingsTheVoltageAndTheFactorInForce) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
-    prompt.inputs = {"13800"};
+    prompt.inputs = {"13800", "4160", "0.5", "METER 1"};
+    click("mnuItemViewPower");
+    click("mnuItemViewPower");
+    click("mnuItemPF");
+    for (auto& reading : recordings.gReadings[0])
+        reading = 2000;
+    click("mnuitemexprep");
+    // 200 A at 4.16 kV and 0.5.
+    EXPECT_THAT(files.contents["/d/Lotusint.prn"], HasSubstr("       416,"));
+    EXPECT_EQ(prompt.asked.size(), 4U) << "the voltage is known";
+}
+
+TEST_F(WindowTest, MeteringReportAsksForTheVoltageWhenNoneWasEntered) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
+    prompt.inputs = {"13800", "4160", "METER 1"};
     click("mnuItemViewPower");
     mark(100, 120);
     click("mnuZoom");
+    open("/d/b.dat", dataFile('a', std::vector<int>(192, 0)));
     click("mnuItemViewPlot");
     const auto before = window.screen().chart().plot().title;
-    prompt.inputs = {"4160", "METER 1"};
     click("mnuitemexprep");
     EXPECT_THAT(files.contents["/d/Lotusint.prn"], HasSubstr("       416,"));
     EXPECT_EQ(window.screen().chart().plot().title, before);
-    prompt.inputs = {std::nullopt};
-    files.contents.erase("/d/Lotusint.prn");
+}
+
+TEST_F(WindowTest, CancelledVoltageOrIdentifierWritesNoReport) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
+    prompt.inputs = {"13800", std::nullopt};
+    click("mnuItemViewPower");
     click("mnuitemexprep");
     EXPECT_FALSE(files.contents.contains("/d/Lotusint.prn"));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(WindowTest, TableOnTheScreenIsRenewedAfterItWasExported) {
+    open("/d/a.dat", dataFile('a', sixteen));
+    click("mnuItemViewTable");
+    click("mnuItemexpdata1perLine");
+    whenOpen<ForceRdgs>([](ForceRdgs& form) {
+        form.findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QStringLiteral("7"));
+        form.accept();
+    });
+    click("mnuItemForceRdg");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    007 "));
+    EXPECT_EQ(window.screen().text().text().toStdString().find("100"), std::string::npos);
+}
+
+TEST_F(WindowTest, CsvOfASelectionThatTheFileDoesNotReachIsRefused) {
+    open("/d/a.dat", dataFile('a', sixteen));
+    open("/d/b.dat", dataFile('a', {1000, 1000}));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    files.contents["/d/Lotusint.csv"] = "old";
+    chooser.answers = {1};
+    click("MnuItemexpdatacsv");
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_THAT(
+        prompt.shown[0].text,
+        StartsWith("The zoomed range holds no reading of this file. Nothing was done.\r\n/d/b.dat\r\n"));
+    EXPECT_EQ(files.contents["/d/Lotusint.csv"], "old");
 }
 
 TEST_F(WindowTest, ExportToAFolderThatIsGoneIsReported) {
@@ -103,7 +156,7 @@ TEST_F(WindowTest, ExportToAFolderThatIsGoneIsReported) {
     files.failWrite = fault::pathNotFound();
     click("MnuItemexpdatacsv");
     EXPECT_THAT(prompt.texts(), ElementsAre("Error number 76: Path not found"));
-    EXPECT_EQ(display.viewKind, ViewKind::dataPlot);
+    EXPECT_EQ(display.exportable(), View::dataPlot);
 }
 
 } // namespace

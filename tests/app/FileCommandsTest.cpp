@@ -134,8 +134,8 @@ TEST_F(WindowTest, CloseEmptiesTheSlotsAndResetsTheViews) {
     click("mnuItemOnepgPlot");
     click("mnuItemClose");
     EXPECT_FALSE(recordings.isOpen(0));
-    EXPECT_FALSE(display.onePage);
-    EXPECT_EQ(display.viewKind, ViewKind::none);
+    EXPECT_FALSE(display.onePage());
+    EXPECT_EQ(display.view(), View::none);
     EXPECT_TRUE(window.screen().chart().isEmpty());
     EXPECT_EQ(window.screen().page(), Screen::Page::start);
     for (const char* name : {"mnuItemClose", "mnuItemSave", "mnuView", "mnuItemOnepgPlot", "mnuZoom"})
@@ -155,7 +155,7 @@ TEST_F(WindowTest, SaveWritesTheWholeOfTheChosenFileAndIsThenOff) {
     const std::string& bytes = files.contents["/d/out.dat"];
     EXPECT_THAT(bytes, StartsWith("\"\r\n\n\nPQXa   1234"));
     EXPECT_THAT(bytes, HasSubstr("\r  60  50  40  30  20  10\x1a\"\r\n"));
-    EXPECT_EQ(recordings.gdataend, 5);
+    EXPECT_EQ(display.gdataend(), 5);
 }
 
 TEST_F(WindowTest, FailedSaveKeepsTheOldFileAndTheMenu) {

@@ -95,7 +95,7 @@ TEST_F(WindowTest, SpecialTestListsTheState) {
 }
 
 TEST_F(WindowTest, MissingHelpFileIsSaid) {
-    window.help().setHelpFile(QStringLiteral("/no/such/tallyhelp.hlp"));
+    window.setHelpFile(QStringLiteral("/no/such/tallyhelp.hlp"));
     click("mnuItemHelp");
     ASSERT_EQ(prompt.shown.size(), 1U);
     EXPECT_THAT(prompt.shown[0].text, HasSubstr("The help file is missing"));
@@ -108,7 +108,7 @@ TEST_F(WindowTest, DamagedHelpFileIsSaid) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("this is no help file");
     file.close();
-    window.help().setHelpFile(path);
+    window.setHelpFile(path);
     click("mnuItemHelp");
     ASSERT_EQ(prompt.shown.size(), 1U);
     EXPECT_THAT(prompt.shown[0].text, HasSubstr("The help file is damaged"));
@@ -201,14 +201,24 @@ TEST_F(WindowTest, FaultReportNamesTheCallPointWhereOneIsSet) {
 TEST_F(WindowTest, FaultPutsRangeFileAndDisplayBack) {
     open("/d/a.dat", dataFile('a', {100, 200, 300}));
     window.dispatcher().run([this] {
-        recordings.gDatastart = 2;
+        EXPECT_TRUE(display.applyRange(recordings, 2, 2));
         recordings.ginx = 5;
-        display.viewKind = ViewKind::powerPlot;
+        display.textShown(View::powerSummary, 0);
         throw fault::overflow();
     });
-    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(display.gDatastart(), 0);
     EXPECT_EQ(recordings.ginx, 0);
-    EXPECT_EQ(display.viewKind, ViewKind::summary);
+    EXPECT_EQ(display.view(), View::summary);
+}
+
+TEST_F(WindowTest, RefusalIsToldWithWhatItSpeaksOfAndPutsTheDisplayBack) {
+    open("/d/a.dat", dataFile('a', {100, 200, 300}));
+    EXPECT_FALSE(window.dispatcher().run([this]() -> Done {
+        display.startPower(recordings);
+        return refuse("Not this one.", "/d/a.dat", "Take another.");
+    }));
+    EXPECT_FALSE(display.powerView());
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Not this one.\r\n/d/a.dat\r\nTake another."});
 }
 
 } // namespace

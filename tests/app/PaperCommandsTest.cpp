@@ -70,10 +70,10 @@ TEST_F(PaperCommandsTest, PrintingAnotherFileLeavesTheTableShownToTheExport) {
     open("/d/b.dat", dataFile('a', std::vector<int>(20, 2000)));
     chooser.answers = {0, 1};
     click("mnuItemViewTable");
-    const std::string table = recordings.gTable;
+    const std::string table = display.gTable();
     printTo(QStringLiteral("/d/b.pdf"));
     click("mnuItemPrintTable");
-    EXPECT_EQ(recordings.gTable, table);
+    EXPECT_EQ(display.gTable(), table);
     click("MnuItemexpdatacsv");
     EXPECT_THAT(files.contents["/d/a.prn"], HasSubstr(table));
     EXPECT_FALSE(files.contents.contains("/d/b.prn"));

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
+#include "app/forms/ForceRdgs.h"
+
+#include <QLineEdit>
+
 namespace tally {
 namespace {
 
@@ -22,9 +26,9 @@ TEST_F(WindowTest, PowerPlotAsksForTheVoltageOfferingTheDefault) {
     EXPECT_THAT(prompt.asked.back().text, HasSubstr("Enter line voltage for power calculation"));
     EXPECT_THAT(prompt.asked.back().text, HasSubstr("input must be volts, not 'KV'"));
     EXPECT_EQ(settings.get("Settings", "Vline"), "4160");
-    EXPECT_EQ(display.viewKind, ViewKind::powerPlot);
+    EXPECT_EQ(display.view(), View::powerPlot);
     // 100 A at 4.16 kV.
-    EXPECT_FLOAT_EQ(display.power.at(0), 416.0F);
+    EXPECT_FLOAT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 416.0F);
     for (const char* name : {"mnuItemViewPwrTable", "mnuItemPrintPwrTable"})
         EXPECT_TRUE(enabled(name)) << name;
 }
@@ -34,11 +38,11 @@ TEST_F(WindowTest, CancelledVoltageDrawsNothing) {
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemViewPower");
     EXPECT_EQ(window.screen().page(), Screen::Page::text);
-    EXPECT_FALSE(display.powerDrawn);
+    EXPECT_FALSE(display.powerKnown());
     EXPECT_EQ(settings.get("Settings", "Vline"), "13800");
     prompt.inputs.push_back("");
     click("mnuItemViewPower");
-    EXPECT_FALSE(display.powerDrawn);
+    EXPECT_FALSE(display.powerKnown());
 }
 
 TEST_F(WindowTest, VoltagesEnteredAreOfferedAgainAfterClose) {
@@ -52,7 +56,7 @@ TEST_F(WindowTest, VoltagesEnteredAreOfferedAgainAfterClose) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemViewPower");
-    EXPECT_EQ(prompt.asked.back().preset, "0");
+    EXPECT_EQ(prompt.asked.back().preset, "13800") << "0 counts as none";
     EXPECT_THAT(prompt.asked.back().choices, ElementsAre("4160", "13800"));
 }
 
@@ -60,7 +64,7 @@ TEST_F(WindowTest, KilovoltsGetAHintButAreTaken) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back("13.8");
     click("mnuItemViewPower");
-    EXPECT_TRUE(display.powerDrawn);
+    EXPECT_TRUE(display.powerKnown());
     EXPECT_FALSE(remark().isEmpty());
     EXPECT_TRUE(prompt.shown.empty());
 }
@@ -72,7 +76,7 @@ TEST_F(WindowTest, MinMaxAvgFilesAreRefusedAndTurnThePowerPlotOff) {
     EXPECT_THAT(prompt.texts(), ElementsAre("Files must be average mode for power to plot"));
     EXPECT_FALSE(enabled("mnuItemViewPower"));
     EXPECT_EQ(window.screen().page(), Screen::Page::text);
-    EXPECT_FALSE(display.powerView);
+    EXPECT_FALSE(display.powerView());
 }
 
 TEST_F(WindowTest, OverflowOfThreeFilesRestoresTheDisplay) {
@@ -87,26 +91,26 @@ TEST_F(WindowTest, OverflowOfThreeFilesRestoresTheDisplay) {
     prompt.inputs.push_back("13800");
     click("mnuItemViewPower");
     EXPECT_THAT(prompt.texts(), ElementsAre("Error number 6: Overflow"));
-    EXPECT_FALSE(display.powerView);
-    EXPECT_EQ(display.viewKind, ViewKind::dataPlot);
+    EXPECT_FALSE(display.powerView());
+    EXPECT_EQ(display.view(), View::dataPlot);
     EXPECT_EQ(window.screen().chart().plot().title, before);
     click("mnuZoom");
-    EXPECT_EQ(recordings.gDatastart, 2);
+    EXPECT_EQ(display.gDatastart(), 2);
 }
 
-TEST_F(WindowTest, PowerTableDrawsThePowerPlotFirstWhenThereIsNone) {
+TEST_F(WindowTest, PowerSummaryAsksForTheVoltageOnceAndPowerTableNoMore) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     click("mnuItemViewPlot");
     prompt.inputs.push_back("13800");
     click("mnuItemViewpwrsummry");
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("Line Voltage: 13800"));
-    EXPECT_EQ(display.viewKind, ViewKind::powerSummary);
+    EXPECT_EQ(display.view(), View::powerSummary);
     click("mnuItemViewPwrTable");
     EXPECT_EQ(prompt.asked.size(), 1U);
     // 100 A at 13.8 kV.
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("1380.0"));
-    EXPECT_EQ(display.viewKind, ViewKind::table);
-    EXPECT_EQ(remark().toStdString(), display.powerSource);
+    EXPECT_EQ(display.view(), View::powerTable);
+    EXPECT_THAT(remark().toStdString(), ::testing::StartsWith("Power of a.dat at 13.8 KV, power factor 1, "));
 }
 
 TEST_F(WindowTest, PowerFactorAboveOneIsTakenAsEntered) {
@@ -114,24 +118,84 @@ TEST_F(WindowTest, PowerFactorAboveOneIsTakenAsEntered) {
     click("mnuItemPF");
     EXPECT_EQ(prompt.asked.back().text, "Enter Power Factor to be used \rmust be 1 or less");
     EXPECT_EQ(prompt.asked.back().preset, "1");
-    EXPECT_FLOAT_EQ(recordings.powerFactor, 1.2F);
+    EXPECT_FLOAT_EQ(display.powerFactor(), 1.2F);
 }
 
 TEST_F(WindowTest, CancelledOrEmptyPowerFactorKeepsTheOldOne) {
-    recordings.powerFactor = 0.9F;
+    display.setPowerFactor(0.9F);
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemPF");
     prompt.inputs.push_back("");
     click("mnuItemPF");
-    EXPECT_FLOAT_EQ(recordings.powerFactor, 0.9F);
+    EXPECT_FLOAT_EQ(display.powerFactor(), 0.9F);
 }
 
 TEST_F(WindowTest, PowerFactorOfZeroIsOfferedAsOne) {
-    recordings.powerFactor = 0;
-    prompt.inputs.push_back(std::nullopt);
+    prompt.inputs = {"0", std::nullopt};
+    click("mnuItemPF");
+    EXPECT_EQ(remark(), QStringLiteral("Power factor taken as 1."));
     click("mnuItemPF");
     EXPECT_EQ(prompt.asked.back().preset, "1");
-    EXPECT_FLOAT_EQ(recordings.powerFactor, 1.0F);
+    EXPECT_FLOAT_EQ(display.powerFactor(), 1.0F);
+}
+
+TEST_F(WindowTest, AnotherPowerFactorRedrawsWhatComesFromIt) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
+    prompt.inputs = {"10000", "0.5", "0.8"};
+    click("mnuItemViewPower");
+    click("mnuItemPF");
+    EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 500.0F);
+    click("mnuItemViewPwrTable");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("  500.0  "));
+    click("mnuItemPF");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("  800.0  "));
+}
+
+TEST_F(WindowTest, PowerFactorThatIsNotWhollyANumberIsTold) {
+    prompt.inputs.push_back("0,8");
+    click("mnuItemPF");
+    EXPECT_EQ(remark(), QStringLiteral("Power factor taken as 1."));
+}
+
+TEST_F(WindowTest, VoltageWithAGroupingCommaIsThatManyVolts) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    prompt.inputs = {"13,800"};
+    click("mnuItemViewPower");
+    EXPECT_FLOAT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 1380.0F);
+}
+
+TEST_F(WindowTest, ForcingRenewsThePowerViewOnTheScreen) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
+    prompt.inputs = {"10000"};
+    click("mnuItemViewPower");
+    const auto force = [this](const char* value) {
+        whenOpen<ForceRdgs>([value](ForceRdgs& form) {
+            form.findChild<QLineEdit*>(QStringLiteral("Text1"))->setText(QString::fromLatin1(value));
+            form.accept();
+        });
+        click("mnuItemForceRdg");
+    };
+    force("50");
+    EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 500.0F);
+    click("mnuItemViewpwrsummry");
+    force("60");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("Min: 600.0 KW"));
+    EXPECT_THAT(window.screen().text().text().toStdString(),
+                HasSubstr("Total Energy In Displayed Area: 1,050 KWHR"));
+}
+
+TEST_F(WindowTest, PowerSummaryNamesTheSpanThatWasMarkedInADataPlot) {
+    open("/d/a.dat", dataFile('a', constant(40, 1000)));
+    prompt.inputs = {"10000"};
+    click("mnuItemViewPower");
+    click("mnuItemViewPlot");
+    mark(10, 13);
+    click("mnuZoom");
+    click("mnuItemViewpwrsummry");
+    const FileFacts& info = recordings.info(0);
+    EXPECT_THAT(window.screen().text().text().toStdString(),
+                HasSubstr("Selected:       Start  " + screenTime(info.start + 150) +
+                          "                Finish  " + screenTime(info.start + 195)));
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
-#include "app/TLY_View.h"
 #include "view/forms/ChartToolBar.h"
 #include "view/forms/DisplaySel.h"
 
@@ -46,9 +45,9 @@ TEST_F(WindowTest, OpeningShowsTheSummaryAndEnablesTheViews) {
     open("/d/a.dat", dataFile('a', ramp(20)));
     EXPECT_EQ(window.screen().page(), Screen::Page::text);
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    File:     /d/a.dat"));
-    EXPECT_EQ(display.viewKind, ViewKind::summary);
-    EXPECT_EQ(recordings.gDatastart, 0);
-    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_EQ(display.view(), View::summary);
+    EXPECT_EQ(display.gDatastart(), 0);
+    EXPECT_EQ(display.gdataend(), 19);
     EXPECT_TRUE(enabled("mnuView"));
     EXPECT_TRUE(enabled("mnuItemSave"));
     EXPECT_TRUE(enabled("pwrview"));
@@ -61,7 +60,7 @@ TEST_F(WindowTest, ViewPlotDrawsTheWholeFileAndEnablesWhatNeedsAPlot) {
     click("mnuItemViewPlot");
     EXPECT_EQ(window.screen().page(), Screen::Page::chart);
     EXPECT_EQ(window.screen().chart().plot().points, 20);
-    EXPECT_EQ(display.viewKind, ViewKind::dataPlot);
+    EXPECT_EQ(display.view(), View::dataPlot);
     for (const char* name : {"mnuItemScale", "mnuItemAnnot", "mnuItemOnepgPlot", "mnuItemRefresh"})
         EXPECT_TRUE(enabled(name)) << name;
     EXPECT_FALSE(enabled("mnuZoom"));
@@ -73,12 +72,12 @@ TEST_F(WindowTest, MarkedSpanIsNamedInTheTitleAndEnablesZoom) {
     mark(5, 9);
     EXPECT_THAT(window.screen().chart().plot().title, HasSubstr("Selected:   "));
     EXPECT_TRUE(enabled("mnuZoom"));
-    EXPECT_EQ(recordings.gDatastart, 0);
+    EXPECT_EQ(display.gDatastart(), 0);
     click("mnuZoom");
-    EXPECT_EQ(recordings.gDatastart, 5);
-    EXPECT_EQ(recordings.gdataend, 9);
-    EXPECT_TRUE(display.spanApplied);
-    EXPECT_TRUE(recordings.gZoomFlag);
+    EXPECT_EQ(display.gDatastart(), 5);
+    EXPECT_EQ(display.gdataend(), 9);
+    EXPECT_TRUE(display.zoomed());
+    EXPECT_TRUE(display.gZoomFlag());
     EXPECT_FALSE(enabled("mnuZoom"));
     EXPECT_EQ(window.screen().chart().plot().points, 5);
 }
@@ -89,9 +88,9 @@ TEST_F(WindowTest, ViewPlotAfterAZoomShowsEverythingAgain) {
     mark(5, 9);
     click("mnuZoom");
     click("mnuItemViewPlot");
-    EXPECT_EQ(recordings.gdataend, 19);
-    EXPECT_FALSE(recordings.gZoomFlag);
-    EXPECT_FALSE(display.spanApplied);
+    EXPECT_EQ(display.gdataend(), 19);
+    EXPECT_FALSE(display.gZoomFlag());
+    EXPECT_FALSE(display.zoomed());
 }
 
 TEST_F(WindowTest, RefreshDrawsTheZoomedRangeAgain) {
@@ -111,8 +110,8 @@ TEST_F(WindowTest, ZoomedMinMaxAvgSpanSavedAndReopenedHoldsWholeTriples) {
     click("mnuItemViewPlot");
     mark(2, 4);
     click("mnuZoom");
-    EXPECT_EQ(recordings.gDatastart, 6);
-    EXPECT_EQ(recordings.gdataend, 14);
+    EXPECT_EQ(display.gDatastart(), 6);
+    EXPECT_EQ(display.gdataend(), 14);
     prompt.files.push_back("/d/part.dat");
     click("mnuItemSave");
     click("mnuItemClose");
@@ -133,12 +132,12 @@ TEST_F(WindowTest, DragPastTheRightEdgeEndsAtTheLastReading) {
     QTest::mouseRelease(&chart, Qt::LeftButton, {}, QPoint(chart.width() + 80, from.y()));
     ASSERT_TRUE(enabled("mnuZoom"));
     click("mnuZoom");
-    EXPECT_EQ(recordings.gdataend, 19);
-    EXPECT_GT(recordings.gDatastart, 0);
+    EXPECT_EQ(display.gdataend(), 19);
+    EXPECT_GT(display.gDatastart(), 0);
     const auto& values = window.screen().chart().plot().series.at(0).values;
     EXPECT_EQ(values.back(), 119.0F);
-    EXPECT_EQ(*std::min_element(values.begin(), values.end()), float(100 + recordings.gDatastart));
-    EXPECT_EQ(display.extremeMin, (100 + recordings.gDatastart) * 10);
+    EXPECT_EQ(*std::min_element(values.begin(), values.end()), float(100 + display.gDatastart()));
+    EXPECT_EQ(window.screen().chart().plot().extremeMin, (100 + display.gDatastart()) * 10);
 }
 
 TEST_F(WindowTest, KeysMoveThePictureButNotTheRange) {
@@ -153,8 +152,8 @@ TEST_F(WindowTest, KeysMoveThePictureButNotTheRange) {
     QTest::keyClick(&chart, Qt::Key_Right);
     EXPECT_GT(chart.visiblePoints().first, left);
     QTest::keyClick(&chart, Qt::Key_Minus);
-    EXPECT_EQ(recordings.gDatastart, 0);
-    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_EQ(display.gDatastart(), 0);
+    EXPECT_EQ(display.gdataend(), 19);
 }
 
 TEST_F(WindowTest, ShortcutsStandWhereUsersLookForThem) {
@@ -211,10 +210,9 @@ TEST_F(WindowTest, ScaleOfNoNumberIsATypeMismatchAndChangesNothing) {
     click("mnuItemScale");
     EXPECT_THAT(prompt.texts(), ElementsAre("Error number 13: Type mismatch"));
     EXPECT_EQ(prompt.shown.back().title, "Tallyline");
-    EXPECT_FALSE(display.userScale);
     EXPECT_EQ(window.screen().chart().plot().yMin, usual);
     click("mnuZoom");
-    EXPECT_EQ(recordings.gDatastart, 5);
+    EXPECT_EQ(display.gDatastart(), 5);
 }
 
 TEST_F(WindowTest, OnePagePlotShowsItsLabelAndTurnsZoomOff) {
@@ -222,11 +220,11 @@ TEST_F(WindowTest, OnePagePlotShowsItsLabelAndTurnsZoomOff) {
     click("mnuItemViewPlot");
     mark(5, 9);
     click("mnuItemOnepgPlot");
-    EXPECT_TRUE(display.onePage);
+    EXPECT_TRUE(display.onePage());
     EXPECT_FALSE(enabled("mnuZoom"));
     EXPECT_EQ(window.screen().chartBar().print->text(), QStringLiteral("print on one page"));
     click("mnuItemViewPlot");
-    EXPECT_FALSE(display.onePage);
+    EXPECT_FALSE(display.onePage());
     EXPECT_NE(window.screen().chartBar().print->text(), QStringLiteral("print on one page"));
 }
 
@@ -235,12 +233,12 @@ TEST_F(WindowTest, OnePagePlotOfAZoomedSpanShowsTheWholeRecording) {
     click("mnuItemViewPlot");
     mark(5, 9);
     click("mnuZoom");
-    EXPECT_EQ(recordings.gDatastart, 5);
+    EXPECT_EQ(display.gDatastart(), 5);
     click("mnuItemOnepgPlot");
-    EXPECT_EQ(recordings.gDatastart, 0);
-    EXPECT_EQ(recordings.gdataend, 19);
+    EXPECT_EQ(display.gDatastart(), 0);
+    EXPECT_EQ(display.gdataend(), 19);
     EXPECT_EQ(window.screen().chart().plot().points, 20);
-    EXPECT_FALSE(display.spanApplied);
+    EXPECT_FALSE(display.zoomed());
 }
 
 TEST_F(WindowTest, SeveralMinMaxAvgFilesAskWhichStatistic) {
@@ -264,7 +262,7 @@ TEST_F(WindowTest, TableShowsTheChosenFile) {
     click("mnuItemViewTable");
     EXPECT_THAT(chooser.pendingCommands, ElementsAre(pending::table));
     EXPECT_EQ(recordings.ginx, 1);
-    EXPECT_EQ(display.viewKind, ViewKind::table);
+    EXPECT_EQ(display.view(), View::table);
     EXPECT_EQ(window.screen().text().heading(),
               QStringLiteral(" Time     Date                            Eight readings of average"));
     EXPECT_EQ(window.screen().displaying(), "table of b.dat");
@@ -284,11 +282,9 @@ TEST_F(WindowTest, CancelledListEndsTheCommandQuietly) {
 }
 
 TEST_F(WindowTest, CommandsWithoutAFileSayTheirOwnWords) {
-    window.dispatcher().run([this] {
-        window.view().mnuItemViewTable_Click();
-        window.view().mnuItemViewsummary_Click();
-        window.view().mnuItemViewPlot_Click();
-    });
+    // The menu has them disabled now.
+    for (const char* name : {"mnuItemViewTable", "mnuItemViewsummary", "mnuItemViewPlot"})
+        Q_EMIT item(name).triggered();
     click("mnuItemPrintSum");
     click("mnuItemForceRdg");
     click("mnuItemNotes");
@@ -298,6 +294,96 @@ TEST_F(WindowTest, CommandsWithoutAFileSayTheirOwnWords) {
                                             "Error - No file available.  Need to open a file.",
                                             "Error - No file available. Need to open a file.",
                                             "Error - No file available. Need to open a file."));
+}
+
+TEST_F(WindowTest, OpeningAnotherFileAfterAMarkZoomsToTheWholeFileAndSavesAllOfIt) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 5);
+    open("/d/b.dat", dataFile('a', ramp(20)));
+    click("mnuItemRefresh");
+    EXPECT_EQ(window.screen().chart().plot().points, 20);
+    item("mnuZoom").setEnabled(true);
+    click("mnuZoom");
+    EXPECT_EQ(window.screen().chart().plot().points, 20);
+    chooser.answers = {0};
+    prompt.files.push_back("/d/out.dat");
+    click("mnuItemSave");
+    EXPECT_THAT(files.contents["/d/out.dat"], HasSubstr(" 119 118"));
+    EXPECT_THAT(files.contents["/d/out.dat"], HasSubstr(" 101 100\x1a"));
+}
+
+TEST_F(WindowTest, RefreshKeepsTheStatisticThatWasChosen) {
+    open("/d/g.dat", dataFile('g', tenTriples()));
+    open("/d/h.dat", dataFile('g', tenTriples()));
+    whenOpen<DisplaySel>([](DisplaySel& form) {
+        form.findChild<QRadioButton*>(QStringLiteral("Option2"))->click();
+        form.accept();
+    });
+    click("mnuItemViewPlot");
+    const std::string title = window.screen().chart().plot().title;
+    const std::string first = title.substr(0, title.find("\r\n"));
+    open("/d/i.dat", dataFile('g', tenTriples()));
+    click("mnuItemRefresh");
+    EXPECT_THAT(window.screen().chart().plot().title, ::testing::StartsWith(first));
+    EXPECT_NE(first, "Data Displayed: AVERAGE");
+}
+
+TEST_F(WindowTest, WhileAPartIsShownTheButtonsSayWhichAndShowAllLeavesIt) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    auto* all = window.findChild<QAction*>(QStringLiteral("chartShowAll"));
+    auto* part = window.screen().chartBar().findChild<QLabel*>(QStringLiteral("partShown"));
+    EXPECT_FALSE(all->isVisible());
+    mark(5, 9);
+    click("mnuZoom");
+    EXPECT_TRUE(all->isVisible());
+    EXPECT_EQ(part->text(), QStringLiteral("readings 6 to 10 of 20"));
+    click("mnuItemViewTable");
+    auto* textAll = window.findChild<QAction*>(QStringLiteral("textShowAll"));
+    EXPECT_TRUE(textAll->isVisible());
+    textAll->trigger();
+    EXPECT_FALSE(display.zoomed());
+    EXPECT_FALSE(textAll->isVisible());
+    EXPECT_EQ(display.view(), View::table);
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    119 "));
+}
+
+TEST_F(WindowTest, ZoomThatAShorterFileDoesNotReachIsSaidByEveryCommand) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    open("/d/b.dat", dataFile('a', ramp(4)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    for (const char* name :
+         {"mnuItemViewTable", "mnuItemViewsummary", "mnuItemSave", "mnuItemPrintTable", "mnuItemPrintSum"}) {
+        chooser.answers = {1};
+        prompt.shown.clear();
+        click(name);
+        ASSERT_EQ(prompt.shown.size(), 1U) << name;
+        EXPECT_THAT(prompt.shown[0].text,
+                    ::testing::StartsWith("The zoomed range holds no reading of this file."))
+            << name;
+        EXPECT_EQ(window.screen().page(), Screen::Page::chart) << name;
+    }
+    recordings.ginx = 1;
+    prompt.shown.clear();
+    click("mnuItemForceRdg");
+    EXPECT_EQ(prompt.shown.size(), 1U);
+    EXPECT_FALSE(recordings.info(1).forced);
+}
+
+TEST_F(WindowTest, FilesThatStartApartOrDifferInUnitAreSaidInANotice) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    EXPECT_FALSE(window.notices().has(QStringLiteral("together")));
+    open("/d/b.dat", dataFile('a', ramp(20), 'V', false, "03-16-24 12:00"));
+    EXPECT_EQ(window.notices().text(QStringLiteral("together")).toStdString(),
+              "b.dat starts 26 h after a.dat; readings are combined by number, not by time. Different units: "
+              "a.dat is in amps, b.dat in volts.");
+    click("mnuItemViewPlot");
+    EXPECT_EQ(window.screen().chart().plot().yTitle, "AMPS, VOLTS");
+    click("mnuItemClose");
+    EXPECT_FALSE(window.notices().has(QStringLiteral("together")));
 }
 
 TEST_F(WindowTest, VoltageFileDisablesThePowerViews) {

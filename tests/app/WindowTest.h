@@ -52,7 +52,7 @@ std::string dataFile(char modeLetter, const std::vector<int>& tenths, char typeL
 class WindowTest : public ::testing::Test {
 protected:
     Recordings recordings;
-    DisplayState display;
+    Display display;
     MemorySettings settings;
     MemoryFiles files;
     FixedClock clock;

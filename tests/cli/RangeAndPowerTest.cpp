@@ -97,11 +97,42 @@ TEST_F(RangeAndPower, AVoltageThatIsHardlyVoltsIsHintedAt) {
     EXPECT_EQ(run.status, 0);
     EXPECT_THAT(run.err, HasSubstr("13800 for 13.8 KV"));
     for (const char* option : {"--volts", "--pf"}) {
-        const auto beyond = runProgram("tallyline-cli", {"power", phases[0], option, "1e999"});
+        const auto beyond = runProgram("tallyline-cli", {"power", phases[0], option, std::string(400, '9')});
         EXPECT_EQ(beyond.status, 1);
         EXPECT_EQ(beyond.err, "Overflow\n");
         EXPECT_EQ(beyond.out, "");
     }
+}
+
+TEST_F(RangeAndPower, WhatIsNoPlainNumberIsWrongUsage) {
+    for (const auto& [option, value] : {std::pair{"--pf", "abc"},
+                                        {"--pf", "0,8"},
+                                        {"--pf", ""},
+                                        {"--pf", "1e0"},
+                                        {"--pf", "nan"},
+                                        {"--pf", "0.8x"},
+                                        {"--volts", "x"},
+                                        {"--volts", "13800 V"},
+                                        {"--volts", "13,8"},
+                                        {"--volts", "1e4"},
+                                        {"--volts", ""}}) {
+        const auto run = runProgram("tallyline-cli", {"power", phases[0], option, value, "--json"});
+        EXPECT_EQ(run.status, 2) << option << " " << value;
+        EXPECT_EQ(run.out, "");
+        EXPECT_THAT(run.err, HasSubstr("Usage: tallyline-cli power"));
+    }
+}
+
+TEST_F(RangeAndPower, ACommaBeforeThreeDigitsGroupsTheVolts) {
+    EXPECT_EQ(out({"power", phases[0], "--volts", "13,800", "--summary"}),
+              out({"power", phases[0], "--volts", "13800", "--summary"}));
+}
+
+TEST_F(RangeAndPower, WithoutAStoredVoltageTheDefaultIsTold) {
+    const auto run = runProgram("tallyline-cli", {"power", phases[0], "--summary"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_THAT(run.out, HasSubstr("Line Voltage: 13800 "));
+    EXPECT_EQ(run.err, "No line voltage is stored; taken as 13800 volts\n");
 }
 
 TEST_F(RangeAndPower, TheYScaleTakesAWholeNumber) {

@@ -17,20 +17,16 @@ protected:
         slot = testing::addFile(recordings, "/d/a.dat", {10, 20, 30, 40, 50}, {.low = low});
         range(1, 3);
     }
-    void range(int first, int last) {
-        recordings.gDatastart = first;
-        recordings.gdataend = last;
-    }
-    ForceResult force(const char* text, ForceWhich which = ForceWhich::all) {
-        return forceReadings(recordings, text, which, lastValue);
+    void range(int first, int last) { wanted = {first, last}; }
+    Expected<int> force(const char* text, ForceWhich which = ForceWhich::all) {
+        return forceReadings(recordings, slot, wanted, text, which, lastValue);
     }
     void expectRefused(const char* text, const char* limit) {
-        const ForceResult result = force(text);
-        EXPECT_EQ(result.message, std::string("Error - New reading is outside the allowable range.\r\n"
-                                              "  - Must be between 0 and ") +
-                                      limit);
-        EXPECT_FALSE(result.done());
-        EXPECT_EQ(result.count, 0);
+        const auto result = force(text);
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().text, std::string("Error - New reading is outside the allowable range.\r\n"
+                                                   "  - Must be between 0 and ") +
+                                           limit);
         expectUnchanged();
     }
     void expectUnchanged() {
@@ -41,14 +37,13 @@ protected:
 
     Recordings recordings;
     int slot = -1;
+    Range wanted;
     float lastValue = 0;
 };
 
 TEST_F(Forcing, AllReadingsOfTheRange) {
     open(false);
-    const ForceResult result = force("12.5");
-    EXPECT_TRUE(result.done());
-    EXPECT_EQ(result.count, 3);
+    EXPECT_EQ(force("12.5"), 3);
     EXPECT_EQ(recordings.gReadings[0], (Readings{10, 125, 125, 125, 50}));
     EXPECT_TRUE(recordings.gInfo[0].forced);
     EXPECT_EQ(lastValue, 12.5F);
@@ -56,35 +51,35 @@ TEST_F(Forcing, AllReadingsOfTheRange) {
 
 TEST_F(Forcing, LeftmostChangesOnlyTheRangesFirst) {
     open(false);
-    EXPECT_EQ(force("7", ForceWhich::leftmost).count, 1);
+    EXPECT_EQ(force("7", ForceWhich::leftmost), 1);
     EXPECT_EQ(recordings.gReadings[0], (Readings{10, 70, 30, 40, 50}));
 }
 
 TEST_F(Forcing, RightmostChangesOnlyTheRangesLast) {
     open(false);
-    EXPECT_EQ(force("7", ForceWhich::rightmost).count, 1);
+    EXPECT_EQ(force("7", ForceWhich::rightmost), 1);
     EXPECT_EQ(recordings.gReadings[0], (Readings{10, 20, 30, 70, 50}));
 }
 
 TEST_F(Forcing, ZeroIsAllowed) {
     open(false);
-    EXPECT_TRUE(force("0").done());
+    EXPECT_TRUE(force("0").has_value());
     EXPECT_EQ(recordings.gReadings[0], (Readings{10, 0, 0, 0, 50}));
 }
 
 TEST_F(Forcing, TextThatIsNoNumberIsZero) {
     open(false);
     for (const char* text : {"", "abc", " "}) {
-        EXPECT_TRUE(force(text).done()) << text;
+        EXPECT_TRUE(force(text).has_value()) << text;
         EXPECT_EQ(recordings.gReadings[0][2], 0) << text;
     }
-    EXPECT_TRUE(force("12 amps").done());
+    EXPECT_TRUE(force("12 amps").has_value());
     EXPECT_EQ(recordings.gReadings[0][2], 120) << "the leading number";
 }
 
 TEST_F(Forcing, ExactlyTheLimitOfAHighFileIsAllowed) {
     open(false);
-    EXPECT_TRUE(force("999").done());
+    EXPECT_TRUE(force("999").has_value());
     EXPECT_EQ(recordings.gReadings[0][2], 9990);
 }
 
@@ -98,7 +93,7 @@ TEST_F(Forcing, BeyondTheLimitOfAHighFileIsRefused) {
 
 TEST_F(Forcing, ExactlyTheLimitOfALowFileIsAllowed) {
     open(true);
-    EXPECT_TRUE(force("99.9").done());
+    EXPECT_TRUE(force("99.9").has_value());
     EXPECT_EQ(recordings.gReadings[0][2], 999);
 }
 
@@ -123,17 +118,18 @@ TEST_F(Forcing, HalvesOfATenthGoToEven) {
 
 TEST_F(Forcing, WithoutACurrentSlotItIsASoftwareError) {
     open(false);
-    for (const int ginx : {Recordings::noFile, Recordings::cancelled, 3}) {
-        recordings.ginx = ginx;
-        const ForceResult result = force("5");
-        EXPECT_EQ(result.message, "Software error in ForceRdgs - 'ginx' is out of range");
+    for (const int none : {Recordings::noFile, Recordings::cancelled, 3}) {
+        slot = none;
+        const auto result = force("5");
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error().text, "Software error in ForceRdgs - 'ginx' is out of range");
         expectUnchanged();
     }
     EXPECT_EQ(lastValue, 0.0F);
 }
 
 TEST_F(Forcing, ARangeBeyondSixteenBitsOverflows) {
-    testing::addFile(recordings, "/d/long.dat", testing::constant(40000, 10));
+    slot = testing::addFile(recordings, "/d/long.dat", testing::constant(40000, 10));
     for (const ForceWhich which : {ForceWhich::all, ForceWhich::leftmost, ForceWhich::rightmost}) {
         range(0, 32768);
         try {
@@ -146,22 +142,20 @@ TEST_F(Forcing, ARangeBeyondSixteenBitsOverflows) {
     EXPECT_EQ(recordings.gReadings[0], testing::constant(40000, 10));
     EXPECT_FALSE(recordings.gInfo[0].forced);
     range(0, 32767);
-    EXPECT_EQ(force("5").count, 32768);
+    EXPECT_EQ(force("5"), 32768);
 }
 
 TEST_F(Forcing, ReadingsThatTheFileDoesNotHaveArePassedOver) {
     open(false);
     range(3, 9);
-    EXPECT_EQ(force("6").count, 2);
+    EXPECT_EQ(force("6"), 2);
     EXPECT_EQ(recordings.gReadings[0], (Readings{10, 20, 30, 60, 60}));
 }
 
 TEST_F(Forcing, ARangeWithoutReadingsForcesNothing) {
     open(false);
     range(7, 9);
-    const ForceResult result = force("5");
-    EXPECT_TRUE(result.done());
-    EXPECT_EQ(result.count, 0);
+    EXPECT_EQ(force("5"), 0);
     expectUnchanged();
 }
 
@@ -177,6 +171,36 @@ TEST_F(Forcing, UndoTakesBackTheLastForcing) {
     EXPECT_EQ(undoForcing(recordings, slot), 3);
     expectUnchanged();
     EXPECT_EQ(undoForcing(recordings, slot), 0);
+}
+
+TEST_F(Forcing, WhatIsUnsavedIsAComparisonWithWhatWasWritten) {
+    open(false);
+    EXPECT_EQ(unsavedReadings(recordings, slot), 0);
+    force("7");
+    EXPECT_EQ(unsavedReadings(recordings, slot), 3);
+    readingsSaved(recordings, slot, {0, 4});
+    EXPECT_EQ(unsavedReadings(recordings, slot), 0);
+    undoForcing(recordings, slot);
+    EXPECT_EQ(unsavedReadings(recordings, slot), 3) << "the file holds the forced ones";
+    force("7");
+    EXPECT_EQ(unsavedReadings(recordings, slot), 0) << "and now so does the window";
+}
+
+TEST_F(Forcing, AForcingThatChangesNothingIsNothingToSave) {
+    open(false);
+    range(1, 1);
+    force("2");
+    EXPECT_EQ(unsavedReadings(recordings, slot), 0);
+}
+
+TEST_F(Forcing, ReadingsSavedInPartsAreAllSavedInTheEnd) {
+    open(false);
+    force("7");
+    readingsSaved(recordings, slot, {2, 2});
+    EXPECT_EQ(unsavedReadings(recordings, slot), 2);
+    readingsSaved(recordings, slot, {0, 1});
+    readingsSaved(recordings, slot, {3, 99});
+    EXPECT_EQ(unsavedReadings(recordings, slot), 0);
 }
 
 TEST_F(Forcing, EveryForcingIsKnown) {

@@ -39,7 +39,8 @@ TEST_P(GoldenFiles, OpenedAndSavedByteForByte) {
     const SourceFiles files;
     Recordings recordings;
     ASSERT_EQ(Fileopen(recordings, files, data + GetParam() + ".dat"), OpenOutcome::opened);
-    EXPECT_EQ(tally::quoted(buildDataText(recordings)), files.read(data + GetParam() + ".saved.dat", 100000));
+    EXPECT_EQ(tally::quoted(buildDataText(recordings, 0, recordings.all(0))),
+              files.read(data + GetParam() + ".saved.dat", 100000));
 }
 
 TEST_P(GoldenFiles, SavedFilesSayTheSameReadings) {

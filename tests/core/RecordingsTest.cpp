@@ -24,8 +24,6 @@ protected:
 
 TEST_F(Model, AtStartUpNothingIsOpen) {
     EXPECT_EQ(recordings.ginx, -1);
-    EXPECT_EQ(recordings.gDatastart, 1);
-    EXPECT_EQ(recordings.powerFactor, 1.0F);
     EXPECT_EQ(recordings.openCount(), 0);
     EXPECT_EQ(recordings.freeSlot(), 0);
 }
@@ -138,11 +136,16 @@ TEST_F(Model, AReadingThatAFileDoesNotHaveIsZero) {
     EXPECT_THROW(recordings.reading(-1, 0), Fault);
 }
 
+TEST(FileName, IsTheLastPartOfAPath) {
+    EXPECT_EQ(fileNameOf("/home/x/a.dat"), "a.dat");
+    EXPECT_EQ(fileNameOf("C:\\data\\a.dat"), "a.dat");
+    EXPECT_EQ(fileNameOf("a.dat"), "a.dat");
+}
+
 TEST_F(Model, ClosingFreesEverySlot) {
     open('a');
     open('a', "/d/b.dat");
     EXPECT_EQ(recordings.freeSlot(), 2);
-    recordings.powerFactor = 0.9F;
     recordings.gNotes[0][0] = "North";
     recordings.closeAll();
     EXPECT_EQ(recordings.openCount(), 0);
@@ -150,7 +153,6 @@ TEST_F(Model, ClosingFreesEverySlot) {
     EXPECT_EQ(recordings.ginx, -1);
     EXPECT_EQ(recordings.gNotes[0][0], "");
     EXPECT_TRUE(recordings.gReadings[0].empty());
-    EXPECT_EQ(recordings.powerFactor, 0.9F);
 }
 
 } // namespace

@@ -22,19 +22,22 @@ protected:
         files.contents[path] = bytes;
         ASSERT_EQ(Fileopen(recordings, files, path), OpenOutcome::opened);
     }
-    void range(int first, int last) {
-        recordings.gDatastart = first;
-        recordings.gdataend = last;
+    // What is saved from now on; the whole file before it is called.
+    void range(int first, int last) { wanted = Range{first, last}; }
+    std::string built() {
+        const int slot = recordings.ginx;
+        return buildDataText(recordings, slot, wanted ? *wanted : recordings.all(slot));
     }
     // What opening a saved text gives.
     Recordings reopened() {
         Recordings fresh;
-        files.contents["/d/saved.dat"] = tally::quoted(buildDataText(recordings));
+        files.contents["/d/saved.dat"] = tally::quoted(built());
         EXPECT_EQ(Fileopen(fresh, files, "/d/saved.dat"), OpenOutcome::opened);
         return fresh;
     }
 
     Recordings recordings;
+    std::optional<Range> wanted;
     testing::MemoryFiles files;
 };
 
@@ -43,20 +46,18 @@ TEST_F(Saving, WritesTheBytesOfAHighFile) {
         {'a', "03-15-99 10:30"},
         testing::fieldLines({"12", "13", "14", "15", "16", "17", "18", "19", "20", "21", "1234", "7"}, 4)));
     // The newest reading is two intervals before the header time.
-    EXPECT_EQ(buildDataText(recordings), "\r\n\n\n" + headerLine({'a', "03-15-99 10:00"}) +
-                                             "\r  12  13  14  15  16  17  18  19  20  21\n\r1234   7\x1a");
+    EXPECT_EQ(built(), "\r\n\n\n" + headerLine({'a', "03-15-99 10:00"}) +
+                           "\r  12  13  14  15  16  17  18  19  20  21\n\r1234   7\x1a");
 }
 
 TEST_F(Saving, WritesTheBytesOfALowFile) {
     open(dataFile({'b', "03-15-99 10:30"}, " 12.5100.0  0.3"));
-    EXPECT_EQ(buildDataText(recordings),
-              "\r\n\n\n" + headerLine({'b', "03-15-99 10:20"}) + "\r 12.5100.0  0.3\x1a");
+    EXPECT_EQ(built(), "\r\n\n\n" + headerLine({'b', "03-15-99 10:20"}) + "\r 12.5100.0  0.3\x1a");
 }
 
 TEST_F(Saving, WritesTheTokenOfAFormTFile) {
     open(dataFile({'a', "03-15-99 10:30"}, "T:  12  13"));
-    EXPECT_EQ(buildDataText(recordings),
-              "\r\n\n\n" + headerLine({'a', "03-15-99 10:15"}) + "\rT:   12  13\x1a");
+    EXPECT_EQ(built(), "\r\n\n\n" + headerLine({'a', "03-15-99 10:15"}) + "\rT:   12  13\x1a");
 }
 
 TEST_F(Saving, OnDiskTheTextIsOneQuotedItem) {
@@ -65,7 +66,7 @@ TEST_F(Saving, OnDiskTheTextIsOneQuotedItem) {
 
 TEST_F(Saving, TenValuesEndNoLineOfTheirOwn) {
     open(dataFile({}, "   1   2   3   4   5   6   7   8   9  10"));
-    const std::string text = buildDataText(recordings);
+    const std::string text = built();
     EXPECT_TRUE(text.ends_with("  10\x1a"));
     EXPECT_EQ(text.find("\n\r"), std::string::npos);
 }
@@ -74,7 +75,7 @@ TEST_F(Saving, ARangeWritesOnlyItsReadingsAndTheTimeOfItsNewest) {
     // Oldest first 40 30 20 10; reading 0 is at 09:15, reading 2 at 09:45.
     open(dataFile({'a', "03-15-99 10:30"}, "  10  20  30  40"));
     range(1, 2);
-    EXPECT_EQ(buildDataText(recordings), "\r\n\n\n" + headerLine({'a', "03-15-99 09:45"}) + "\r  20  30\x1a");
+    EXPECT_EQ(built(), "\r\n\n\n" + headerLine({'a', "03-15-99 09:45"}) + "\r  20  30\x1a");
 }
 
 TEST_F(Saving, ASavedFileReadBackYieldsTheSameReadings) {
@@ -96,7 +97,7 @@ TEST_F(Saving, AHighFileIsRoundedToWholeUnits) {
 TEST_F(Saving, FieldsAreThoseOfThePatterns) {
     for (const bool low : {false, true}) {
         open(dataFile({}, low ? " 1.0" : "   1"));
-        const std::string empty = buildDataText(recordings);
+        const std::string empty = built();
         for (int tenths : {0, 4, 5, 14, 15, 99, 100, 9994, 9995, 32767, -4, -5, -15, -32768}) {
             recordings.gReadings[0] = {static_cast<std::int16_t>(tenths)};
             std::string field = Format(tenths / 10.0, low ? "##0.0" : "###0");
@@ -104,7 +105,7 @@ TEST_F(Saving, FieldsAreThoseOfThePatterns) {
             if (field.size() < width)
                 field.insert(0, width - field.size(), ' ');
             const std::string expected = empty.substr(0, empty.size() - width - 1) + field + "\x1a";
-            EXPECT_EQ(buildDataText(recordings), expected);
+            EXPECT_EQ(built(), expected);
         }
         recordings.closeAll();
     }
@@ -162,14 +163,14 @@ TEST_F(Saving, ARangeBeyondTheLastReadingIsCutToIt) {
 }
 
 TEST_F(Saving, WithoutAFileOrReadingsItIsAFault) {
-    EXPECT_THROW(buildDataText(recordings), Fault);
+    EXPECT_THROW(built(), Fault);
     open(dataFile({}, "  10  20  30"));
     range(2, 1);
-    EXPECT_THROW(buildDataText(recordings), Fault);
+    EXPECT_THROW(built(), Fault);
     range(3, 500);
-    EXPECT_THROW(buildDataText(recordings), Fault);
+    EXPECT_THROW(built(), Fault);
     recordings.gText = "kept";
-    EXPECT_THROW(buildText(recordings), Fault);
+    EXPECT_THROW(buildText(recordings, 0, *wanted), Fault);
     EXPECT_EQ(recordings.gText, "kept");
 }
 
@@ -181,8 +182,8 @@ TEST_F(Saving, ForcedReadingsAreWrittenLikeOthers) {
 
 TEST_F(Saving, TheTextIsLeftInGText) {
     open(dataFile({}, "  10  20  30"));
-    buildText(recordings);
-    EXPECT_EQ(recordings.gText, buildDataText(recordings));
+    buildText(recordings, 0, recordings.all(0));
+    EXPECT_EQ(recordings.gText, built());
     EXPECT_EQ(recordings.gDateX, 2);
 }
 
@@ -192,7 +193,7 @@ TEST_F(Saving, TheHeaderOfTheOlderLayoutIsWrittenBackRepaired) {
     open(older + "\r  12  13\x1a");
     std::string expected = older;
     expected.replace(30, 14, "03-15-99 10:00");
-    EXPECT_EQ(buildDataText(recordings), "\r\n\n\n" + expected + "\r  12  13\x1a");
+    EXPECT_EQ(built(), "\r\n\n\n" + expected + "\r  12  13\x1a");
 }
 
 } // namespace

@@ -16,8 +16,11 @@ using testing::ramp;
 
 class CsvExport : public testing::ExportTest {
 protected:
-    std::string exported() {
-        EXPECT_EQ(CsvData(desk), ExportOutcome::saved);
+    Expected<Exported> write(int slot = 0) {
+        return CsvData(recordings, slot, recordings.all(std::max(slot, 0)), place);
+    }
+    std::string exported(int slot = 0) {
+        EXPECT_TRUE(write(slot));
         return files.contents.at("/out/Lotusint.csv");
     }
 };
@@ -30,8 +33,8 @@ TEST_F(CsvExport, ALowFileIsWrittenWithOneDecimal) {
                               "    000.5,    001.0,  \r\n"
                               " 16:05  Mar 15, 24,  000.7,  \r\n";
     EXPECT_EQ(exported(), lines + "\r\n");
-    EXPECT_EQ(recordings.gTable, lines);
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"/out/Lotusint.csv saved OK "});
+    EXPECT_EQ(write()->path, "/out/Lotusint.csv");
+    EXPECT_EQ(write()->text, "/out/Lotusint.csv saved OK ");
 }
 
 TEST_F(CsvExport, AHighFileIsWrittenInWholeNumbers) {
@@ -73,49 +76,27 @@ TEST_F(CsvExport, ModeDIsAccepted) {
 TEST_F(CsvExport, EveryOtherModeIsRefusedAndNothingWritten) {
     for (const char letter : std::string("bcefghijkl")) {
         recordings.closeAll();
-        recordings.gTable = "a table";
         addFile(recordings, "/data/a.dat", ramp(9), {.letter = letter});
-        EXPECT_EQ(CsvData(desk), ExportOutcome::wrongMode);
-        EXPECT_EQ(prompt.shown.back().text, "only 15 min, avg mode allowed");
+        const auto refused = write();
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.error().message(), "only 15 min, avg mode allowed");
         EXPECT_TRUE(files.contents.empty());
-        EXPECT_EQ(recordings.gTable, "");
     }
 }
 
-TEST_F(CsvExport, TheTableTextIsReplacedNotAddedTo) {
-    recordings.gTable = "an earlier table";
-    addFile(recordings, "/data/a.dat", ramp(1));
-    exported();
-    EXPECT_EQ(recordings.gTable, " 14:00  Mar 15, 24,  000.0,  \r\n");
-}
-
-TEST_F(CsvExport, TheSelectionGivesReadingsAndTimes) {
+TEST_F(CsvExport, ARangeGivesReadingsAndTimes) {
     addFile(recordings, "/data/a.dat", ramp(40));
-    ASSERT_TRUE(applyRange(recordings, state, 3, 11));
-    EXPECT_EQ(exported(), " 14:45  Mar 15, 24,  000.3,    000.4,    000.5,    000.6,    000.7,    000.8,    "
-                          "000.9,    001.0,  \r\n"
-                          " 16:45  Mar 15, 24,  001.1,  \r\n\r\n");
+    ASSERT_TRUE(CsvData(recordings, 0, {3, 11}, place));
+    EXPECT_EQ(files.contents["/out/Lotusint.csv"],
+              " 14:45  Mar 15, 24,  000.3,    000.4,    000.5,    000.6,    000.7,    000.8,    "
+              "000.9,    001.0,  \r\n"
+              " 16:45  Mar 15, 24,  001.1,  \r\n\r\n");
 }
 
-TEST_F(CsvExport, AMarkedSpanThatIsNotAppliedIsNoSelection) {
-    addFile(recordings, "/data/a.dat", ramp(3));
-    ASSERT_TRUE(applyRange(recordings, state, 1, 1));
-    state.spanApplied = false;
-    state.spanSelected = true;
-    EXPECT_EQ(exported(), " 14:00  Mar 15, 24,  000.0,    000.1,    000.2,  \r\n\r\n");
-}
-
-TEST_F(CsvExport, OnlyTheCurrentFileIsWritten) {
+TEST_F(CsvExport, OnlyTheFileOfTheSlotIsWritten) {
     addFile(recordings, "/data/a.dat", ramp(9));
     addFile(recordings, "/data/b.dat", {50}, {.start = fivePastTwo});
-    EXPECT_EQ(exported(), " 14:05  Mar 15, 24,  005.0,  \r\n\r\n");
-}
-
-TEST_F(CsvExport, ASelectionBehindTheEndOfAShorterFileHasNoLines) {
-    addFile(recordings, "/data/a.dat", ramp(40));
-    addFile(recordings, "/data/b.dat", ramp(5));
-    ASSERT_TRUE(applyRange(recordings, state, 20, 30));
-    EXPECT_EQ(exported(), "\r\n");
+    EXPECT_EQ(exported(1), " 14:05  Mar 15, 24,  005.0,  \r\n\r\n");
 }
 
 TEST_F(CsvExport, DaysRunOverTheEndsOfMonthYearAndLeapFebruary) {
@@ -133,45 +114,39 @@ TEST_F(CsvExport, DaysRunOverTheEndsOfMonthYearAndLeapFebruary) {
 }
 
 TEST_F(CsvExport, WithoutADefaultDirectoryItGoesBesideTheDataFile) {
-    desk.directory.clear();
+    place.directory.clear();
     addFile(recordings, "/data/deep/a.dat", ramp(1));
-    CsvData(desk);
+    EXPECT_EQ(write()->text, "/data/deep/Lotusint.csv saved OK ");
     EXPECT_TRUE(files.contents.contains("/data/deep/Lotusint.csv"));
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"/data/deep/Lotusint.csv saved OK "});
 }
 
 TEST_F(CsvExport, WithNoFileOpenItSaysSo) {
-    recordings.ginx = Recordings::noFile;
-    EXPECT_EQ(CsvData(desk), ExportOutcome::noFile);
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Error - No file available. Need to open a file."});
+    for (const int slot : {Recordings::noFile, Recordings::cancelled, 0}) {
+        const auto refused = write(slot);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.error().text, "Error - No file available. Need to open a file.");
+    }
     EXPECT_TRUE(files.contents.empty());
 }
 
-TEST_F(CsvExport, WhenTheFileCannotBeWrittenTheOldOneAndTheTableStay) {
+TEST_F(CsvExport, WhenTheFileCannotBeWrittenTheOldOneStays) {
     addFile(recordings, "/data/a.dat", ramp(9));
     files.contents["/out/Lotusint.csv"] = "old";
-    recordings.gTable = "a table";
     for (const Fault& fault : {fault::diskFull(), fault::permissionDenied(), fault::pathNotFound()}) {
         files.failWrite = fault;
-        EXPECT_THROW(CsvData(desk), Fault);
+        EXPECT_THROW(write(), Fault);
     }
     EXPECT_EQ(files.contents["/out/Lotusint.csv"], "old");
-    EXPECT_EQ(recordings.gTable, "a table");
-    EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(CsvExport, AnOpenDataFileIsNeverReplaced) {
-    addFile(recordings, "/out/Lotusint.csv", ramp(9));
-    addFile(recordings, "/out/b.dat", ramp(9));
-    EXPECT_EQ(CsvData(desk), ExportOutcome::ownFile);
-    EXPECT_TRUE(files.contents.empty());
-    EXPECT_EQ(prompt.texts(),
-              std::vector<std::string>{"The export would replace an open data file. Nothing was written."});
-}
-
-TEST_F(CsvExport, AnOpenDataFileIsNotReplacedHoweverItsPathIsSpelled) {
+TEST_F(CsvExport, AnOpenDataFileIsNeverReplacedHoweverItsPathIsSpelled) {
     addFile(recordings, "/out/../out/./Lotusint.csv", ramp(9));
-    EXPECT_EQ(CsvData(desk), ExportOutcome::ownFile);
+    addFile(recordings, "/out/b.dat", ramp(9));
+    for (const int slot : {0, 1}) {
+        const auto refused = write(slot);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.error().text, "The export would replace an open data file. Nothing was written.");
+    }
     EXPECT_TRUE(files.contents.empty());
 }
 
@@ -196,8 +171,7 @@ TEST_F(CsvExport, RandomRecordingsComeOutAsThePatternsSay) {
         recordings.closeAll();
         addFile(recordings, "/data/a.dat", tenths,
                 {.low = round % 2 == 0, .start = fivePastTwo + round * 100});
-        exported();
-        ASSERT_EQ(recordings.gTable, plainCsv(recordings)) << "round " << round;
+        ASSERT_EQ(exported(), plainCsv(recordings) + "\r\n") << "round " << round;
     }
 }
 

@@ -1,26 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "export/ExportDesk.h"
-#include "support/FixedClock.h"
+#include "export/ExportPlace.h"
 #include "support/MemoryFiles.h"
-#include "support/QueuedPrompt.h"
 #include "support/SampleFile.h"
-#include "view/Span.h"
 
 #include <gtest/gtest.h>
 
 namespace tally::testing {
 
-// A desk with nothing open; exports go to /out.
+// Nothing is open; exports go to /out.
 class ExportTest : public ::testing::Test {
 protected:
     Recordings recordings;
-    DisplayState state;
     MemoryFiles files;
-    QueuedPrompt prompt;
-    FixedClock clock;
-    ExportDesk desk{recordings, state, files, prompt, "/out"};
+    ExportPlace place{files, "/out"};
 
     static std::string blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
 };

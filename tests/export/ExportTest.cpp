@@ -7,6 +7,7 @@
 #include "view/Power.h"
 #include "view/Print.h"
 #include "view/Printpwr.h"
+#include "view/Range.h"
 
 namespace tally {
 namespace {
@@ -21,17 +22,19 @@ constexpr const char* minMaxAvgHeader = "yy mm dd hh mm Avg Max Min";
 
 class TextExport : public testing::ExportTest {
 protected:
-    // Opens /data/x.dat, shows its table and gives the heading.
-    std::string show(std::vector<std::int16_t> tenths, const testing::Sample& sample = {}) {
+    Table table;
+
+    // Opens /data/x.dat and lays out its table.
+    void show(std::vector<std::int16_t> tenths, const testing::Sample& sample = {}) {
         recordings.closeAll();
         addFile(recordings, "/data/x.dat", std::move(tenths), sample);
-        state.viewKind = ViewKind::table;
-        return Print(recordings, state);
+        table = Print(recordings, 0, wholeFile(recordings, 0));
     }
+    Expected<Exported> write(bool onePerLine) { return Export(recordings, 0, table, onePerLine, files); }
     std::string exported() const { return files.contents.at("/data/x.prn"); }
     // The lines of the one-per-line form without the empty one that ends the file.
     std::vector<std::string> perLine() {
-        EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::saved);
+        EXPECT_TRUE(write(true));
         auto lines = linesOf(exported());
         EXPECT_FALSE(lines.empty() || !lines.back().empty());
         lines.pop_back();
@@ -42,8 +45,8 @@ protected:
 using Lines = std::vector<std::string>;
 
 TEST_F(TextExport, TheTableFormIsTitleAndTableAsTheyStand) {
-    const std::string title = show(ramp(9));
-    EXPECT_EQ(MnuItemexpdatacsv_Click(desk, title), ExportOutcome::saved);
+    show(ramp(9));
+    EXPECT_TRUE(write(false));
     EXPECT_EQ(exported(), " Time     Date                            Eight readings of average\r\n"
                           "14:00  Mar 15, 24        000.0    000.1    000.2    000.3    000.4    000.5    "
                           "000.6    000.7  \r\n"
@@ -53,17 +56,18 @@ TEST_F(TextExport, TheTableFormIsTitleAndTableAsTheyStand) {
 
 TEST_F(TextExport, TheMessageKeepsTheBlankThatTheFileNameDrops) {
     show(ramp(1));
-    mnuItemexpdata1perLine_Click(desk, "heading");
-    EXPECT_EQ(prompt.texts(), Lines{"/data/x.prn saved OK"});
+    const auto done = write(true);
+    ASSERT_TRUE(done);
+    EXPECT_EQ(done->path, "/data/x.prn");
+    EXPECT_EQ(done->text, "/data/x.prn saved OK");
     EXPECT_EQ(files.contents.size(), 1U);
     EXPECT_TRUE(files.contents.contains("/data/x.prn"));
 }
 
 TEST_F(TextExport, TheWorkedExampleOfTwoValues) {
-    recordings.gTable = "14:00  Mar 15, 24       101  102  \r\n";
+    table.text = "14:00  Mar 15, 24       101  102  \r\n";
     addFile(recordings, "/data/x.dat", ramp(2));
-    state.viewKind = ViewKind::table;
-    EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::saved);
+    EXPECT_TRUE(write(true));
     EXPECT_EQ(exported(), "yy mm dd hh mm Reading\r\n"
                           "24 03 15 14 00 101\r\n"
                           "24 03 15 14 15 102\r\n"
@@ -157,8 +161,7 @@ TEST_F(TextExport, SixFieldsOfAMinMaxAvgLineAreTwoLinesOfThreeValues) {
 
 TEST_F(TextExport, ATripleThatIsCutShortMakesAShortenedLine) {
     addFile(recordings, "/data/x.dat", ramp(3), {.letter = 'g'});
-    state.viewKind = ViewKind::table;
-    recordings.gTable = "14:00  Mar 15, 24       1  2  3  4  5  \r\n";
+    table.text = "14:00  Mar 15, 24       1  2  3  4  5  \r\n";
     EXPECT_EQ(perLine(), (Lines{minMaxAvgHeader, "24 03 15 14 00 1 2 3", "24 03 15 14 15 4 5"}));
 }
 
@@ -192,18 +195,16 @@ TEST_F(TextExport, LinesAreEndedByCarriageReturnsAndLineFeedsDoNotCount) {
 
 TEST_F(TextExport, AnEmptyTableGivesTheHeaderAlone) {
     addFile(recordings, "/data/x.dat", ramp(1));
-    state.viewKind = ViewKind::table;
     EXPECT_EQ(perLine(), Lines{readingHeader});
 }
 
 TEST_F(TextExport, AShortTableLineIsASoftwareErrorAndLeavesWhatWasConverted) {
     addFile(recordings, "/data/x.dat", ramp(1));
-    state.viewKind = ViewKind::table;
-    recordings.gTable = "14:00  Mar 15, 24       1  \r\n14:00  Mar 15, 2\r\n14:15  Mar 15, 24       2  \r\n";
-    EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::tableError);
-    EXPECT_EQ(prompt.texts(), Lines{"Software Error #2 in Export.bas. Line in gTable$ too short."});
+    table.text = "14:00  Mar 15, 24       1  \r\n14:00  Mar 15, 2\r\n14:15  Mar 15, 24       2  \r\n";
+    const auto refused = write(true);
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error().message(), "Software Error #2 in Export.bas. Line in gTable$ too short.");
     EXPECT_EQ(exported(), "yy mm dd hh mm Reading\r\n24 03 15 14 00 1\r\n\r\n");
-    EXPECT_EQ(state.viewKind, ViewKind::table);
 }
 
 TEST_F(TextExport, ALineOfEighteenCharactersIsLongEnoughOneOfSeventeenIsNot) {
@@ -214,47 +215,15 @@ TEST_F(TextExport, ALineOfEighteenCharactersIsLongEnoughOneOfSeventeenIsNot) {
 
 TEST_F(TextExport, ALineThatBeginsWithNoTimeChangesNothing) {
     addFile(recordings, "/data/x.dat", ramp(1));
-    state.viewKind = ViewKind::table;
-    recordings.gTable = "no time at all, but long enough\r\n";
-    EXPECT_THROW(mnuItemexpdata1perLine_Click(desk, "heading"), Fault);
+    table.text = "no time at all, but long enough\r\n";
+    EXPECT_THROW(write(true), Fault);
     EXPECT_TRUE(files.contents.empty());
-    EXPECT_EQ(state.viewKind, ViewKind::table);
-}
-
-TEST_F(TextExport, AfterAnExportASecondOneDoesNothing) {
-    show(ramp(3));
-    perLine();
-    EXPECT_EQ(state.viewKind, ViewKind::none);
-    files.contents.clear();
-    prompt.shown.clear();
-    EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::noView);
-    EXPECT_EQ(MnuItemexpdatacsv_Click(desk, "heading"), ExportOutcome::noView);
-    EXPECT_TRUE(files.contents.empty());
-    EXPECT_TRUE(prompt.shown.empty());
-}
-
-TEST_F(TextExport, TheViewKindChoosesTheExport) {
-    addFile(recordings, "/data/x.dat", ramp(3));
-    for (const ViewKind kind :
-         {ViewKind::none, ViewKind::summary, ViewKind::powerPlot, ViewKind::powerSummary}) {
-        state.viewKind = kind;
-        EXPECT_EQ(MnuItemexpdatacsv_Click(desk, "heading"), ExportOutcome::noView);
-        EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::noView);
-    }
-    EXPECT_TRUE(files.contents.empty());
-    state.viewKind = ViewKind::dataPlot;
-    EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::noView);
-    EXPECT_EQ(MnuItemexpdatacsv_Click(desk, "heading"), ExportOutcome::saved);
-    EXPECT_TRUE(files.contents.contains("/out/Lotusint.csv"));
-    EXPECT_EQ(state.viewKind, ViewKind::dataPlot);
 }
 
 TEST_F(TextExport, TheRangeOfTheTableIsWhatIsWritten) {
     recordings.closeAll();
     addFile(recordings, "/data/x.dat", ramp(40));
-    ASSERT_TRUE(applyRange(recordings, state, 10, 12));
-    state.viewKind = ViewKind::table;
-    Print(recordings, state);
+    table = Print(recordings, 0, {10, 12});
     EXPECT_EQ(perLine(), (Lines{readingHeader, "24 03 15 16 30 001.0", "24 03 15 16 45 001.1",
                                 "24 03 15 17 00 001.2", ""}));
 }
@@ -274,43 +243,38 @@ TEST_F(TextExport, DaysRunOverTheEndsOfMonthYearAndLeapFebruary) {
 
 TEST_F(TextExport, ThePowerTableIsWrittenWhenItIsTheTableShown) {
     addFile(recordings, "/data/x.dat", constant(2, 1000));
-    Plot plot;
-    ASSERT_EQ(viewPower(recordings, state, 10000, clock, plot), PowerRefusal::none);
-    Printpwr(recordings, state);
-    state.viewKind = ViewKind::table;
+    table = Printpwr(recordings, powerOf(recordings, {0, 1}, {"10000", 1.0F}).value());
     EXPECT_EQ(perLine(), (Lines{readingHeader, "24 03 15 14 00 1000.0", "24 03 15 14 15 1000.0", ""}));
 }
 
 TEST_F(TextExport, WithNoFileOpenItSaysSo) {
-    state.viewKind = ViewKind::table;
-    recordings.ginx = Recordings::noFile;
-    EXPECT_EQ(Export(desk, "heading", false), ExportOutcome::noFile);
-    EXPECT_EQ(prompt.texts(), Lines{"Error - No file available. Need to open a file."});
+    for (const int slot : {Recordings::noFile, Recordings::cancelled, 0}) {
+        const auto refused = Export(recordings, slot, table, false, files);
+        ASSERT_FALSE(refused);
+        EXPECT_EQ(refused.error().text, "Error - No file available. Need to open a file.");
+    }
 }
 
-TEST_F(TextExport, WhenTheFileCannotBeWrittenTheOldOneAndTheViewKindStay) {
+TEST_F(TextExport, WhenTheFileCannotBeWrittenTheOldOneStays) {
     show(ramp(3));
     files.contents["/data/x.prn"] = "old";
     for (const Fault& fault : {fault::diskFull(), fault::permissionDenied(), fault::pathNotFound()}) {
         files.failWrite = fault;
-        EXPECT_THROW(mnuItemexpdata1perLine_Click(desk, "heading"), Fault);
-        EXPECT_THROW(MnuItemexpdatacsv_Click(desk, "heading"), Fault);
+        EXPECT_THROW(write(true), Fault);
+        EXPECT_THROW(write(false), Fault);
     }
     EXPECT_EQ(exported(), "old");
-    EXPECT_EQ(state.viewKind, ViewKind::table);
-    EXPECT_TRUE(prompt.shown.empty());
 }
 
 TEST_F(TextExport, ADataFileNamedLikeItsExportIsNotReplaced) {
     addFile(recordings, "/data/x.prn", ramp(3));
-    state.viewKind = ViewKind::table;
-    EXPECT_EQ(mnuItemexpdata1perLine_Click(desk, "heading"), ExportOutcome::ownFile);
+    EXPECT_FALSE(write(true));
     EXPECT_TRUE(files.contents.empty());
 }
 
 TEST_F(TextExport, AVeryShortPathStillGetsItsExtension) {
     addFile(recordings, "ab", ramp(1));
-    Export(desk, "heading", false);
+    EXPECT_TRUE(write(false));
     EXPECT_TRUE(files.contents.contains("prn"));
 }
 

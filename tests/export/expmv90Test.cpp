@@ -2,7 +2,7 @@
 #include "export/expmv90.h"
 
 #include "ExportFixture.h"
-#include "export/ReportPower.h"
+#include "core/Fault.h"
 #include "view/Power.h"
 
 namespace tally {
@@ -13,22 +13,27 @@ using testing::constant;
 using testing::linesOf;
 using testing::ramp;
 
-constexpr double tenKilovolts = 10000;
 const ReadingTime midnight = toReadingTime({2024, 3, 15, 0, 0});
 
 class MeteringReport : public testing::ExportTest {
 protected:
-    std::string recorderId;
-    int made = 0;
+    PowerBasis basis{"10000", 1.0F};
 
-    MakePower makePower = [this] {
-        ++made;
-        return powerForReport(recordings, state, tenKilovolts, clock) == PowerRefusal::none;
-    };
-
-    ExportOutcome report(const std::optional<std::string>& id = "ABC") {
-        prompt.inputs.push_back(id);
-        return expmv90(desk, recorderId, makePower);
+    Expected<MeteringPlan> plan(const Range& range) {
+        return planMetering(recordings, range, basis.factor, place);
+    }
+    Expected<Exported> report(const std::string& id, const Range& range) {
+        const auto planned = plan(range);
+        if (!planned)
+            return tl::make_unexpected(planned.error());
+        return expmv90(*planned, powerOf(recordings, range, basis).value(), id, files);
+    }
+    // Of the whole first file.
+    Expected<Exported> report(const std::string& id = "ABC") { return report(id, recordings.all(0)); }
+    // Why a report of the whole file cannot be made.
+    std::string refused() {
+        const auto planned = plan(recordings.all(0));
+        return planned ? "" : planned.error().text;
     }
     // The data lines, without the header, the line end that closes the file and the blanks at the end.
     std::vector<std::string> records() {
@@ -51,7 +56,7 @@ protected:
 TEST_F(MeteringReport, ADayGivesTwentyFourRecordsInTimeOrder) {
     // Reading i is 0.1 i A, so at 10 kV i kilowatts; hour h has the mean 4 h + 1.5.
     addFile(recordings, "/data/x.dat", ramp(96), {.start = midnight});
-    EXPECT_EQ(report(), ExportOutcome::saved);
+    EXPECT_TRUE(report());
     const auto lines = records();
     ASSERT_EQ(lines.size(), 24U);
     EXPECT_EQ(lines[0],
@@ -60,13 +65,13 @@ TEST_F(MeteringReport, ADayGivesTwentyFourRecordsInTimeOrder) {
               "\"ABC           \",240315,1300,60,\"   KW\",        50,         0,         50,         0");
     EXPECT_EQ(lines[23],
               "\"ABC           \",240315,2400,60,\"   KW\",        94,         0,         94,         0");
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"/out/Lotusint.prn  saved OK  "});
-    EXPECT_EQ(state.viewKind, ViewKind::none);
+    EXPECT_EQ(report()->path, "/out/Lotusint.prn");
+    EXPECT_EQ(report()->text, "/out/Lotusint.prn  saved OK  ");
 }
 
 TEST_F(MeteringReport, ARecordingFromSevenPastTwoBeginsWithTheFirstHourOfTheNextDay) {
     addFile(recordings, "/data/x.dat", ramp(100), {.start = toReadingTime({2024, 3, 15, 14, 7})});
-    EXPECT_EQ(report(), ExportOutcome::saved);
+    EXPECT_TRUE(report());
     const auto lines = records();
     // 40 readings are skipped; of the 60 that are left each four are an hour.
     ASSERT_EQ(lines.size(), 15U);
@@ -77,7 +82,7 @@ TEST_F(MeteringReport, ARecordingFromSevenPastTwoBeginsWithTheFirstHourOfTheNext
 
 TEST_F(MeteringReport, TheHourFromTwentyThreeIsTwentyFourHundredOfThatDay) {
     addFile(recordings, "/data/x.dat", constant(200, 10), {.start = midnight});
-    report();
+    EXPECT_TRUE(report());
     const auto lines = records();
     EXPECT_EQ(dateAndHour(lines[22]), "240315,2300");
     EXPECT_EQ(dateAndHour(lines[23]), "240315,2400");
@@ -88,9 +93,8 @@ TEST_F(MeteringReport, TheHourFromTwentyThreeIsTwentyFourHundredOfThatDay) {
 TEST_F(MeteringReport, EveryHourComesOnceOverTheEndsOfYearAndLeapFebruary) {
     for (const CivilTime& start : {CivilTime{2023, 12, 30, 0, 0}, CivilTime{2024, 2, 27, 0, 7}}) {
         recordings.closeAll();
-        state = {};
         addFile(recordings, "/data/x.dat", constant(96 * 4, 10), {.start = toReadingTime(start)});
-        report();
+        EXPECT_TRUE(report());
         const auto lines = records();
         ASSERT_EQ(lines.size(), 96U);
         ReadingTime end = toReadingTime({start.year, start.month, start.day, 1, 0});
@@ -105,83 +109,66 @@ TEST_F(MeteringReport, EveryHourComesOnceOverTheEndsOfYearAndLeapFebruary) {
 
 TEST_F(MeteringReport, ReadingsLeftOverAreNotReported) {
     addFile(recordings, "/data/x.dat", constant(7, 10), {.start = midnight});
-    report();
+    EXPECT_TRUE(report());
     EXPECT_EQ(records().size(), 1U);
 }
 
 TEST_F(MeteringReport, PowerFactorOfEightTenths) {
-    recordings.powerFactor = 0.8F;
+    basis.factor = 0.8F;
     // 12.5 A at 10 kV and 0.8 are 100 kW.
     addFile(recordings, "/data/x.dat", constant(4, 125), {.start = midnight});
-    report();
+    EXPECT_TRUE(report());
     EXPECT_EQ(records().at(0),
               "\"ABC           \",240315,0100,60,\"   KW\",       100,        75,         125,         0");
 }
 
 TEST_F(MeteringReport, TheQuestionNamesThePowerFactorAndOffersTheLastIdentifier) {
-    addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    report("Feeder 12");
-    recordings.powerFactor = 0.95F;
-    report("Feeder 13");
-    ASSERT_EQ(prompt.asked.size(), 2U);
-    EXPECT_EQ(prompt.asked[0].text, "Enter Recorder ID\rNo More Than 14 Characters\r\rPower Factor In Use 1; "
-                                    "Use OPTIONS to Alter \r");
-    EXPECT_EQ(prompt.asked[0].preset, "");
-    EXPECT_EQ(prompt.asked[1].text, "Enter Recorder ID\rNo More Than 14 Characters\r\rPower Factor In Use "
-                                    "0.95; Use OPTIONS to Alter \r");
-    EXPECT_EQ(prompt.asked[1].preset, "Feeder 12");
-    EXPECT_EQ(recorderId, "Feeder 13");
+    const InputQuestion first = recorderQuestion(1.0F, "");
+    EXPECT_EQ(first.text, "Enter Recorder ID\rNo More Than 14 Characters\r\rPower Factor In Use 1; "
+                          "Use OPTIONS to Alter \r");
+    EXPECT_EQ(first.preset, "");
+    const InputQuestion second = recorderQuestion(0.95F, "Feeder 12");
+    EXPECT_EQ(second.text, "Enter Recorder ID\rNo More Than 14 Characters\r\rPower Factor In Use "
+                           "0.95; Use OPTIONS to Alter \r");
+    EXPECT_EQ(second.preset, "Feeder 12");
 }
 
 TEST_F(MeteringReport, AnIdentifierOfTwentyCharactersIsCutToFourteen) {
     addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    EXPECT_EQ(report("12345678901234567890"), ExportOutcome::saved);
+    EXPECT_TRUE(report("12345678901234567890"));
     EXPECT_EQ(records().at(0).substr(0, 17), "\"12345678901234\",");
-    EXPECT_EQ(recorderId, "12345678901234");
+    EXPECT_EQ(keptIdentifier("12345678901234567890"), "12345678901234");
+    EXPECT_EQ(keptIdentifier("Feeder 12"), "Feeder 12");
 }
 
 TEST_F(MeteringReport, AnEmptyIdentifierReadsNotAvailable) {
     addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    EXPECT_EQ(report(""), ExportOutcome::saved);
+    EXPECT_TRUE(report(""));
     EXPECT_EQ(records().at(0).substr(0, 17), "\" N/A          \",");
 }
 
 TEST_F(MeteringReport, AnIdentifierWithQuotesOrControlCharactersIsRefused) {
     addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
     for (const char* id : {"A\"B", "A\r\nB", "A\tB", "\x7f"}) {
-        EXPECT_EQ(report(id), ExportOutcome::badId);
-        EXPECT_EQ(prompt.shown.back().text,
-                  "A Recorder ID can hold no double quotes and no control characters. "
-                  "No report was written.");
+        const auto done = report(id);
+        ASSERT_FALSE(done);
+        EXPECT_EQ(done.error().text, "A Recorder ID can hold no double quotes and no control characters. "
+                                     "No report was written.");
     }
     EXPECT_TRUE(files.contents.empty());
-    EXPECT_EQ(recorderId, "");
-}
-
-TEST_F(MeteringReport, ACancelledQuestionEndsQuietly) {
-    addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    recorderId = "kept";
-    EXPECT_EQ(report(std::nullopt), ExportOutcome::cancelled);
-    EXPECT_TRUE(files.contents.empty());
-    EXPECT_TRUE(prompt.shown.empty());
-    EXPECT_EQ(recorderId, "kept");
 }
 
 TEST_F(MeteringReport, EveryOtherModeIsRefused) {
     for (const char letter : std::string("bcefghijkl")) {
         recordings.closeAll();
         addFile(recordings, "/data/x.dat", constant(300, 10), {.letter = letter, .start = midnight});
-        EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::wrongMode);
-        EXPECT_EQ(prompt.shown.back().text,
-                  "            NOT A VALID MODE    \r   INTERVAL MUST BE 15 MINUTES    \r\r");
+        EXPECT_EQ(refused(), "            NOT A VALID MODE    \r   INTERVAL MUST BE 15 MINUTES    \r\r");
     }
-    EXPECT_TRUE(files.contents.empty());
-    EXPECT_EQ(made, 0);
 }
 
 TEST_F(MeteringReport, ModeDIsReported) {
     addFile(recordings, "/data/x.dat", constant(4, 10), {.letter = 'd', .start = midnight});
-    EXPECT_EQ(report(), ExportOutcome::saved);
+    EXPECT_TRUE(report());
 }
 
 TEST_F(MeteringReport, ARecordingWithoutAWholeHourAfterAMidnightGivesAMessageAndNoFile) {
@@ -189,18 +176,13 @@ TEST_F(MeteringReport, ARecordingWithoutAWholeHourAfterAMidnightGivesAMessageAnd
         recordings.closeAll();
         addFile(recordings, "/data/x.dat", constant(readings, 10),
                 {.start = toReadingTime({2024, 3, 15, 14, 7})});
-        EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::noWholeHour);
-        EXPECT_EQ(prompt.shown.back().text,
-                  "The readings hold no whole hour after a midnight. No report was written.");
+        EXPECT_EQ(refused(), "The readings hold no whole hour after a midnight. No report was written.");
     }
-    EXPECT_TRUE(files.contents.empty());
-    EXPECT_TRUE(prompt.asked.empty());
 }
 
-TEST_F(MeteringReport, TheSelectionStartsAtItsFirstReading) {
+TEST_F(MeteringReport, ARangeStartsAtItsFirstReading) {
     addFile(recordings, "/data/x.dat", ramp(300), {.start = midnight});
-    ASSERT_TRUE(applyRange(recordings, state, 10, 110));
-    EXPECT_EQ(report(), ExportOutcome::saved);
+    EXPECT_TRUE(report("ABC", {10, 110}));
     // From reading 96, the next midnight, to 110: three whole hours.
     const auto lines = records();
     ASSERT_EQ(lines.size(), 3U);
@@ -210,91 +192,54 @@ TEST_F(MeteringReport, TheSelectionStartsAtItsFirstReading) {
               "\"ABC           \",240316,0300,60,\"   KW\",       106,         0,         106,         0");
 }
 
-TEST_F(MeteringReport, ThePowerOfTheLastPlotIsUsedWhenItCoversTheRange) {
+TEST_F(MeteringReport, ThePowerOfAnotherRangeIsASoftwareFault) {
     addFile(recordings, "/data/x.dat", constant(300, 10), {.start = midnight});
-    Plot plot;
-    ASSERT_EQ(viewPower(recordings, state, 20000, clock, plot), PowerRefusal::none);
-    ASSERT_TRUE(applyRange(recordings, state, 96, 99));
-    EXPECT_EQ(report(), ExportOutcome::saved);
-    EXPECT_EQ(made, 0);
-    EXPECT_EQ(records(),
-              std::vector<std::string>{"\"ABC           \",240316,0100,60,\"   KW\",        20,         "
-                                       "0,         20,         0"});
-}
-
-TEST_F(MeteringReport, ThePowerOfAnotherRangeIsWorkedOutAnew) {
-    addFile(recordings, "/data/x.dat", constant(300, 10), {.start = midnight});
-    ASSERT_TRUE(applyRange(recordings, state, 0, 95));
-    Plot plot;
-    ASSERT_EQ(DisplPlotPwr(recordings, state, 20000, clock, plot), PowerRefusal::none);
-    state.spanApplied = false;
-    EXPECT_EQ(report(), ExportOutcome::saved);
-    EXPECT_EQ(made, 1);
-    const auto lines = records();
-    ASSERT_EQ(lines.size(), 75U);
-    EXPECT_EQ(lines[0].substr(40, 11), "        10,");
-}
-
-TEST_F(MeteringReport, WithoutPowerThereIsNoReport) {
-    addFile(recordings, "/data/x.dat", constant(300, 10), {.start = midnight});
-    makePower = [] { return false; };
-    EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::noPower);
-    // Nor when what was worked out is not the range of the report.
-    makePower = [] { return true; };
-    EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::noPower);
+    const auto planned = plan({96, 99});
+    ASSERT_TRUE(planned);
+    EXPECT_THROW((void)expmv90(*planned, powerOf(recordings, {0, 95}, basis).value(), "ABC", files), Fault);
     EXPECT_TRUE(files.contents.empty());
-    EXPECT_TRUE(prompt.asked.empty());
 }
 
 TEST_F(MeteringReport, ThreeFilesAreReportedAsOneLoad) {
     for (const char* path : {"/data/r.dat", "/data/w.dat", "/data/b.dat"})
         addFile(recordings, path, constant(4, 1000), {.start = midnight});
-    makePower = [this] { return powerForReport(recordings, state, 13800, clock) == PowerRefusal::none; };
-    report();
+    basis.vline = "13800";
+    EXPECT_TRUE(report());
     // 100.0 A a phase at 13.8 kV are 2390.16 kW.
     EXPECT_EQ(records().at(0).substr(40, 11), "      2390,");
 }
 
 TEST_F(MeteringReport, APowerFactorAboveOneIsRefused) {
     addFile(recordings, "/data/x.dat", constant(300, 10), {.start = midnight});
-    recordings.powerFactor = 1.2F;
-    EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::badFactor);
-    EXPECT_EQ(prompt.texts(),
-              std::vector<std::string>{"The power factor in use is above 1; use OPTIONS to alter "
-                                       "it. No report was written."});
-    EXPECT_TRUE(files.contents.empty());
-}
-
-TEST_F(MeteringReport, APowerFactorOfZeroCountsAsOne) {
-    addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    recordings.powerFactor = 0;
-    EXPECT_EQ(report(), ExportOutcome::saved);
-    EXPECT_EQ(records().at(0).substr(40, 22), "        10,         0,");
+    basis.factor = 1.2F;
+    EXPECT_EQ(refused(), "The power factor in use is above 1; use OPTIONS to alter "
+                         "it. No report was written.");
 }
 
 TEST_F(MeteringReport, WithNoFileOpenItSaysSo) {
-    EXPECT_EQ(expmv90(desk, recorderId, makePower), ExportOutcome::noFile);
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Error - No file available. Need to open a file."});
+    EXPECT_EQ(refused(), "Error - No file available. Need to open a file.");
+}
+
+TEST_F(MeteringReport, AnOpenDataFileIsNotReplaced) {
+    addFile(recordings, "/out/Lotusint.prn", constant(4, 10), {.start = midnight});
+    EXPECT_EQ(refused(), "The export would replace an open data file. Nothing was written.");
 }
 
 TEST_F(MeteringReport, WithoutADefaultDirectoryItGoesBesideTheDataFile) {
-    desk.directory.clear();
+    place.directory.clear();
     addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
-    report();
+    EXPECT_TRUE(report());
     EXPECT_TRUE(files.contents.contains("/data/Lotusint.prn"));
 }
 
 TEST_F(MeteringReport, WhenTheFileCannotBeWrittenTheOldOneStays) {
     addFile(recordings, "/data/x.dat", constant(4, 10), {.start = midnight});
     files.contents["/out/Lotusint.prn"] = "old";
-    state.viewKind = ViewKind::powerPlot;
     for (const Fault& fault : {fault::diskFull(), fault::permissionDenied(), fault::pathNotFound()}) {
         files.failWrite = fault;
         EXPECT_THROW(report(), Fault);
     }
     EXPECT_EQ(files.contents["/out/Lotusint.prn"], "old");
-    EXPECT_EQ(state.viewKind, ViewKind::powerPlot);
-    EXPECT_TRUE(prompt.shown.empty());
 }
 
 } // namespace

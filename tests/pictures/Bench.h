@@ -51,7 +51,7 @@ private:
 
 public:
     Recordings recordings;
-    DisplayState display;
+    Display display;
     testing::MemorySettings settings;
     SafeFile files;
     testing::FixedClock clock;

@@ -65,7 +65,7 @@ void forced(Bench& bench) {
     bench.click("mnuItemViewPlot");
     bench.zoomTo(spike - 48, spike + 48);
     bench.grab(bench.window, "plot-forced");
-    bench.window.edit().undo();
+    bench.window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
 }
 
 void paper(Bench& bench) {
@@ -75,7 +75,7 @@ void paper(Bench& bench) {
         bench.grab(dialog, "print-preview");
         static_cast<QDialog&>(dialog).reject();
     });
-    bench.window.paper().previewShown();
+    bench.window.findChild<QAction*>(QStringLiteral("chartPreview"))->trigger();
 }
 
 void survey(Bench& bench) {

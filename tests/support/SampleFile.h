@@ -17,7 +17,7 @@ struct Sample {
     ReadingTime start = toReadingTime({2024, 3, 15, 14, 0});
 };
 
-// Opens a file of tenths in the next free slot and makes the whole file the range, as opening does.
+// Opens a file of tenths in the next free slot.
 inline int addFile(Recordings& recordings, const std::string& path, std::vector<std::int16_t> tenths,
                    const Sample& sample = {}) {
     const int slot = recordings.freeSlot();
@@ -34,8 +34,6 @@ inline int addFile(Recordings& recordings, const std::string& path, std::vector<
         info.largest = *std::max_element(tenths.begin(), tenths.end());
     }
     recordings.gReadings.at(static_cast<std::size_t>(slot)) = std::move(tenths);
-    recordings.gDatastart = 0;
-    recordings.gdataend = info.count - 1;
     recordings.ginx = slot;
     return slot;
 }

@@ -17,11 +17,24 @@ TEST(LineVoltage, DefaultWhereNothingIsStored) {
     EXPECT_EQ(settings.get("Settings", "Vline"), "13800");
 }
 
-TEST(LineVoltage, StoredTextIsOfferedAsItStands) {
+TEST(LineVoltage, StoredTextIsTakenAsItStands) {
     testing::MemorySettings settings;
-    settings.set("Settings", "Vline", "0");
-    EXPECT_EQ(vlineOf(settings), "0");
-    EXPECT_EQ(storeVline(settings), "0");
+    settings.set("Settings", "Vline", "12470 V");
+    EXPECT_EQ(vlineOf(settings), "12470 V");
+    EXPECT_EQ(storeVline(settings), "12470 V");
+    EXPECT_TRUE(hasVline(settings));
+}
+
+TEST(LineVoltage, StoredZeroCountsAsNone) {
+    for (const char* stored : {"", "0", "0.0", "none"}) {
+        testing::MemorySettings settings;
+        settings.set("Settings", "Vline", stored);
+        EXPECT_FALSE(hasVline(settings));
+        EXPECT_EQ(vlineOf(settings), "13800") << stored;
+        EXPECT_EQ(settings.get("Settings", "Vline"), stored) << "looking changes nothing";
+        EXPECT_EQ(storeVline(settings), "13800");
+        EXPECT_EQ(settings.get("Settings", "Vline"), "13800");
+    }
 }
 
 TEST(LineVoltage, OnlyAnotherAnswerIsKept) {
@@ -49,48 +62,63 @@ TEST(LineVoltage, VoltsAreTheLeadingNumber) {
     EXPECT_THROW(voltsOf("1e39"), Fault);
 }
 
+TEST(LineVoltage, ACommaBeforeThreeDigitsGroupsThousands) {
+    EXPECT_EQ(voltsOf("13,800"), 13800);
+    EXPECT_EQ(voltsOf("1,013,800.5"), 1013800.5);
+    EXPECT_EQ(voltsOf("13,8"), 13) << "the leading number";
+    EXPECT_EQ(voltsOf("13,8000"), 13);
+    EXPECT_EQ(voltsOf("13.5,800"), 13.5);
+    EXPECT_EQ(voltsOf(",800"), 0);
+}
+
+TEST(LineVoltage, PlainVoltsAreWhollyANumber) {
+    EXPECT_EQ(plainVolts("13800"), 13800);
+    EXPECT_EQ(plainVolts("13,800"), 13800);
+    EXPECT_EQ(plainVolts("-5"), -5);
+    EXPECT_EQ(plainVolts("0"), 0);
+    for (const char* entry : {"", "x", "13800 V", "13,8", "1e4", "0,8", "1 3800", "nan", ",800", "1,,000"})
+        EXPECT_FALSE(plainVolts(entry)) << entry;
+}
+
 TEST(LineVoltage, HintForAnEntryThatIsHardlyVolts) {
     EXPECT_EQ(voltageHint("13800"), "");
+    EXPECT_EQ(voltageHint("13,800"), "");
     EXPECT_EQ(voltageHint("13.8"),
               "Line voltage taken as 13.8 volts; the entry must be volts, not KV (13800 for "
               "13.8 KV).");
-    EXPECT_EQ(voltageHint("abc"), "Line voltage taken as 0 volts; the entry must be volts, not KV.");
     EXPECT_EQ(voltageHint("-5"), "Line voltage taken as -5 volts; the entry must be volts, not KV.");
-}
-
-TEST(LineVoltage, PowerFactorOfZeroIsOfferedAsOne) {
-    Recordings recordings;
-    recordings.powerFactor = 0;
-    EXPECT_EQ(powerFactorOf(recordings), 1.0F);
-    EXPECT_EQ(powerFactorPreset(recordings), "1");
-    EXPECT_EQ(recordings.powerFactor, 1.0F);
+    EXPECT_EQ(voltageHint("13800 V"), "Line voltage taken as 13800 volts; the entry is not wholly a number.");
+    EXPECT_EQ(voltageHint("abc"), "Line voltage taken as 13800 volts; 0 counts as none.");
+    EXPECT_EQ(voltageHint("0"), "Line voltage taken as 13800 volts; 0 counts as none.");
 }
 
 TEST(LineVoltage, PowerFactorIsNotCheckedAgainstOne) {
-    Recordings recordings;
-    setPowerFactor(recordings, "1.2");
-    EXPECT_EQ(recordings.powerFactor, 1.2F);
-    EXPECT_EQ(powerFactorPreset(recordings), "1.2");
+    EXPECT_EQ(powerFactorOf("1.2"), 1.2F);
+    EXPECT_EQ(powerFactorOf("0.85 lagging"), 0.85F);
 }
 
-TEST(LineVoltage, EmptyPowerFactorKeepsTheOldOne) {
-    Recordings recordings;
-    setPowerFactor(recordings, "0.85");
-    setPowerFactor(recordings, "");
-    EXPECT_EQ(recordings.powerFactor, 0.85F);
+TEST(LineVoltage, PowerFactorOfZeroOrNoNumberIsOne) {
+    EXPECT_EQ(powerFactorOf("0"), 1.0F);
+    EXPECT_EQ(powerFactorOf("none"), 1.0F);
 }
 
-TEST(LineVoltage, PowerFactorWithoutANumberIsZeroAndCountsAsOne) {
-    Recordings recordings;
-    setPowerFactor(recordings, "none");
-    EXPECT_EQ(recordings.powerFactor, 0.0F);
-    EXPECT_EQ(powerFactorOf(recordings), 1.0F);
+TEST(LineVoltage, PowerFactorBeyondSinglePrecisionOverflows) {
+    EXPECT_THROW(powerFactorOf("1e40"), Fault);
 }
 
-TEST(LineVoltage, PowerFactorBeyondSinglePrecisionChangesNothing) {
-    Recordings recordings;
-    EXPECT_THROW(setPowerFactor(recordings, "1e40"), Fault);
-    EXPECT_EQ(recordings.powerFactor, 1.0F);
+TEST(LineVoltage, PowerFactorThatIsNotWhollyANumberIsTold) {
+    EXPECT_EQ(powerFactorHint("0.85"), "");
+    EXPECT_EQ(powerFactorHint("1.2"), "");
+    EXPECT_EQ(powerFactorHint("0,8"), "Power factor taken as 1.");
+    EXPECT_EQ(powerFactorHint("0.8 lagging"), "Power factor taken as 0.8.");
+    EXPECT_EQ(powerFactorHint("0"), "Power factor taken as 1.");
+}
+
+TEST(LineVoltage, BasisIsInKilovoltsAndSinglePrecision) {
+    const PowerBasis basis{"12470", 0.9F};
+    EXPECT_EQ(basis.volts(), 12470);
+    EXPECT_EQ(basis.scale().kilovolts, 12.47F);
+    EXPECT_EQ(basis.scale().factor, 0.9F);
 }
 
 TEST(LineVoltage, FixedTexts) {

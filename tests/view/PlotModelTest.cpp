@@ -2,10 +2,7 @@
 #include "view/PlotModel.h"
 
 #include "core/Fault.h"
-#include "support/FixedClock.h"
-#include "support/SampleFile.h"
-
-#include <gtest/gtest.h>
+#include "support/Shown.h"
 
 namespace tally {
 namespace {
@@ -14,14 +11,7 @@ using testing::addFile;
 using testing::constant;
 using testing::ramp;
 
-class PlotModel : public ::testing::Test {
-protected:
-    Recordings recordings;
-    DisplayState state;
-    testing::FixedClock clock;
-
-    Plot draw() { return DisplPlot(recordings, state, clock); }
-};
+class PlotModel : public testing::ShownFiles {};
 
 TEST_F(PlotModel, NoFileIsASubscriptFault) {
     EXPECT_THROW(draw(), Fault);
@@ -40,9 +30,8 @@ TEST_F(PlotModel, OneFileOfAverages) {
     EXPECT_EQ(plot.remark, "");
     EXPECT_EQ(plot.yMin, 9);
     EXPECT_DOUBLE_EQ(plot.yMax, 27.5);
-    EXPECT_EQ(state.extremeMin, 100);
-    EXPECT_EQ(state.extremeMax, 250);
-    EXPECT_EQ(state.viewKind, ViewKind::dataPlot);
+    EXPECT_EQ(plot.extremeMin, 100);
+    EXPECT_EQ(plot.extremeMax, 250);
     EXPECT_EQ(plot.labels[0], "Mar 15 14:00");
     EXPECT_TRUE(plot.title.starts_with("        File Data:   Max  25A  Min  10A\r\nMode:  Average;"));
 }
@@ -54,7 +43,7 @@ TEST_F(PlotModel, VoltageFileHasTheAxisTitleVolts) {
 
 TEST_F(PlotModel, OneFileOfTriplesShowsItsThreeStatistics) {
     addFile(recordings, "/x/g.dat", {100, 150, 50, 110, 160, 60}, {.letter = 'g'});
-    state.dataDisplayed = Statistic::minimum;
+    display.setStatistic(Statistic::minimum);
     const Plot plot = draw();
     EXPECT_EQ(plot.points, 2);
     EXPECT_EQ(plot.entriesPerPoint, 3);
@@ -73,8 +62,7 @@ TEST_F(PlotModel, OneFileOfTriplesShowsItsThreeStatistics) {
 TEST_F(PlotModel, MarkedSpanReplacesTheFileLineOfATripleFile) {
     addFile(recordings, "g.dat", ramp(30), {.letter = 'g'});
     const Plot whole = draw();
-    markSpanStart(recordings, state, whole, 1);
-    markSpanEnd(recordings, state, whole, 2);
+    mark(whole, 1, 2);
     const Plot marked = draw();
     EXPECT_EQ(marked.series.size(), 3U);
     EXPECT_EQ(marked.points, 10);
@@ -94,7 +82,7 @@ TEST_F(PlotModel, TwoTripleFilesShowTheSelectedStatistic) {
                  {Statistic::maximum, "Data Displayed: MAXIMUM\r\n", {15.0F, 16.0F}, {25.0F, 26.0F}},
                  {Statistic::minimum, "Data Displayed: MINIMUM\r\n", {5.0F, 6.0F}, {4.0F, 7.0F}}};
     for (const auto& expected : cases) {
-        state.dataDisplayed = expected.statistic;
+        display.setStatistic(expected.statistic);
         const Plot plot = draw();
         ASSERT_EQ(plot.series.size(), 2U);
         EXPECT_EQ(plot.series[0].values, expected.first);
@@ -121,17 +109,17 @@ TEST_F(PlotModel, ExtremesAreOverAllFiles) {
     addFile(recordings, "c.dat", {120, 400});
     const Plot plot = draw();
     EXPECT_EQ(plot.series.size(), 3U);
-    EXPECT_EQ(state.extremeMin, 50);
-    EXPECT_EQ(state.extremeMax, 400);
+    EXPECT_EQ(plot.extremeMin, 50);
+    EXPECT_EQ(plot.extremeMax, 400);
     EXPECT_EQ(plot.yMin, 4);
     EXPECT_DOUBLE_EQ(plot.yMax, 44);
 }
 
 TEST_F(PlotModel, ExtremesBelowZeroAreFound) {
     addFile(recordings, "a.dat", {-300, -100});
-    draw();
-    EXPECT_EQ(state.extremeMin, -300);
-    EXPECT_EQ(state.extremeMax, -100);
+    const Plot plot = draw();
+    EXPECT_EQ(plot.extremeMin, -300);
+    EXPECT_EQ(plot.extremeMax, -100);
 }
 
 TEST_F(PlotModel, ShorterFileCountsAsZeroAndIsNamed) {
@@ -141,7 +129,7 @@ TEST_F(PlotModel, ShorterFileCountsAsZeroAndIsNamed) {
     EXPECT_EQ(plot.points, 4);
     EXPECT_EQ(plot.series[1].values, (std::vector<float>{10.0F, 10.0F, 0.0F, 0.0F}));
     EXPECT_EQ(plot.remark, "Shorter: b.dat (2 of 4 readings)");
-    EXPECT_EQ(state.extremeMin, 0);
+    EXPECT_EQ(plot.extremeMin, 0);
 }
 
 TEST_F(PlotModel, LongerFileIsShownAsFarAsTheFirst) {
@@ -149,62 +137,32 @@ TEST_F(PlotModel, LongerFileIsShownAsFarAsTheFirst) {
     addFile(recordings, "b.dat", constant(4, 100));
     const Plot plot = draw();
     EXPECT_EQ(plot.points, 2);
-    EXPECT_EQ(recordings.gdataend, 1);
+    EXPECT_EQ(display.gdataend(), 1);
     EXPECT_EQ(plot.remark, "Shorter: a.dat (2 of 4 readings)");
-    EXPECT_EQ(state.extremeMin, 100);
+    EXPECT_EQ(plot.extremeMin, 100);
 }
 
 TEST_F(PlotModel, UserScaleHoldsForOneRedraw) {
     addFile(recordings, "a.dat", constant(4, 100));
-    setScale(state, "3");
+    display.setScale("3");
     EXPECT_EQ(draw().yMin, 3);
-    EXPECT_FALSE(state.userScale);
     EXPECT_EQ(draw().yMin, 9);
 }
 
 TEST_F(PlotModel, UserScaleAboveTheReadingsStillLeavesAnAxis) {
     addFile(recordings, "a.dat", constant(4, 100));
-    setScale(state, "500");
+    display.setScale("500");
     const Plot plot = draw();
     EXPECT_EQ(plot.yMin, 500);
     EXPECT_GT(plot.yMax, plot.yMin);
 }
 
-TEST_F(PlotModel, OneShotFlagsAreClearedAndTheOthersStay) {
-    addFile(recordings, "a.dat", constant(4, 100));
-    state.spanSelected = state.zoomRequest = state.userScale = true;
-    state.onePage = true;
-    recordings.gZoomFlag = true;
-    state.spanEnd = 3;
-    draw();
-    EXPECT_FALSE(state.spanSelected);
-    EXPECT_FALSE(state.zoomRequest);
-    EXPECT_FALSE(state.userScale);
-    EXPECT_TRUE(state.spanApplied);
-    EXPECT_TRUE(recordings.gZoomFlag);
-    EXPECT_TRUE(state.onePage);
-    draw();
-    EXPECT_TRUE(state.spanApplied);
-}
-
-TEST_F(PlotModel, RangeNeverRunsBeyondTheLastReading) {
-    addFile(recordings, "a.dat", constant(4, 100));
-    recordings.gdataend = Recordings::lastIndex;
-    EXPECT_EQ(draw().points, 4);
-    EXPECT_EQ(recordings.gdataend, 3);
-    state.spanStart = 2;
-    state.spanEnd = Recordings::lastIndex;
-    requestZoom(recordings, state);
-    EXPECT_EQ(draw().points, 2);
-    EXPECT_EQ(recordings.gdataend, 3);
-}
-
 TEST_F(PlotModel, LongestFileIsDrawnWhole) {
-    addFile(recordings, "a.dat", constant(Recordings::mostReadings, 100), {.letter = 'f'});
+    addFile(recordings, "a.dat", constant(Recordings::maximumReadings, 100), {.letter = 'f'});
     const Plot plot = draw();
     EXPECT_EQ(plot.points, 42966);
     EXPECT_EQ(plot.labelStep, 5370);
-    EXPECT_EQ(recordings.gdataend, 42965);
+    EXPECT_EQ(display.gdataend(), 42965);
 }
 
 TEST_F(PlotModel, OddOldestEntriesAreNotDrawn) {
@@ -213,7 +171,7 @@ TEST_F(PlotModel, OddOldestEntriesAreNotDrawn) {
     EXPECT_EQ(plot.points, 2);
     EXPECT_EQ(plot.firstEntry, 1);
     EXPECT_EQ(plot.series[0].values, (std::vector<float>{10.0F, 11.0F}));
-    EXPECT_EQ(state.extremeMax, 160);
+    EXPECT_EQ(plot.extremeMax, 160);
 }
 
 TEST_F(PlotModel, RecordingWithoutAWholeTripleIsAnEmptyPlot) {
@@ -232,6 +190,16 @@ TEST_F(PlotModel, ForcedReadingsAreMarkedInTheirFileOnly) {
     const Plot plot = draw();
     EXPECT_TRUE(plot.series[0].forced.empty());
     EXPECT_EQ(plot.series[1].forced, (std::vector<std::pair<int, int>>{{3, 4}}));
+}
+
+TEST_F(PlotModel, FilesOfBothUnitsAreNamedOnTheAxis) {
+    addFile(recordings, "a.dat", {100});
+    addFile(recordings, "v.dat", {1200}, {.type = 'V'});
+    const Plot plot = draw();
+    EXPECT_EQ(plot.yTitle, "AMPS, VOLTS");
+    EXPECT_EQ(plot.remark, "Different units: a.dat is in amps, v.dat in volts");
+    EXPECT_EQ(readOut(recordings, plot, 0, 0).value, "10.0 A");
+    EXPECT_EQ(readOut(recordings, plot, 0, 1).value, "120.0 V");
 }
 
 TEST_F(PlotModel, ReadOutGivesTimeAndValue) {

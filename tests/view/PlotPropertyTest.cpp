@@ -79,7 +79,7 @@ void checkSeries(const Case& made, const Plot& plot, int first, int last, Statis
     }
 }
 
-void checkExtremes(const Case& made, const Plot& plot, const DisplayState& state, int first, int last) {
+void checkExtremes(const Case& made, const Plot& plot, int first, int last) {
     int smallest = 99999;
     int largest = -99999;
     for (int file = 0; file < made.files; ++file)
@@ -88,8 +88,8 @@ void checkExtremes(const Case& made, const Plot& plot, const DisplayState& state
                 smallest = std::min(smallest, tenthsAt(made, file, point, part));
                 largest = std::max(largest, tenthsAt(made, file, point, part));
             }
-    EXPECT_EQ(state.extremeMin, smallest);
-    EXPECT_EQ(state.extremeMax, largest);
+    EXPECT_EQ(plot.extremeMin, smallest);
+    EXPECT_EQ(plot.extremeMax, largest);
     EXPECT_EQ(plot.yMin, smallest * 9 / 100); // whole numbers throughout, so this rounds down
     EXPECT_NEAR(plot.yMax, largest * 11 >= 1000 ? largest * 0.11 : 10.0, 1e-9);
 }
@@ -116,23 +116,30 @@ TEST_P(PlotProperty, WholeAndZoomedPlotsEqualAPlainComputation) {
     const testing::FixedClock clock;
     for (int round = 0; round < 40; ++round) {
         Case made = cases.next(GetParam());
-        DisplayState state;
-        state.dataDisplayed = static_cast<Statistic>(cases.within(1, 3));
-        startPlot(made.recordings, state);
-        const Plot whole = DisplPlot(made.recordings, state, clock);
+        Display display;
+        const auto draw = [&] {
+            const PlotRequest request = display.plotRequest(made.recordings);
+            Plot plot = DisplPlot(made.recordings, request, clock);
+            display.plotShown(request, View::dataPlot);
+            return plot;
+        };
+        const auto statistic = static_cast<Statistic>(cases.within(1, 3));
+        display.setStatistic(statistic);
+        display.startPlot(made.recordings);
+        const Plot whole = draw();
         const int last = made.counts[0] / (made.letter > 'f' ? 3 : 1) - 1;
-        checkSeries(made, whole, 0, last, state.dataDisplayed);
-        checkExtremes(made, whole, state, 0, last);
+        checkSeries(made, whole, 0, last, statistic);
+        checkExtremes(made, whole, 0, last);
         checkLabels(made, whole, 0);
 
-        markSpanStart(made.recordings, state, whole, made.lastPoint);
-        markSpanEnd(made.recordings, state, whole, made.firstPoint);
-        requestZoom(made.recordings, state);
-        const Plot zoomed = DisplPlot(made.recordings, state, clock);
-        checkSeries(made, zoomed, made.firstPoint, made.lastPoint, state.dataDisplayed);
-        checkExtremes(made, zoomed, state, made.firstPoint, made.lastPoint);
+        display.markStart(whole, made.lastPoint);
+        display.markEnd(whole, made.firstPoint);
+        display.requestZoom();
+        const Plot zoomed = draw();
+        checkSeries(made, zoomed, made.firstPoint, made.lastPoint, statistic);
+        checkExtremes(made, zoomed, made.firstPoint, made.lastPoint);
         checkLabels(made, zoomed, made.firstPoint);
-        EXPECT_LT(made.recordings.gdataend, made.counts[0]);
+        EXPECT_LT(display.gdataend(), made.counts[0]);
         if (::testing::Test::HasFailure())
             return;
     }

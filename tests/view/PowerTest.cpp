@@ -2,11 +2,7 @@
 #include "view/Power.h"
 
 #include "core/Fault.h"
-#include "support/FixedClock.h"
-#include "support/SampleFile.h"
-#include "view/PlotModel.h"
-
-#include <gtest/gtest.h>
+#include "support/Shown.h"
 
 namespace tally {
 namespace {
@@ -15,369 +11,289 @@ using testing::addFile;
 using testing::constant;
 using testing::ramp;
 
-class Power : public ::testing::Test {
+class PowerOf : public testing::ShownFiles {
 protected:
-    Recordings recordings;
-    DisplayState state;
-    testing::FixedClock clock;
-    Plot plot;
-
-    PowerRefusal view(double volts = 13800) { return viewPower(recordings, state, volts, clock, plot); }
-    PowerRefusal redraw(double volts = 13800) { return DisplPlotPwr(recordings, state, volts, clock, plot); }
+    // The power of the whole first file.
+    Power of(int volts = 13800) {
+        setVolts(volts);
+        return powerOf(recordings, recordings.all(0), basis).value();
+    }
+    // The same as a plot.
+    Plot view(int volts = 13800) {
+        setVolts(volts);
+        return viewPower();
+    }
     void openThree(int count, std::int16_t tenths) {
         for (const char* path : {"a.dat", "b.dat", "c.dat"})
             addFile(recordings, path, constant(count, tenths));
     }
 };
 
-TEST_F(Power, NoFileIsASubscriptFault) {
-    EXPECT_THROW(redraw(), Fault);
-    EXPECT_THROW(view(), Fault);
+TEST_F(PowerOf, NoFileIsASubscriptFault) {
+    EXPECT_THROW(powerOf(recordings, {0, 1}, basis), Fault);
 }
 
-TEST_F(Power, OneFile) {
+TEST_F(PowerOf, OneFile) {
     addFile(recordings, "a.dat", {1000, 500});
-    recordings.powerFactor = 0.5F;
-    EXPECT_EQ(view(10000), PowerRefusal::none);
-    EXPECT_EQ(state.power, (std::vector<float>{500.0F, 250.0F}));
+    basis.factor = 0.5F;
+    const Plot plot = view(10000);
+    EXPECT_EQ(of(10000).kilowatts, (std::vector<float>{500.0F, 250.0F}));
     ASSERT_EQ(plot.series.size(), 1U);
-    EXPECT_EQ(plot.series[0].values, state.power);
+    EXPECT_EQ(plot.series[0].values, (std::vector<float>{500.0F, 250.0F}));
     EXPECT_EQ(plot.yTitle, "KW");
     EXPECT_EQ(plot.points, 2);
-    EXPECT_EQ(plot.yMin, 225);                              // 50 x 0.9 x 10 x 0.5
-    EXPECT_FLOAT_EQ(static_cast<float>(plot.yMax), 550.0F); // 100 x 1.1 x 10 x 0.5
-    EXPECT_EQ(state.extremeMin, 500);
-    EXPECT_EQ(state.extremeMax, 1000);
+    EXPECT_EQ(plot.yMin, 225);        // 50 x 0.9 x 10 x 0.5
+    EXPECT_DOUBLE_EQ(plot.yMax, 550); // 100 x 1.1 x 10 x 0.5
+    EXPECT_EQ(plot.extremeMin, 500);
+    EXPECT_EQ(plot.extremeMax, 1000);
 }
 
-TEST_F(Power, TwoFilesAreSummedWithoutTheFactor) {
+TEST_F(PowerOf, TwoFilesAreSummedWithoutTheFactor) {
     addFile(recordings, "a.dat", {1000, 500});
     addFile(recordings, "b.dat", {200, 300});
-    view(10000);
-    EXPECT_EQ(state.power, (std::vector<float>{1200.0F, 800.0F}));
-    EXPECT_EQ(state.extremeMin, 800);
-    EXPECT_EQ(state.extremeMax, 1200);
+    const Power power = of(10000);
+    EXPECT_EQ(power.kilowatts, (std::vector<float>{1200.0F, 800.0F}));
+    EXPECT_EQ(power.extremeMin, 800);
+    EXPECT_EQ(power.extremeMax, 1200);
 }
 
-TEST_F(Power, ThreeFilesOfAHundredAmps) {
+TEST_F(PowerOf, ThreeFilesOfAHundredAmps) {
     openThree(4, 1000);
-    view();
-    ASSERT_EQ(state.power.size(), 4U);
-    for (const float kilowatts : state.power)
+    const Power power = of();
+    ASSERT_EQ(power.kilowatts.size(), 4U);
+    for (const float kilowatts : power.kilowatts)
         EXPECT_FLOAT_EQ(kilowatts, 2390.16F);
 }
 
-TEST_F(Power, ThreeFileAxisReachesAboveThePlottedValues) {
+TEST_F(PowerOf, ThreeFileAxisReachesAboveThePlottedValues) {
     openThree(4, 1000);
-    view();
-    EXPECT_EQ(plot.yMin, 2151);                              // 173.2 x 0.9 x 13.8 = 2151.144
-    EXPECT_FLOAT_EQ(static_cast<float>(plot.yMax), 4554.0F); // 300 x 1.1 x 13.8
-    EXPECT_EQ(state.extremeMin, 1732);
-    EXPECT_EQ(state.extremeMax, 3000);
-    EXPECT_EQ(state.powerExtremeMin, 1732);
-    EXPECT_EQ(state.powerExtremeMax, 3000);
+    const Plot plot = view();
+    EXPECT_EQ(plot.yMin, 2151);        // 173.2 x 0.9 x 13.8 = 2151.144
+    EXPECT_DOUBLE_EQ(plot.yMax, 4554); // 300 x 1.1 x 13.8
+    EXPECT_EQ(plot.extremeMin, 1732);
+    EXPECT_EQ(plot.extremeMax, 3000);
 }
 
-TEST_F(Power, AxisHasNoFloorOfTen) {
+TEST_F(PowerOf, AxisMinimumIsExactWhereTheValueIsWhole) {
+    // 100 x 0.9 x 10 x 0.9 = 810; in single precision the last factor is a little less.
+    addFile(recordings, "a.dat", constant(2, 1000));
+    basis.factor = 0.9F;
+    EXPECT_EQ(view(10000).yMin, 810);
+    // Every current at every tenth of a factor, held against whole numbers: tenths x 9 x volts x factor /
+    // 10^6.
+    for (int tenths = 10; tenths < 3000; tenths += 10) {
+        for (int factor = 1; factor <= 10; ++factor) {
+            recordings.gReadings[0] = {static_cast<std::int16_t>(tenths)};
+            recordings.gInfo[0].count = 1;
+            basis.factor = static_cast<float>(factor) / 10.0F;
+            EXPECT_EQ(view(13800).yMin, tenths * 9 * 13800LL * factor / 1000000) << tenths << " " << factor;
+        }
+    }
+}
+
+TEST_F(PowerOf, AxisHasNoFloorOfTen) {
     addFile(recordings, "a.dat", constant(2, 1));
-    view(1000);
-    EXPECT_FLOAT_EQ(static_cast<float>(plot.yMax), 0.11F);
+    EXPECT_DOUBLE_EQ(view(1000).yMax, 0.11);
 }
 
-TEST_F(Power, ExtremesAreRoundedToWholeTenths) {
+TEST_F(PowerOf, ExtremesAreRoundedToWholeTenths) {
     // Means of 1 and 13 tenths: 1.732, and a sum of 39.
     openThree(2, 1);
     recordings.gReadings[0][1] = recordings.gReadings[1][1] = recordings.gReadings[2][1] = 13;
-    view();
-    EXPECT_EQ(state.extremeMin, 2);
-    EXPECT_EQ(state.extremeMax, 39);
+    const Power power = of();
+    EXPECT_EQ(power.extremeMin, 2);
+    EXPECT_EQ(power.extremeMax, 39);
 }
 
-TEST_F(Power, ThreeFileSumAboveSixteenBitsOverflowsAndChangesNothing) {
+TEST_F(PowerOf, ThreeFileSumAboveSixteenBitsOverflows) {
     openThree(3, 10000);
-    view();
-    const auto power = state.power;
-    const std::string energy = state.energyText;
     recordings.gReadings[2][1] = 12768; // 10000 + 10000 + 12768 = 32768
-    recordings.gDatastart = 1;
-    recordings.gdataend = 2;
-    recordings.gZoomFlag = true;
-    state.spanApplied = true;
-    state.spanSelected = true;
-    recordings.powerFactor = 0;
-    for (const bool whole : {false, true}) {
-        try {
-            whole ? view(12000) : redraw(12000);
-            ADD_FAILURE();
-        } catch (const Fault& fault) {
-            EXPECT_EQ(fault.number(), 6);
-        }
-        EXPECT_EQ(state.power, power);
-        EXPECT_EQ(state.energyText, energy);
-        EXPECT_EQ(state.extremeMax, 30000);
-        EXPECT_TRUE(state.spanApplied);
-        EXPECT_TRUE(state.spanSelected);
-        EXPECT_EQ(recordings.gDatastart, 1);
-        EXPECT_EQ(recordings.gdataend, 2);
-        EXPECT_TRUE(recordings.gZoomFlag);
-        EXPECT_EQ(recordings.powerFactor, 0.0F);
+    try {
+        of(12000);
+        ADD_FAILURE();
+    } catch (const Fault& fault) {
+        EXPECT_EQ(fault.number(), 6);
     }
+    EXPECT_EQ(energyOf(recordings, {0, 2}, basis), "") << "a summary goes without it";
+    EXPECT_NE(energyOf(recordings, {2, 2}, basis), "");
 }
 
-TEST_F(Power, ThreeFileSumOverflowsAlreadyWithTwoCurrents) {
+TEST_F(PowerOf, ThreeFileSumOverflowsAlreadyWithTwoCurrents) {
     addFile(recordings, "a.dat", {20000});
     addFile(recordings, "b.dat", {20000});
     addFile(recordings, "c.dat", {-20000});
-    EXPECT_THROW(view(), Fault);
+    EXPECT_THROW(of(), Fault);
 }
 
-TEST_F(Power, ThreeFileSumAtTheLimitOfSixteenBits) {
+TEST_F(PowerOf, ThreeFileSumAtTheLimitOfSixteenBits) {
     addFile(recordings, "a.dat", {16383});
     addFile(recordings, "b.dat", {16384});
     addFile(recordings, "c.dat", {0});
-    EXPECT_EQ(view(), PowerRefusal::none);
-    EXPECT_EQ(state.extremeMax, 32767);
+    EXPECT_EQ(of().extremeMax, 32767);
 }
 
-TEST_F(Power, TwoFileSumIsNoSixteenBitNumberButItsExtremeIs) {
+TEST_F(PowerOf, TwoFileSumIsNoSixteenBitNumberButItsExtremeIs) {
     addFile(recordings, "a.dat", {16000});
     addFile(recordings, "b.dat", {16767});
-    EXPECT_EQ(view(), PowerRefusal::none);
-    EXPECT_EQ(state.extremeMax, 32767);
+    EXPECT_EQ(of().extremeMax, 32767);
     recordings.gReadings[1][0] = 16768;
-    EXPECT_THROW(view(), Fault);
+    EXPECT_THROW(of(), Fault);
 }
 
-TEST_F(Power, PowerBeyondSinglePrecisionOverflows) {
+TEST_F(PowerOf, PowerBeyondSinglePrecisionOverflows) {
     addFile(recordings, "a.dat", {30000});
-    EXPECT_THROW(view(3e38), Fault);
-    EXPECT_TRUE(state.power.empty());
+    basis.vline = "3e38";
+    EXPECT_THROW(powerOf(recordings, {0, 0}, basis), Fault);
 }
 
-TEST_F(Power, PowerFactorOfZeroBecomesOne) {
-    addFile(recordings, "a.dat", {1000});
-    recordings.powerFactor = 0;
-    view(10000);
-    EXPECT_EQ(state.power, std::vector<float>{1000.0F});
-    EXPECT_EQ(recordings.powerFactor, 1.0F);
-}
-
-TEST_F(Power, VoltageOfZeroAndBelowIsCalculatedAsItStands) {
+TEST_F(PowerOf, VoltageOfZeroAndBelowIsCalculatedAsItStands) {
     addFile(recordings, "a.dat", {1000, 2000});
-    view(0);
-    EXPECT_EQ(state.power, (std::vector<float>{0.0F, 0.0F}));
-    EXPECT_EQ(state.energyText, "0 KWHR");
-    view(-10000);
-    EXPECT_EQ(state.power, (std::vector<float>{-1000.0F, -2000.0F}));
+    EXPECT_EQ(of(0).kilowatts, (std::vector<float>{0.0F, 0.0F}));
+    EXPECT_EQ(of(0).energyText, "0 KWHR");
+    EXPECT_EQ(of(-10000).kilowatts, (std::vector<float>{-1000.0F, -2000.0F}));
 }
 
-TEST_F(Power, EnergyLeavesOutTheFirstReading) {
+TEST_F(PowerOf, EnergyLeavesOutTheFirstReading) {
     addFile(recordings, "a.dat", {30000, 100, 100, 100, 100});
-    view(10000); // four readings of 100 KW, a quarter of an hour each
-    EXPECT_EQ(state.energyText, "100 KWHR");
+    EXPECT_EQ(of(10000).energyText, "100 KWHR"); // four readings of 100 KW, a quarter of an hour each
 }
 
-TEST_F(Power, EnergyOfOneReadingIsZero) {
+TEST_F(PowerOf, EnergyOfOneReadingIsZero) {
     addFile(recordings, "a.dat", {1234});
-    view();
-    EXPECT_EQ(state.energyText, "0 KWHR");
+    EXPECT_EQ(of().energyText, "0 KWHR");
 }
 
-TEST_F(Power, EnergyFollowsTheInterval) {
+TEST_F(PowerOf, EnergyFollowsTheInterval) {
     for (const auto& [letter, energy] : {std::pair{'b', "1,000 KWHR"}, {'f', "200 KWHR"}}) {
         recordings.closeAll();
         addFile(recordings, "b.dat", constant(13, 1000), {.letter = letter});
-        view(10000); // twelve readings of 1000 KW
-        EXPECT_EQ(state.energyText, energy);
+        EXPECT_EQ(of(10000).energyText, energy); // twelve readings of 1000 KW
     }
 }
 
-TEST_F(Power, MillionKilowattHoursStayInKilowattHours) {
+TEST_F(PowerOf, MillionKilowattHoursStayInKilowattHours) {
     addFile(recordings, "a.dat", constant(401, 10000)); // 400 readings of 10,000 KW
-    view(10000);
-    EXPECT_EQ(state.energyText, "1,000,000 KWHR");
+    EXPECT_EQ(of(10000).energyText, "1,000,000 KWHR");
 }
 
-TEST_F(Power, AboveAMillionItIsMegawattHours) {
+TEST_F(PowerOf, AboveAMillionItIsMegawattHours) {
     auto tenths = constant(401, 10000);
     tenths.push_back(4); // 4 KW for a quarter of an hour more
     addFile(recordings, "a.dat", tenths);
-    view(10000);
-    EXPECT_EQ(state.energyText, "1,000 MWHR");
+    EXPECT_EQ(of(10000).energyText, "1,000 MWHR");
 }
 
-TEST_F(Power, VoltageFileIsRefused) {
+TEST_F(PowerOf, VoltageFileIsRefused) {
     addFile(recordings, "v.dat", {1000}, {.type = 'V'});
-    EXPECT_EQ(view(), PowerRefusal::notAmps);
-    EXPECT_EQ(refusalText(PowerRefusal::notAmps), "Files must all be amps for power to plot");
+    const auto power = powerOf(recordings, {0, 0}, basis);
+    ASSERT_FALSE(power);
+    EXPECT_EQ(power.error().text, "Files must all be amps for power to plot");
+    EXPECT_EQ(energyOf(recordings, {0, 0}, basis), "");
 }
 
-TEST_F(Power, TripleFileIsRefused) {
+TEST_F(PowerOf, TripleFileIsRefused) {
     addFile(recordings, "g.dat", ramp(3), {.letter = 'g'});
-    EXPECT_EQ(view(), PowerRefusal::notAverage);
-    EXPECT_EQ(refusalText(PowerRefusal::notAverage), "Files must be average mode for power to plot");
-    EXPECT_EQ(refusalText(PowerRefusal::none), "");
+    const auto power = powerOf(recordings, {0, 2}, basis);
+    ASSERT_FALSE(power);
+    EXPECT_EQ(power.error().text, "Files must be average mode for power to plot");
 }
 
-TEST_F(Power, LastFileThatFailsDecides) {
+TEST_F(PowerOf, LastFileThatFailsDecides) {
+    EXPECT_TRUE(checkPower(recordings));
     addFile(recordings, "v.dat", {1000}, {.type = 'V'});
     addFile(recordings, "g.dat", ramp(3), {.letter = 'g'});
-    EXPECT_EQ(checkPower(recordings), PowerRefusal::notAverage);
+    EXPECT_EQ(checkPower(recordings).error().text, powerNotAverage);
     recordings.closeAll();
     addFile(recordings, "g.dat", ramp(3), {.letter = 'g'});
     addFile(recordings, "v.dat", {1000}, {.type = 'V'});
-    EXPECT_EQ(checkPower(recordings), PowerRefusal::notAmps);
+    EXPECT_EQ(checkPower(recordings).error().text, powerNotAmps);
     addFile(recordings, "a.dat", {1000});
-    EXPECT_EQ(checkPower(recordings), PowerRefusal::notAmps);
+    EXPECT_EQ(checkPower(recordings).error().text, powerNotAmps);
 }
 
-TEST_F(Power, TripleFileOfVoltsIsRefusedForItsMode) {
+TEST_F(PowerOf, TripleFileOfVoltsIsRefusedForItsMode) {
     addFile(recordings, "g.dat", ramp(3), {.letter = 'g', .type = 'V'});
-    EXPECT_EQ(checkPower(recordings), PowerRefusal::notAverage);
+    EXPECT_EQ(checkPower(recordings).error().text, powerNotAverage);
 }
 
-TEST_F(Power, RefusalChangesNothing) {
-    addFile(recordings, "v.dat", ramp(10), {.type = 'V'});
-    recordings.gDatastart = 2;
-    recordings.gdataend = 5;
-    state.spanApplied = state.spanSelected = state.userScale = true;
-    plot.title = "as it was";
-    EXPECT_EQ(view(), PowerRefusal::notAmps);
-    EXPECT_EQ(redraw(), PowerRefusal::notAmps);
-    EXPECT_EQ(recordings.gDatastart, 2);
-    EXPECT_EQ(recordings.gdataend, 5);
-    EXPECT_TRUE(state.spanApplied);
-    EXPECT_TRUE(state.spanSelected);
-    EXPECT_TRUE(state.userScale);
-    EXPECT_FALSE(state.powerView);
-    EXPECT_FALSE(state.powerDrawn);
-    EXPECT_EQ(plot.title, "as it was");
-}
-
-TEST_F(Power, TitleOfOneFile) {
+TEST_F(PowerOf, TitleOfOneFile) {
     addFile(recordings, "/x/a.dat", {1000});
-    recordings.powerFactor = 0.85F;
-    view();
-    EXPECT_TRUE(plot.title.starts_with(
+    basis.factor = 0.85F;
+    EXPECT_TRUE(view().title.starts_with(
         "/x/a.dat      Nominal Line Voltage 13.8 KV  Power Factor: 0.85\r\n        File Data:   Max  100A"));
-    EXPECT_EQ(powerTitle(recordings, 13800),
+    EXPECT_EQ(powerTitle(recordings, basis),
               "/x/a.dat      Nominal Line Voltage 13.8 KV  Power Factor: 0.85");
 }
 
-TEST_F(Power, TitleOfSeveralFiles) {
+TEST_F(PowerOf, TitleOfSeveralFiles) {
     openThree(2, 100);
-    EXPECT_EQ(powerTitle(recordings, 12470),
+    setVolts(12470);
+    EXPECT_EQ(powerTitle(recordings, basis),
               "a.dat   b.dat   c.dat     Combined;   Nominal Line Voltage 12.47 KV  Power Factor: 1");
 }
 
-TEST_F(Power, ViewPowerShowsTheWholeFileAndBecomesTheView) {
-    addFile(recordings, "a.dat", ramp(10));
-    recordings.gDatastart = 2;
-    recordings.gdataend = 4;
-    recordings.gZoomFlag = true;
-    state.spanApplied = state.spanSelected = state.onePage = state.userScale = true;
-    state.yMinimum = 7;
-    view();
-    EXPECT_EQ(recordings.gDatastart, 0);
-    EXPECT_EQ(recordings.gdataend, 9);
-    EXPECT_FALSE(state.spanApplied);
-    EXPECT_FALSE(state.spanSelected);
-    EXPECT_FALSE(state.onePage);
-    EXPECT_FALSE(state.userScale);
-    EXPECT_EQ(state.yMinimum, 0);
-    EXPECT_TRUE(state.powerView);
-    EXPECT_TRUE(state.powerDrawn);
-    EXPECT_EQ(state.viewKind, ViewKind::powerPlot);
-    EXPECT_EQ(plot.points, 10);
-}
-
-TEST_F(Power, DataPlotIsTheViewAgainAfterwards) {
-    addFile(recordings, "a.dat", ramp(10));
-    view();
-    startPlot(recordings, state);
-    DisplPlot(recordings, state, clock);
-    EXPECT_FALSE(state.powerView);
-    EXPECT_TRUE(state.powerDrawn);
-    EXPECT_EQ(state.viewKind, ViewKind::dataPlot);
-}
-
-TEST_F(Power, ZoomNarrowsPowerEnergyAndExtremes) {
+TEST_F(PowerOf, ZoomNarrowsPowerEnergyAndExtremes) {
     addFile(recordings, "a.dat", ramp(100, 10));
-    view(10000);
-    markSpanStart(recordings, state, plot, 10);
-    markSpanEnd(recordings, state, plot, 14);
-    requestZoom(recordings, state);
-    EXPECT_EQ(redraw(10000), PowerRefusal::none);
-    EXPECT_EQ(recordings.gDatastart, 10);
-    EXPECT_EQ(recordings.gdataend, 14);
-    EXPECT_TRUE(state.spanApplied);
-    EXPECT_FALSE(state.zoomRequest);
-    EXPECT_EQ(state.powerFirst, 10);
-    EXPECT_EQ(state.power, (std::vector<float>{100, 110, 120, 130, 140}));
-    EXPECT_EQ(state.energyText, "125 KWHR"); // 500 KW x 15 / 60
-    EXPECT_EQ(state.extremeMin, 100);
-    EXPECT_EQ(state.extremeMax, 140);
+    mark(view(10000), 10, 14);
+    const Plot plot = zoom();
+    EXPECT_EQ(plot.extremeMin, 100);
+    EXPECT_EQ(plot.extremeMax, 140);
     EXPECT_EQ(plot.firstEntry, 10);
     EXPECT_EQ(plot.labels[0], "Mar 15 16:30");
+    EXPECT_EQ(power().kilowatts, (std::vector<float>{100, 110, 120, 130, 140}));
+    EXPECT_EQ(power().energyText, "125 KWHR"); // 500 KW x 15 / 60
 }
 
-TEST_F(Power, MarkedSpanIsInTheTitle) {
+TEST_F(PowerOf, MarkedSpanIsInTheTitle) {
     addFile(recordings, "a.dat", ramp(100));
-    view();
-    markSpanStart(recordings, state, plot, 1);
-    markSpanEnd(recordings, state, plot, 2);
-    redraw();
-    EXPECT_TRUE(plot.title.ends_with("\r\nSelected:   14:15  Mar 15, 24   to   14:30  Mar 15, 24"));
-    EXPECT_FALSE(state.spanSelected);
+    mark(view(), 1, 2);
+    EXPECT_TRUE(drawPower().title.ends_with("\r\nSelected:   14:15  Mar 15, 24   to   14:30  Mar 15, 24"));
+    EXPECT_EQ(drawPower().title.find("Selected"), std::string::npos);
 }
 
-TEST_F(Power, UserScaleNeverAppliesAndIsCleared) {
+TEST_F(PowerOf, UserScaleNeverAppliesAndIsCleared) {
     addFile(recordings, "a.dat", constant(3, 1000));
     view(10000);
-    setScale(state, "5");
-    redraw(10000);
-    EXPECT_EQ(plot.yMin, 900);
-    EXPECT_FALSE(state.userScale);
+    display.setScale("5");
+    EXPECT_EQ(drawPower().yMin, 900);
+    EXPECT_FALSE(display.plotRequest(recordings).yMinimum);
 }
 
-TEST_F(Power, ShorterFileCountsAsZeroAndIsNamed) {
+TEST_F(PowerOf, ShorterFileCountsAsZeroAndIsNamed) {
     addFile(recordings, "a.dat", constant(4, 100));
     addFile(recordings, "b.dat", constant(2, 100));
-    view(10000);
-    EXPECT_EQ(state.power, (std::vector<float>{200, 200, 100, 100}));
-    EXPECT_EQ(plot.remark, "Shorter: b.dat (2 of 4 readings)");
+    EXPECT_EQ(of(10000).kilowatts, (std::vector<float>{200, 200, 100, 100}));
+    EXPECT_EQ(view(10000).remark, "Shorter: b.dat (2 of 4 readings)");
 }
 
-TEST_F(Power, ForcedReadingsOfAnyFileAreMarked) {
+TEST_F(PowerOf, ForcedReadingsOfAnyFileAreMarked) {
     addFile(recordings, "a.dat", constant(9, 100));
     addFile(recordings, "b.dat", constant(9, 100));
     recordings.forcedEdits[0].push_back({1, {0, 0}});
     recordings.forcedEdits[1].push_back({6, {0}});
-    view();
-    EXPECT_EQ(plot.series[0].forced, (std::vector<std::pair<int, int>>{{1, 2}, {6, 6}}));
+    EXPECT_EQ(view().series[0].forced, (std::vector<std::pair<int, int>>{{1, 2}, {6, 6}}));
 }
 
-TEST_F(Power, SourceSaysWhatItWasMadeFrom) {
+TEST_F(PowerOf, SourceSaysWhatItWasMadeFrom) {
     addFile(recordings, "/x/a.dat", ramp(3));
     addFile(recordings, "/x/b.dat", ramp(3));
-    view();
-    EXPECT_EQ(state.powerSource, "Power of a.dat, b.dat at 13.8 KV, power factor 1, 14:00  Mar 15, 24 to "
-                                 "14:30  Mar 15, 24");
+    EXPECT_EQ(powerSource(recordings, of()),
+              "Power of a.dat, b.dat at 13.8 KV, power factor 1, 14:00  Mar 15, 24 to "
+              "14:30  Mar 15, 24");
 }
 
-TEST_F(Power, ReadOutIsInKilowatts) {
+TEST_F(PowerOf, ReadOutIsInKilowatts) {
     openThree(2, 1000);
-    view();
-    EXPECT_EQ(readOut(recordings, plot, 1).value, "2390.2 KW");
+    EXPECT_EQ(readOut(recordings, view(), 1).value, "2390.2 KW");
 }
 
-TEST_F(Power, LongestFilesKeepTheirEnergy) {
+TEST_F(PowerOf, LongestFilesKeepTheirEnergy) {
     for (const char* path : {"a.dat", "b.dat", "c.dat"})
-        addFile(recordings, path, constant(Recordings::mostReadings, 1000), {.letter = 'c'});
-    view();
+        addFile(recordings, path, constant(Recordings::maximumReadings, 1000), {.letter = 'c'});
+    const Power power = of();
     // 42,965 x 2390.16 / 60 = 1,711,553.74 KWHR
-    EXPECT_EQ(state.energyText, "1,712 MWHR");
-    EXPECT_EQ(state.power.size(), 42966U);
+    EXPECT_EQ(power.energyText, "1,712 MWHR");
+    EXPECT_EQ(power.kilowatts.size(), 42966U);
 }
 
 } // namespace

@@ -14,17 +14,17 @@ using testing::addFile;
 class Summary : public ::testing::Test {
 protected:
     Recordings recordings;
-    DisplayState state;
 };
 
-TEST_F(Summary, NoCurrentFileIsASubscriptFault) {
-    EXPECT_THROW(Printinfo(recordings, state), Fault);
+TEST_F(Summary, ASlotWithoutAFileIsASubscriptFault) {
+    for (const int slot : {Recordings::cancelled, 0, 3})
+        EXPECT_THROW(Printinfo(recordings, slot), Fault);
 }
 
 TEST_F(Summary, OfAnAverageFile) {
     addFile(recordings, "/x/a.dat", {35, 1200, 125}, {.letter = 'd'});
     recordings.gNotes[0] = {"Elm St", "12", "Ann", "x"};
-    EXPECT_EQ(Printinfo(recordings, state),
+    EXPECT_EQ(Printinfo(recordings, 0),
               "Average          Values                     \r\n"
               "    File:     /x/a.dat             Ser. A123\r\n"
               "     Mode:  Stop  15 min interval                    Range  LOW\r\n"
@@ -38,7 +38,7 @@ TEST_F(Summary, OfAnAverageFile) {
 
 TEST_F(Summary, OfATripleFileInTheHighRange) {
     addFile(recordings, "g.dat", {10, 20, 0, 30, 40, 10}, {.letter = 'h', .low = false});
-    const std::string text = Printinfo(recordings, state);
+    const std::string text = Printinfo(recordings, 0);
     EXPECT_TRUE(text.starts_with("Min/Max/Avg      Values                     \r\n"));
     EXPECT_NE(text.find("     Mode:  Cont  5 min interval                    Range  HIGH\r\n"),
               std::string::npos);
@@ -47,23 +47,18 @@ TEST_F(Summary, OfATripleFileInTheHighRange) {
 
 TEST_F(Summary, EnergyLineOnlyAfterAPowerPlot) {
     addFile(recordings, "a.dat", {10});
-    EXPECT_EQ(Printinfo(recordings, state).find("Total Energy"), std::string::npos);
-    state.energyText = "12,345 KWHR";
-    EXPECT_NE(Printinfo(recordings, state)
+    EXPECT_EQ(Printinfo(recordings, 0).find("Total Energy"), std::string::npos);
+    EXPECT_NE(Printinfo(recordings, 0, {}, "12,345 KWHR")
                   .find("Max: 1\r\n                   Total Energy In Displayed Area  12,345 KWHR\r\nLoc:"),
               std::string::npos);
 }
 
-TEST_F(Summary, SelectedBlockOnlyWhileASpanIsApplied) {
+TEST_F(Summary, SelectedBlockOnlyWithASelection) {
     addFile(recordings, "a.dat", testing::ramp(20));
-    recordings.gDatastart = 2;
-    recordings.gdataend = 6;
-    state.extremeMin = 2;
-    state.extremeMax = 12345;
-    EXPECT_EQ(Printinfo(recordings, state).find("Selected"), std::string::npos);
-    state.spanApplied = true;
+    recordings.gReadings[0][4] = 12345;
+    EXPECT_EQ(Printinfo(recordings, 0).find("Selected"), std::string::npos);
     EXPECT_NE(
-        Printinfo(recordings, state)
+        Printinfo(recordings, 0, Range{2, 6})
             .find("           Selected:       Start  14:30  Mar 15, 24                   Finish  15:30  "
                   "Mar 15, 24\r\n"
                   "                                   Min      0.2           "
@@ -71,32 +66,34 @@ TEST_F(Summary, SelectedBlockOnlyWhileASpanIsApplied) {
         std::string::npos);
 }
 
+TEST_F(Summary, SelectionIsCutToAShorterFileAndItsExtremesAreOfAllFiles) {
+    addFile(recordings, "a.dat", testing::ramp(20));
+    addFile(recordings, "b.dat", testing::constant(4, 500));
+    const std::string text = Printinfo(recordings, 1, Range{2, 6});
+    EXPECT_NE(text.find("Start  14:30  Mar 15, 24                   Finish  14:45  Mar 15, 24\r\n"),
+              std::string::npos);
+    EXPECT_NE(text.find("max       50.0\r\n"), std::string::npos);
+}
+
 TEST_F(Summary, LastSelectedTripleHasTheTimeOfItsInterval) {
     addFile(recordings, "g.dat", testing::ramp(30), {.letter = 'g'});
-    recordings.gDatastart = 6;
-    recordings.gdataend = 14;
-    state.spanApplied = true;
-    EXPECT_NE(Printinfo(recordings, state)
+    EXPECT_NE(Printinfo(recordings, 0, Range{6, 14})
                   .find("Start  14:30  Mar 15, 24                   Finish  15:00  Mar 15, 24\r\n"),
               std::string::npos);
 }
 
-TEST_F(Summary, CurrentFileIsTheOneSummedUp) {
+TEST_F(Summary, AFileIsChosenByItsSlot) {
     addFile(recordings, "a.dat", {10});
     addFile(recordings, "b.dat", {20});
-    recordings.ginx = 0;
-    EXPECT_NE(Printinfo(recordings, state).find("    File:     a.dat             Ser. A123"),
-              std::string::npos);
-    recordings.ginx = 1;
-    EXPECT_NE(Printinfo(recordings, state).find("    File:     b.dat             Ser. A123"),
-              std::string::npos);
+    EXPECT_NE(Printinfo(recordings, 0).find("    File:     a.dat             Ser. A123"), std::string::npos);
+    EXPECT_NE(Printinfo(recordings, 1).find("    File:     b.dat             Ser. A123"), std::string::npos);
 }
 
 TEST_F(Summary, SerialNumberIsTurnedFromBytesIntoText) {
     addFile(recordings, "a.dat", {10});
     recordings.gInfo[0].serial = "\xC4"
                                  "12 ";
-    EXPECT_NE(Printinfo(recordings, state)
+    EXPECT_NE(Printinfo(recordings, 0)
                   .find("Ser. \xC3\x84"
                         "12 \r\n"),
               std::string::npos);

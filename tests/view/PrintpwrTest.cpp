@@ -2,12 +2,7 @@
 #include "view/Printpwr.h"
 
 #include "core/Fault.h"
-#include "support/FixedClock.h"
-#include "support/SampleFile.h"
-#include "view/PlotModel.h"
-#include "view/Power.h"
-
-#include <gtest/gtest.h>
+#include "support/Shown.h"
 
 namespace tally {
 namespace {
@@ -15,23 +10,13 @@ namespace {
 using testing::addFile;
 using testing::constant;
 
-class PowerTable : public ::testing::Test {
+class PowerTable : public testing::ShownFiles {
 protected:
-    Recordings recordings;
-    DisplayState state;
-    testing::FixedClock clock;
-    Plot plot;
+    Table table() { return Printpwr(recordings, power()); }
 };
 
 TEST_F(PowerTable, NoFileIsASubscriptFault) {
-    EXPECT_THROW(Printpwr(recordings, state), Fault);
-}
-
-TEST_F(PowerTable, WithoutAPowerPlotItIsEmpty) {
-    addFile(recordings, "a.dat", {1});
-    recordings.gTable = "an older table";
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, "");
+    EXPECT_THROW(Printpwr(recordings, {}), Fault);
 }
 
 TEST_F(PowerTable, LayoutsFollowTheInterval) {
@@ -49,11 +34,12 @@ TEST_F(PowerTable, LayoutsFollowTheInterval) {
         for (const char letter : std::string(expected.letters)) {
             recordings.closeAll();
             addFile(recordings, "a.dat", constant(11, 1), {.letter = letter});
-            viewPower(recordings, state, 1000, clock, plot);
-            EXPECT_EQ(Printpwr(recordings, state), expected.heading);
+            setVolts(1000);
+            const Table made = table();
+            EXPECT_EQ(made.heading, expected.heading);
             const std::size_t line = 23 + expected.values * expected.width + 2;
-            EXPECT_EQ(recordings.gTable.find("\r\n"), line - 2);
-            EXPECT_EQ(recordings.gTable.substr(line, 5), expected.second);
+            EXPECT_EQ(made.text.find("\r\n"), line - 2);
+            EXPECT_EQ(made.text.substr(line, 5), expected.second);
         }
     }
 }
@@ -68,55 +54,53 @@ TEST_F(PowerTable, FieldsOfEachLayout) {
     for (const auto& expected : cases) {
         recordings.closeAll();
         addFile(recordings, "a.dat", {25}, {.letter = expected.letter, .low = expected.low});
-        viewPower(recordings, state, 1000, clock, plot);
-        Printpwr(recordings, state);
-        EXPECT_EQ(recordings.gTable, std::string("14:00  Mar 15, 24      ") + expected.field + "\r\n");
+        setVolts(1000);
+        EXPECT_EQ(table().text, std::string("14:00  Mar 15, 24      ") + expected.field + "\r\n");
     }
 }
 
 TEST_F(PowerTable, ThreeFilesOfAHundredAmps) {
     for (const char* path : {"a.dat", "b.dat", "c.dat"})
         addFile(recordings, path, constant(2, 1000));
-    viewPower(recordings, state, 13800, clock, plot);
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, "14:00  Mar 15, 24        2390.2    2390.2  \r\n");
+    EXPECT_EQ(table().text, "14:00  Mar 15, 24        2390.2    2390.2  \r\n");
 }
 
 TEST_F(PowerTable, LargeValuesKeepAllTheirDigits) {
     addFile(recordings, "a.dat", {1});
-    state.power = {12345.6F};
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, "14:00  Mar 15, 24        12345.6  \r\n");
+    Power large;
+    large.range = {0, 0};
+    large.kilowatts = {12345.6F};
+    EXPECT_EQ(Printpwr(recordings, large).text, "14:00  Mar 15, 24        12345.6  \r\n");
     recordings.gInfo[0].low = false;
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, "14:00  Mar 15, 24       12346   \r\n");
+    EXPECT_EQ(Printpwr(recordings, large).text, "14:00  Mar 15, 24       12346   \r\n");
 }
 
-TEST_F(PowerTable, ZoomedPowerPlotStartsTheTableAtTheSpan) {
+TEST_F(PowerTable, ZoomedRangeStartsTheTableAtTheSpan) {
     addFile(recordings, "a.dat", testing::ramp(100, 10));
-    viewPower(recordings, state, 10000, clock, plot);
-    markSpanStart(recordings, state, plot, 4);
-    markSpanEnd(recordings, state, plot, 5);
-    requestZoom(recordings, state);
-    DisplPlotPwr(recordings, state, 10000, clock, plot);
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, "15:00  Mar 15, 24        040.0    050.0  \r\n");
+    setVolts(10000);
+    mark(viewPower(), 4, 5);
+    zoom();
+    EXPECT_EQ(table().text, "15:00  Mar 15, 24        040.0    050.0  \r\n");
 }
 
-TEST_F(PowerTable, LastPowerPlotStandsWhateverIsDisplayedSince) {
+TEST_F(PowerTable, RangeThatADataPlotZoomedToIsTheTables) {
     addFile(recordings, "a.dat", testing::ramp(3, 10));
-    viewPower(recordings, state, 10000, clock, plot);
-    Printpwr(recordings, state);
-    const std::string table = recordings.gTable;
-    EXPECT_EQ(table, "14:00  Mar 15, 24        000.0    010.0    020.0  \r\n");
-    startPlot(recordings, state);
-    const Plot data = DisplPlot(recordings, state, clock);
-    markSpanStart(recordings, state, data, 1);
-    markSpanEnd(recordings, state, data, 2);
-    requestZoom(recordings, state);
-    DisplPlot(recordings, state, clock);
-    Printpwr(recordings, state);
-    EXPECT_EQ(recordings.gTable, table);
+    setVolts(10000);
+    viewPower();
+    EXPECT_EQ(table().text, "14:00  Mar 15, 24        000.0    010.0    020.0  \r\n");
+    mark(viewPlot(), 1, 2);
+    zoom();
+    EXPECT_EQ(table().text, "14:15  Mar 15, 24        010.0    020.0  \r\n");
+}
+
+TEST_F(PowerTable, ReadingsVoltageAndFactorInForceAreUsed) {
+    addFile(recordings, "a.dat", {1000, 1000});
+    setVolts(10000);
+    viewPower();
+    recordings.gReadings[0][1] = 500;
+    setVolts(20000);
+    basis.factor = 0.5F;
+    EXPECT_EQ(table().text, "14:00  Mar 15, 24        1000.0    500.0  \r\n");
 }
 
 } // namespace

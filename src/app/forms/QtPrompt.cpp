@@ -54,7 +54,8 @@ std::optional<std::string> QtPrompt::input(const InputQuestion& question) {
 }
 
 std::optional<std::string> QtPrompt::chooseFile(const FileQuestion& question) {
-    QFileDialog dialog(parent(), question.save ? QStringLiteral("Save as") : QStringLiteral("Open"));
+    const QString usual = question.save ? QStringLiteral("Save as") : QStringLiteral("Open");
+    QFileDialog dialog(parent(), question.title.empty() ? usual : words(question.title));
     dialog.setObjectName(QStringLiteral("FileDialog"));
     dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/Chart.h"
 
-#include "view/Span.h"
+#include "view/Display.h"
 #include "view/forms/ChartLook.h"
 #include "view/forms/PlotScene.h"
 #include "view/forms/QcpInclude.h"

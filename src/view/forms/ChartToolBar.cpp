@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/ChartToolBar.h"
 
-#include "view/Span.h"
+#include "view/Display.h"
 
 #include <QAction>
 

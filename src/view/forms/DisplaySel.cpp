@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/DisplaySel.h"
 
-#include "view/DisplayState.h"
+#include "view/Display.h"
 
 #include <QPushButton>
 #include <QRadioButton>

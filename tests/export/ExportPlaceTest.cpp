@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "export/ExportDesk.h"
+#include "export/ExportPlace.h"
 
 #include "ExportFixture.h"
 
@@ -29,17 +29,17 @@ class ExportPath : public testing::ExportTest {};
 
 TEST_F(ExportPath, TheDefaultDirectoryComesFirst) {
     testing::addFile(recordings, "/data/x.dat", {1});
-    EXPECT_EQ(exportPath(desk, 0, "n"), "/out" + separator + "n");
+    EXPECT_EQ(exportPath(recordings, 0, "n", place), "/out" + separator + "n");
 }
 
 TEST_F(ExportPath, OtherwiseTheFolderOfTheDataFile) {
-    desk.directory.clear();
+    place.directory.clear();
     testing::addFile(recordings, "/data/x.dat", {1});
     testing::addFile(recordings, "x.dat", {1});
     testing::addFile(recordings, "/x.dat", {1});
-    EXPECT_EQ(exportPath(desk, 0, "n"), "/data" + separator + "n");
-    EXPECT_EQ(exportPath(desk, 1, "n"), "n");
-    EXPECT_EQ(exportPath(desk, 2, "n"), "/n");
+    EXPECT_EQ(exportPath(recordings, 0, "n", place), "/data" + separator + "n");
+    EXPECT_EQ(exportPath(recordings, 1, "n", place), "n");
+    EXPECT_EQ(exportPath(recordings, 2, "n", place), "/n");
 }
 
 } // namespace

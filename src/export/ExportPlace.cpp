@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "export/ExportDesk.h"
+#include "export/ExportPlace.h"
 
 namespace tally {
 
@@ -27,20 +27,16 @@ std::string joinPath(const std::string& folder, const std::string& name) {
     return folder + separator + name;
 }
 
-std::string exportPath(const ExportDesk& desk, int slot, const std::string& name) {
-    const std::string folder =
-        desk.directory.empty() ? folderOf(desk.recordings.info(slot).path) : desk.directory;
-    return joinPath(folder, name);
+std::string exportPath(const Recordings& recordings, int slot, const std::string& name,
+                       const ExportPlace& place) {
+    return joinPath(place.directory.empty() ? folderOf(recordings.info(slot).path) : place.directory, name);
 }
 
-bool refuseOwnFile(const ExportDesk& desk, const std::string& path) {
-    for (int slot = 0; slot < Recordings::slotCount; ++slot) {
-        if (desk.recordings.isOpen(slot) && desk.files.same(desk.recordings.info(slot).path, path)) {
-            desk.prompt.tell(std::string(exportOverData));
-            return true;
-        }
-    }
-    return false;
+Expected<void> checkNotOpen(const Recordings& recordings, const std::string& path, const Files& files) {
+    for (int slot = 0; slot < Recordings::slotCount; ++slot)
+        if (recordings.isOpen(slot) && files.same(recordings.info(slot).path, path))
+            return refuse(std::string(exportOverData), path);
+    return {};
 }
 
 } // namespace tally

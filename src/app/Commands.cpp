@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Commands.h"
+
+#include <QMainWindow>
+
+namespace tally {
+
+Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes& panes)
+    : folder(services.settings, panes.notices),
+      views(services, dispatcher, panes.screen, panes.menus, panes.status, panes.notices),
+      voltage(services),
+      forced(services, dispatcher, panes.notices),
+      printing(services, panes.screen, &panes.window),
+      downloads(services, dispatcher, views, folder, panes.menus, panes.notices),
+      file(services, {dispatcher, views, forced, downloads, folder, panes.menus, panes.notices, panes.status,
+                      panes.namesChanged}),
+      view(services, views, panes.menus, &panes.window),
+      chart(services, dispatcher, views, panes.screen, panes.status, folder, printing),
+      power(services, views, voltage, panes.status),
+      edit(services, dispatcher, views, forced, panes.menus, &panes.window),
+      paper(services, views, voltage, printing),
+      exports(services, views, voltage, folder, panes.menus),
+      instrument(services, dispatcher, downloads, panes.menus, panes.status, &panes.window),
+      options(services, dispatcher, folder, panes.folderChoice),
+      survey(services, dispatcher, folder, printing, &panes.window),
+      help(services, panes.window) {
+    forced.saveWhole = [this](int slot) { return file.saveWhole(slot); };
+    forced.changed = [this] { views.renew(); };
+}
+
+} // namespace tally

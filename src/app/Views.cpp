@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Views.h"
+
+#include "app/Menus.h"
+#include "app/NoticeBar.h"
+#include "app/Screen.h"
+#include "app/StatusPanels.h"
+#include "app/forms/Words.h"
+#include "core/ModeTable.h"
+#include "view/FilesTogether.h"
+#include "view/PlotModel.h"
+#include "view/Print.h"
+#include "view/Printinfo.h"
+#include "view/Printpwr.h"
+#include "view/Printpwrinfo.h"
+
+namespace tally {
+
+namespace {
+
+const QString togetherKey = QStringLiteral("together");
+
+} // namespace
+
+Done needFile(const Recordings& recordings) {
+    return recordings.isOpen(0) ? Done() : refuse(std::string(noFileOpen));
+}
+
+PowerBasis Views::basis() const {
+    return {vlineOf(services_.settings), services_.display.powerFactor()};
+}
+
+Expected<Power> Views::power() {
+    auto power = powerOf(services_.recordings, services_.display.displayed(services_.recordings), basis());
+    if (power)
+        for (const char* name : {"mnuItemViewPwrTable", "mnuItemPrintPwrTable", "mnuitemexprep"})
+            menus_.set(name, true);
+    return power;
+}
+
+std::string Views::summary(int slot) const {
+    const Recordings& recordings = services_.recordings;
+    const Display& display = services_.display;
+    const std::string energy =
+        display.powerKnown() ? energyOf(recordings, display.displayed(recordings), basis()) : "";
+    return Printinfo(recordings, slot, display.selection(recordings), energy);
+}
+
+Done Views::redraw() {
+    const PlotRequest request = services_.display.plotRequest(services_.recordings);
+    if (services_.display.powerView())
+        return redrawPower(request);
+    const Plot plot = DisplPlot(services_.recordings, request, services_.clock);
+    services_.display.plotShown(request, View::dataPlot);
+    screen_.showPlot(plot, services_.display.onePage());
+    showPart(0);
+    status_.remark(words(plot.remark));
+    menus_.apply(MenuEvent::plotted);
+    return {};
+}
+
+Done Views::redrawPower(const PlotRequest& request) {
+    const auto power = powerOf(services_.recordings, request.range, basis());
+    if (!power) {
+        if (isMinMaxAvg(services_.recordings.info(0).modeLetter))
+            menus_.set("mnuItemViewPower", false);
+        return tl::make_unexpected(power.error());
+    }
+    const Plot plot = DisplPlotPwr(services_.recordings, request, *power, services_.clock);
+    services_.display.plotShown(request, View::powerPlot);
+    screen_.showPlot(plot, services_.display.onePage());
+    showPart(0);
+    const std::string source = powerSource(services_.recordings, *power);
+    status_.remark(words(plot.remark.empty() ? source : source + "; " + plot.remark));
+    menus_.apply(MenuEvent::powerPlotted);
+    return {};
+}
+
+void Views::spanMarked() {
+    if (!services_.display.onePage())
+        menus_.apply(MenuEvent::spanMarked);
+}
+
+Done Views::showTable(int slot) {
+    const auto part = services_.display.part(services_.recordings, slot);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    services_.display.tableShown(View::table, slot, Print(services_.recordings, slot, *part));
+    const Table& table = services_.display.table();
+    screen_.showText(table.heading, table.text,
+                     "table of " + fileNameOf(services_.recordings.info(slot).path));
+    showPart(slot);
+    status_.remark({});
+    menus_.apply(MenuEvent::tableShown);
+    return {};
+}
+
+Done Views::showSummary(int slot) {
+    const auto part = services_.display.part(services_.recordings, slot);
+    if (!part)
+        return tl::make_unexpected(part.error());
+    screen_.showText({}, summary(slot), "summary of " + fileNameOf(services_.recordings.info(slot).path));
+    services_.display.textShown(View::summary, slot);
+    showPart(slot);
+    status_.remark({});
+    menus_.apply(MenuEvent::textShown);
+    return {};
+}
+
+Done Views::showPowerTable() {
+    const auto made = power();
+    if (!made)
+        return tl::make_unexpected(made.error());
+    services_.display.tableShown(View::powerTable, 0, Printpwr(services_.recordings, *made));
+    const Table& table = services_.display.table();
+    screen_.showText(table.heading, table.text, "power table");
+    showPart(0);
+    status_.remark(words(powerSource(services_.recordings, *made)));
+    menus_.apply(MenuEvent::tableShown);
+    return {};
+}
+
+Done Views::showPowerSummary() {
+    const auto made = power();
+    if (!made)
+        return tl::make_unexpected(made.error());
+    screen_.showText({}, Printpwrinfo(services_.recordings, *made, services_.display.zoomed()),
+                     "power summary");
+    services_.display.textShown(View::powerSummary, 0);
+    showPart(0);
+    status_.remark(words(powerSource(services_.recordings, *made)));
+    menus_.apply(MenuEvent::textShown);
+    return {};
+}
+
+void Views::showReception(const std::string& text, const std::string& remark) {
+    screen_.showText({}, text, "a reception that is not saved");
+    services_.display.foreignShown(View::reception);
+    screen_.setPart({});
+    status_.remark(words(remark));
+    menus_.apply(MenuEvent::textShown);
+}
+
+void Views::showChartFile(const Plot& plot, const std::string& remark) {
+    screen_.showPlot(plot, false);
+    services_.display.foreignShown(View::chartFile);
+    screen_.setPart({});
+    status_.remark(words(remark));
+    menus_.apply(MenuEvent::textShown);
+    menus_.set("mnuZoom", false);
+    menus_.set("mnuItemAnnot", true);
+    menus_.set("mnuItemClose", true);
+}
+
+Done Views::again() {
+    switch (services_.display.view()) {
+    case View::dataPlot:
+    case View::powerPlot:
+        return redraw();
+    case View::table:
+        return showTable(services_.display.shownSlot());
+    case View::summary:
+        return showSummary(services_.display.shownSlot());
+    case View::powerTable:
+        return showPowerTable();
+    case View::powerSummary:
+        return showPowerSummary();
+    case View::none:
+    case View::chartFile:
+    case View::reception:
+        break;
+    }
+    return {};
+}
+
+void Views::renew() {
+    if (!dispatcher_.attempt([this] { return again(); }))
+        status_.remark(QStringLiteral("What is shown is no longer current."));
+}
+
+void Views::renewPower() {
+    const View view = services_.display.view();
+    if (isPowerView(view) || view == View::summary)
+        renew();
+}
+
+void Views::showTogether() {
+    QStringList texts;
+    for (const std::string& warning : togetherWarnings(services_.recordings))
+        texts.append(words(warning) + QLatin1Char('.'));
+    if (texts.isEmpty())
+        notices_.remove(togetherKey);
+    else
+        notices_.put(togetherKey, texts.join(QLatin1Char(' ')));
+}
+
+// While a part is shown the line of buttons says which.
+void Views::showPart(int slot) {
+    const auto part = services_.display.part(services_.recordings, slot);
+    if (!part || !services_.display.zoomed()) {
+        screen_.setPart({});
+        return;
+    }
+    screen_.setPart(QStringLiteral("readings %1 to %2 of %3")
+                        .arg(part->first + 1)
+                        .arg(part->last + 1)
+                        .arg(services_.recordings.info(slot).count));
+}
+
+void Views::reset() {
+    services_.display.closed();
+    screen_.reset();
+    notices_.remove(togetherKey);
+    status_.remark({});
+    status_.pointer({}, {});
+}
+
+} // namespace tally

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "view/FilesTogether.h"
+
+#include "view/Range.h"
+
+#include <algorithm>
+
+namespace tally {
+
+namespace {
+
+constexpr std::int64_t minutesPerHour = 60;
+constexpr std::int64_t minutesPerDay = 24 * minutesPerHour;
+// From here on hours say less than days.
+constexpr std::int64_t daysFrom = 3 * minutesPerDay;
+
+// "15 min", "26 h", "1 h 30 min", "12 days".
+std::string lengthText(std::int64_t minutes) {
+    if (minutes >= daysFrom)
+        return std::to_string(minutes / minutesPerDay) + " days";
+    const std::int64_t hours = minutes / minutesPerHour;
+    const std::int64_t rest = minutes % minutesPerHour;
+    std::string text = hours > 0 ? std::to_string(hours) + " h" : "";
+    if (rest > 0)
+        text += (text.empty() ? "" : " ") + std::to_string(rest) + " min";
+    return text;
+}
+
+const char* unitWord(const FileFacts& info) {
+    return info.unit() == 'V' ? "volts" : "amps";
+}
+
+} // namespace
+
+std::string openNames(const Recordings& recordings) {
+    std::string names;
+    for (int slot = 0; slot < Recordings::slotCount; ++slot)
+        if (recordings.isOpen(slot))
+            names += (names.empty() ? "" : ", ") + fileNameOf(recordings.info(slot).path);
+    return names;
+}
+
+std::string shorterFiles(const Recordings& recordings) {
+    int longest = 0;
+    for (int slot = 0; slot < Recordings::slotCount; ++slot)
+        longest = std::max(longest, recordings.info(slot).count);
+    std::string text;
+    for (int slot = 0; slot < Recordings::slotCount; ++slot) {
+        const FileFacts& info = recordings.info(slot);
+        if (recordings.isOpen(slot) && info.count < longest)
+            text += (text.empty() ? "Shorter: " : ", ") + fileNameOf(info.path) + " (" +
+                    std::to_string(info.count) + " of " + std::to_string(longest) + " readings)";
+    }
+    return text;
+}
+
+std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes) {
+    if (minutes == 0)
+        return {};
+    return file + " starts " + lengthText(std::abs(minutes)) + (minutes > 0 ? " after " : " before ") +
+           first + "; readings are combined by number, not by time";
+}
+
+std::vector<std::string> togetherWarnings(const Recordings& recordings) {
+    std::vector<std::string> warnings;
+    const FileFacts& first = recordings.info(0);
+    const std::string firstName = fileNameOf(first.path);
+    for (int slot = 1; slot < recordings.openCount(); ++slot) {
+        const FileFacts& info = recordings.info(slot);
+        const std::string name = fileNameOf(info.path);
+        // The first whole intervals stand beside each other.
+        const ReadingTime start = timeOf(info, firstWhole(info));
+        const std::string apart =
+            startsApart(name, firstName, start.minutes - timeOf(first, firstWhole(first)).minutes);
+        if (!apart.empty())
+            warnings.push_back(apart);
+        if (info.unit() != first.unit())
+            warnings.push_back("Different units: " + firstName + " is in " + unitWord(first) + ", " + name +
+                               " in " + unitWord(info));
+    }
+    return warnings;
+}
+
+std::string togetherRemark(const Recordings& recordings) {
+    std::string remark = shorterFiles(recordings);
+    for (const std::string& warning : togetherWarnings(recordings))
+        remark += (remark.empty() ? "" : "; ") + warning;
+    return remark;
+}
+
+} // namespace tally

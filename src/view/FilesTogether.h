@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Recordings.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tally {
+
+// The names of the open files, joined by ", ".
+std::string openNames(const Recordings& recordings);
+
+// Which of the open files are shorter than the longest; empty when all have the same length.
+std::string shorterFiles(const Recordings& recordings);
+
+// What must be known before files are read side by side, a sentence each: files that start at another time
+// than the first one (reading i of one stands beside reading i of the other all the same), and files of
+// another unit. Empty for one file.
+std::vector<std::string> togetherWarnings(const Recordings& recordings);
+
+// "b.dat starts 26 h after a.dat; readings are combined by number, not by time"; empty for no minutes.
+std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes);
+
+// All of it on one line, parted by "; ".
+std::string togetherRemark(const Recordings& recordings);
+
+} // namespace tally
