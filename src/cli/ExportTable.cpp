@@ -4,7 +4,7 @@
 #include "cli/Commands.h"
 #include "cli/Endings.h"
 #include "cli/OpenFiles.h"
-#include "export/ExportDesk.h"
+#include "export/ExportPlace.h"
 #include "export/Loadshape.h"
 #include "export/TableWorkbook.h"
 #include "platform/XlsxWriter.h"
@@ -35,13 +35,6 @@ CsvForm formOf(const Options& options) {
     return form;
 }
 
-template <typename Value>
-Value orRefused(Expected<Value> value) {
-    if (!value)
-        throw Refused(value.error().message());
-    return std::move(*value);
-}
-
 void keepDataFiles(Context& context, const std::vector<std::string>& files, const std::string& path) {
     for (const std::string& file : files)
         if (context.files().same(file, path))
@@ -59,9 +52,9 @@ int exportTable(Context& context, const Options& options) {
     const OpenFiles open = openFiles(context, *options.files, *options.range);
     std::optional<IndexRange> range;
     if (options.range->given())
-        range = {open.recordings.gDatastart, open.recordings.gdataend};
+        range = {open.readings().first, open.readings().last};
     keepDataFiles(context, *options.files, options.to);
-    const ReadingTable table = orRefused(readingTable(open.recordings, range));
+    const ReadingTable table = valueOrRefused(readingTable(open.recordings, range));
     write(context, options.to,
           ending == "csv" ? tableCsv(open.recordings, table, formOf(options))
                           : xlsxBytes(tableWorkbook(open.recordings, table, context.clock().localTime())));
@@ -75,7 +68,7 @@ int exportOpendss(Context& context, const Options& options) {
     std::string script;
     for (const std::string& file : *options.files) {
         const OpenFiles open = openFiles(context, {file});
-        shapes.push_back(orRefused(loadshape(open.recordings, stem, taken)));
+        shapes.push_back(valueOrRefused(loadshape(open.recordings, stem, taken)));
         script += shapes.back().script;
     }
     keepDataFiles(context, *options.files, options.to);
@@ -92,7 +85,7 @@ int exportGridlabd(Context& context, const Options& options) {
     endingOf(options.to, {"player"});
     const OpenFiles open = openFiles(context, {*options.file});
     keepDataFiles(context, {*options.file}, options.to);
-    write(context, options.to, orRefused(playerText(open.recordings)));
+    write(context, options.to, valueOrRefused(playerText(open.recordings)));
     return status::done;
 }
 

@@ -2,9 +2,9 @@
 #include "export/Loadshape.h"
 
 #include "core/ModeTable.h"
+#include "core/Recordings.h"
 #include "export/ReadingTable.h"
 #include "view/RunningTime.h"
-#include "view/ShownRange.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "export/ReadingTable.h"
 
-#include "view/ShownRange.h"
+#include "core/Recordings.h"
 
 #include <algorithm>
 
