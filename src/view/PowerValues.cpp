@@ -5,30 +5,13 @@
 #include "view/PlotSeries.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 
 namespace tally {
 
 namespace {
-
-// Summed currents, tenths of amps; a file without a reading counts as 0.
-std::vector<std::int32_t> summedCurrents(const Recordings& recordings, const Range& range) {
-    std::vector<std::int32_t> sums(static_cast<std::size_t>(range.entries()));
-    // Only the sums of three files are 16-bit numbers, at every step.
-    const bool narrow = recordings.openCount() == Recordings::slotCount;
-    for (int slot = 0; slot < recordings.openCount(); ++slot) {
-        const auto readings = present(recordings, slot, range);
-        std::uint32_t beyond = 0;
-        for (std::size_t i = 0; i < readings.size(); ++i) {
-            sums[i] += readings[i];
-            beyond |= static_cast<std::uint32_t>(sums[i] + 0x8000);
-        }
-        if (narrow && beyond > 0xFFFF)
-            throw fault::overflow();
-    }
-    return sums;
-}
 
 // The order of the operations is part of the result in single precision.
 struct OneOrTwoFiles {
@@ -82,8 +65,35 @@ PowerValues valuesOf(const std::vector<std::int32_t>& sums, const PowerScale& sc
 
 } // namespace
 
+std::vector<std::int32_t> summedCurrents(std::span<const std::span<const std::int16_t>> files,
+                                         std::size_t count) {
+    std::vector<std::int32_t> sums(count);
+    // Only the sums of three files are 16-bit numbers, at every step.
+    const bool narrow = files.size() == Recordings::slotCount;
+    for (const std::span<const std::int16_t> readings : files) {
+        std::uint32_t beyond = 0;
+        for (std::size_t i = 0; i < readings.size(); ++i) {
+            sums[i] += readings[i];
+            beyond |= static_cast<std::uint32_t>(sums[i] + 0x8000);
+        }
+        if (narrow && beyond > 0xFFFF)
+            throw fault::overflow();
+    }
+    return sums;
+}
+
+float kilowattsOf(std::int32_t sum, int files, const PowerScale& scale) {
+    const auto current = static_cast<float>(sum);
+    return files == Recordings::slotCount ? ThreeFiles::kilowatts(current, scale)
+                                          : OneOrTwoFiles::kilowatts(current, scale);
+}
+
 PowerValues powerValues(const Recordings& recordings, const Range& range, const PowerScale& scale) {
-    const auto sums = summedCurrents(recordings, range);
+    std::array<std::span<const std::int16_t>, Recordings::slotCount> files;
+    const auto open = static_cast<std::size_t>(recordings.openCount());
+    for (std::size_t slot = 0; slot < open; ++slot)
+        files[slot] = present(recordings, static_cast<int>(slot), range);
+    const auto sums = summedCurrents(std::span(files).first(open), static_cast<std::size_t>(range.entries()));
     return recordings.openCount() == Recordings::slotCount ? valuesOf<ThreeFiles>(sums, scale)
                                                            : valuesOf<OneOrTwoFiles>(sums, scale);
 }

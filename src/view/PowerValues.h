@@ -4,7 +4,9 @@
 #include "core/Recordings.h"
 #include "view/Range.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace tally {
@@ -23,6 +25,14 @@ struct PowerValues {
     float largest = 0;            // summed current, tenths of amps
     std::int32_t smallestSum = 0; // summed current at `smallest`, tenths of amps
 };
+
+// The currents of one to three files summed place by place (tenths of amps), `count` of them; a file that
+// ends before counts as 0 there. Throws Overflow when three currents sum beyond 16 bits.
+std::vector<std::int32_t> summedCurrents(std::span<const std::span<const std::int16_t>> files,
+                                         std::size_t count);
+
+// Kilowatts of the summed currents (tenths of amps) of this many files.
+float kilowattsOf(std::int32_t sum, int files, const PowerScale& scale);
 
 // Throws Overflow when three currents sum beyond 16 bits or a kilowatt value beyond single precision.
 PowerValues powerValues(const Recordings& recordings, const Range& range, const PowerScale& scale);
