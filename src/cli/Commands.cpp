@@ -5,8 +5,9 @@ namespace tally::cli {
 
 const std::vector<AddCommand>& allCommands() {
     static const std::vector<AddCommand> all = {
-        addInfo,  addReadings, addSave,   addCheck, addTable, addSummary,  addPower,  addPlot,    addNotes,
-        addForce, addExport,   addSurvey, addTypes, addPorts, addDownload, addStatus, addRecover, addInit,
+        addInfo,  addReadings, addSave,     addCheck,  addTable,   addSummary, addPower,
+        addPlot,  addStudy,    addLoading,  addNotes,  addForce,   addExport,  addSurvey,
+        addTypes, addPorts,    addDownload, addStatus, addRecover, addInit,
     };
     return all;
 }

@@ -14,6 +14,8 @@ void addTable(CLI::App& program, Context& context);
 void addSummary(CLI::App& program, Context& context);
 void addPower(CLI::App& program, Context& context);
 void addPlot(CLI::App& program, Context& context);
+void addStudy(CLI::App& program, Context& context);
+void addLoading(CLI::App& program, Context& context);
 void addNotes(CLI::App& program, Context& context);
 void addForce(CLI::App& program, Context& context);
 void addExport(CLI::App& program, Context& context);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/OpenFiles.h"
 
+#include "core/Aligned.h"
 #include "core/Fault.h"
 #include "core/Fileopen.h"
 #include "core/NotesFile.h"
@@ -23,6 +24,12 @@ int indexOf(const std::string& text, int whenEmpty) {
     if (error != std::errc() || stopped != end)
         throw WrongUsage("'" + text + "' is no reading index");
     return index;
+}
+
+WrongUsage outsideFile(const IndexRange& range, int count) {
+    return WrongUsage("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
+                      " is turned round or outside the file, which has the readings 0 to " +
+                      std::to_string(count - 1));
 }
 
 // A recording knows its file by the full path, from wherever it was named.
@@ -75,15 +82,37 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
 
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, const RangeOptions& range) {
     OpenFiles open = openFiles(context, paths);
+    const auto given = indexRange(range, open.recordings.info(0).count);
+    if (given && !open.display.applyRange(open.recordings, given->first, given->last))
+        throw outsideFile(*given, open.recordings.info(0).count);
+    return open;
+}
+
+std::optional<IndexRange> indexRange(const RangeOptions& range, int count) {
     if (!range.given())
-        return open;
-    const int last = open.recordings.info(0).count - 1;
-    const int from = indexOf(range.from, 0);
-    const int to = indexOf(range.to, last);
-    if (!open.display.applyRange(open.recordings, from, to))
-        throw WrongUsage("The range " + std::to_string(from) + " to " + std::to_string(to) +
-                         " is turned round or outside the file, which has the readings 0 to " +
-                         std::to_string(last));
+        return std::nullopt;
+    const IndexRange given = {indexOf(range.from, 0), indexOf(range.to, count - 1)};
+    if (given.first < 0 || given.last < given.first || given.last >= count)
+        throw outsideFile(given, count);
+    return given;
+}
+
+std::shared_ptr<bool> addAlign(CLI::App& command) {
+    auto align = std::make_shared<bool>(false);
+    command.add_flag("--align", *align, "put the files side by side by time, not reading by reading");
+    return align;
+}
+
+OpenFiles openTogether(Context& context, const std::vector<std::string>& paths, const RangeOptions& range,
+                       bool align) {
+    if (!align)
+        return openFiles(context, paths, range);
+    OpenFiles open = openFiles(context, paths);
+    const auto given = indexRange(range, open.recordings.info(0).count);
+    open.recordings = aligned(open.recordings, valueOrRefused(timeAxis(open.recordings, given)));
+    open.display.opened(open.recordings, 0);
+    if (given)
+        open.display.applyRange(open.recordings, 0, open.recordings.info(0).count - 1);
     return open;
 }
 

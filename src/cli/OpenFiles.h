@@ -3,9 +3,11 @@
 
 #include "cli/Command.h"
 #include "core/Recordings.h"
+#include "core/TimeAxis.h"
 #include "view/Display.h"
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +42,17 @@ std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command);
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths);
 // The same with the range marked and applied. Throws WrongUsage for a bad range.
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, const RangeOptions& range);
+
+// The given range as indexes of a file with so many readings; nothing when none is given. Throws WrongUsage
+// for one whose ends are no numbers, turned round or outside the file.
+std::optional<IndexRange> indexRange(const RangeOptions& range, int count);
+
+// Adds --align.
+std::shared_ptr<bool> addAlign(CLI::App& command);
+// Opens files with the range applied as above; aligned, they are cut to the time that they share, so that
+// reading i of each stands for the same time. Throws Refused when they share none.
+OpenFiles openTogether(Context& context, const std::vector<std::string>& paths, const RangeOptions& range,
+                       bool align);
 
 // Says on standard error what must be known before the files are read side by side.
 void warnTogether(Context& context, const OpenFiles& open);

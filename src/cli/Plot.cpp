@@ -16,6 +16,7 @@ struct Options {
     std::shared_ptr<RangeOptions> range;
     std::shared_ptr<PowerOptions> power;
     std::shared_ptr<bool> json;
+    std::shared_ptr<bool> align;
     std::string to;
     std::string show = "avg";
     std::string yMin;
@@ -80,7 +81,7 @@ int run(Context& context, const Options& options) {
         throw WrongUsage("Name the picture to write with -o, or ask for --json");
     if (!options.to.empty() && !pictureKind(options.to))
         throw WrongUsage("-o: '" + options.to + "' must end in .png, .pdf or .svg");
-    OpenFiles open = openFiles(context, *options.files, *options.range);
+    OpenFiles open = openTogether(context, *options.files, *options.range, *options.align);
     const Plot plot = draw(context, open, options);
     if (const std::string shorter = shorterFiles(open.recordings); !shorter.empty())
         context.warn(shorter);
@@ -102,6 +103,7 @@ void addPlot(CLI::App& program, Context& shared) {
     options->range = addRange(command);
     options->power = addPowerOptions(command);
     options->json = addJson(command);
+    options->align = addAlign(command);
     command.add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
     command.add_option("--show", options->show, "what several Min/Max/Avg files show")
         ->check(CLI::IsMember({"avg", "max", "min"}));

@@ -13,6 +13,7 @@ struct Options {
     std::shared_ptr<RangeOptions> range;
     std::shared_ptr<PowerOptions> power;
     std::shared_ptr<bool> json;
+    std::shared_ptr<bool> align;
     bool table = false;
     bool summary = false;
 };
@@ -27,7 +28,7 @@ Json jsonOf(const Power& power, const Plot& plot, const std::string& title) {
 }
 
 int run(Context& context, const Options& options) {
-    const OpenFiles open = openFiles(context, *options.files, *options.range);
+    const OpenFiles open = openTogether(context, *options.files, *options.range, *options.align);
     const Power power = powerOfFiles(context, open, *options.power);
     warnTogether(context, open);
     if (*options.json) {
@@ -54,6 +55,7 @@ void addPower(CLI::App& program, Context& shared) {
     options->range = addRange(command);
     options->power = addPowerOptions(command);
     options->json = addJson(command);
+    options->align = addAlign(command);
     auto* table = command.add_flag("--table", options->table, "print the power table");
     auto* summary = command.add_flag("--summary", options->summary, "print the power summary (the default)");
     table->excludes("--json")->excludes(summary);
