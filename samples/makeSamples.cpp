@@ -156,6 +156,28 @@ void addStation(SampleFiles& files) {
         }
 }
 
+// What a load study shows: a feeder whose single-phase homes hang on red, five weeks of a feeder that comes
+// near its 400 A, and a recorder whose clamp stuck for nine hours and was struck once.
+void addStudies(SampleFiles& files) {
+    const char* const phases[] = {"red", "white", "blue"};
+    const double shares[] = {1.25, 0.95, 0.6};
+    for (std::size_t phase = 0; phase < 3; ++phase) {
+        const Setup setup = {"KWT",     'a', std::to_string(6001 + phase), "3C8", false, {2024, 2, 26, 0, 0},
+                             2 * 7 * 96};
+        const Feeder feeder = {164 * shares[phase], 0.95, 0.09, 61 + static_cast<std::uint32_t>(phase)};
+        files[std::string("study/unbalanced-") + phases[phase] + ".dat"] =
+            dataFile(setup, averages(setup, restless(feeder)));
+    }
+    const Setup full = {"PQX", 'a', "6011", "3B9", false, {2024, 6, 24, 0, 0}, 5 * 7 * 96};
+    files["study/near-rating.dat"] = dataFile(full, averages(full, restless({405, 0.5, 0.05, 71})));
+    const Setup stuck = {"PQX", 'a', "6012", "3AA", false, {2024, 10, 7, 0, 0}, 2 * 7 * 96};
+    std::vector<std::int16_t> readings = averages(stuck, restless({208, 0.7, 0.07, 73}));
+    const auto from = readings.begin() + 4 * 96 + 30;
+    std::fill_n(from, 36, *from);
+    readings[9 * 96 + 44] = 7210;
+    files["study/flat-and-spike.dat"] = dataFile(stuck, readings);
+}
+
 SampleFiles allSamples() {
     SampleFiles files;
     addFeeder(files);
@@ -163,6 +185,7 @@ SampleFiles allSamples() {
     addMinMaxAvg(files);
     addVoltage(files);
     addStation(files);
+    addStudies(files);
     return files;
 }
 
