@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "Goals.h"
 
-#include "link/DownloadReception.h"
+#include "link/DownloadSession.h"
 #include "platform/Folders.h"
 #include "platform/JournalFolder.h"
 #include "platform/QtWaiter.h"
@@ -37,6 +37,7 @@ public:
     void appendLog(const std::string&) override {}
     void progressVisible(bool) override {}
     void progress(int) override {}
+    void hint(const std::string&) override {}
     void busy(bool) override {}
     void mainStatus(const std::string&) override {}
 };
@@ -92,7 +93,6 @@ struct Desk {
     NoPrompt prompt;
     InstrumentState state;
     JournalFolder journal{folders::data() + "/bench-journal", files};
-    NoJournal noJournal;
     int callPoint = 0;
 
     Desk() {
@@ -104,11 +104,12 @@ struct Desk {
     // The way of the program: session, waiter, one character a read; the journal has a disk of its own to
     // wait for, and is measured with the paced line.
     double downloadAtFullSpeed() {
-        Session session(line, waiter, prompt, panel, state, noJournal, callPoint);
+        // Not begun: it keeps nothing.
+        Session session({line, waiter, prompt, state, journal, callPoint}, panel);
         session.openPort();
         const double start = now();
         std::thread instrument([this] { pour(pty, text); });
-        const auto received = DownloadReception(session, Waiter::never).run();
+        const auto received = InstrumentWait(session, downloadPolicy(panel)).run();
         const double taken = now() - start;
         instrument.join();
         session.closePort();
@@ -138,7 +139,8 @@ struct Desk {
     }
 
     double idle() {
-        Session session(line, waiter, prompt, panel, state, noJournal, callPoint);
+        // Not begun: it keeps nothing.
+        Session session({line, waiter, prompt, state, journal, callPoint}, panel);
         session.openPort();
         const double start = processorTime();
         const std::int64_t end = waiter.now() + watched;
@@ -150,7 +152,7 @@ struct Desk {
     }
 
     double paced() {
-        Session session(line, waiter, prompt, panel, state, journal, callPoint);
+        Session session({line, waiter, prompt, state, journal, callPoint}, panel);
         session.openPort();
         journal.begin({});
         std::thread instrument([this] {
@@ -163,7 +165,7 @@ struct Desk {
             }
         });
         const double start = processorTime();
-        const auto received = DownloadReception(session, Waiter::never).run();
+        const auto received = InstrumentWait(session, downloadPolicy(panel)).run();
         const double used = processorTime() - start;
         instrument.join();
         session.closePort();

@@ -8,9 +8,12 @@
 #include "app/TLY_File.h"
 #include "app/Views.h"
 #include "app/forms/Words.h"
+#include "control/Rescue.h"
+#include "core/RecentFiles.h"
 #include "core/SaveText.h"
 #include "core/Text1252.h"
 #include "link/Rescue.h"
+#include "link/SavedDownload.h"
 
 namespace tally {
 
@@ -19,6 +22,7 @@ namespace {
 // More would fill the window; the others come up when these are settled.
 constexpr std::size_t mostNotices = 3;
 const QString problemKey = QStringLiteral("journal");
+const QString savedKey = QStringLiteral("saved download");
 
 // Instruments end their lines with CR LF, LF CR or one of them alone; shown, each is one line end.
 std::string shownLines(const std::string& text) {
@@ -38,18 +42,35 @@ std::string shownLines(const std::string& text) {
 
 } // namespace
 
-void TLY_Downloads::take(std::optional<PendingDownload> accepted) {
+void TLY_Downloads::take(const SessionResult<PendingDownload>& accepted) {
     if (!accepted)
         return;
     services_.recordings.gText = accepted->text;
-    pending_ = std::move(accepted);
+    pending_ = *accepted;
     menus_.apply(MenuEvent::textKept);
 }
 
-void TLY_Downloads::pendingSaved() {
-    const std::string id = pending_ ? pending_->id : std::string();
+FileQuestion TLY_Downloads::question(const std::string& text) const {
+    return saveQuestion(text, services_.settings, folder_.forDialog(), saveFilter);
+}
+
+void TLY_Downloads::pendingSaved(const std::string& path) {
+    if (!pending_)
+        return;
+    const PendingDownload done = *pending_;
     pending_.reset();
-    settle(id, JournalState::saved);
+    settle(done.id, JournalState::saved);
+    saved(done.text, path);
+}
+
+// Where it went, with a way to open it; the next one is proposed beside it.
+void TLY_Downloads::saved(const std::string& text, const std::string& path) {
+    noteSaved(services_.settings, path);
+    menus_.showMru(recentFiles(services_.settings), services_.recordings.freeSlot() >= 0);
+    notices_.put(savedKey, words(savedText(text, path)), {{QStringLiteral("Open"), [this, path] {
+                                                               notices_.remove(savedKey);
+                                                               open_(path);
+                                                           }}});
 }
 
 void TLY_Downloads::showNotices() {
@@ -69,7 +90,7 @@ void TLY_Downloads::notice(const JournalEntry& entry) {
     const std::string id = entry.id;
     std::vector<NoticeAction> actions = {{QStringLiteral("Show"), on([this, entry] { show(entry); })}};
     if (entry.state != JournalState::accepted)
-        actions.push_back({QStringLiteral("Validate"), on([this, id] { validate(id); })});
+        actions.push_back({QStringLiteral("Validate"), on([this, entry] { validate(entry); })});
     actions.push_back({QStringLiteral("Save As..."), on([this, id] { saveAs(id); })});
     actions.push_back({QStringLiteral("Drop"), on([this, id] { drop(id); })});
     keys_.append(QStringLiteral("reception ") + words(id));
@@ -80,20 +101,20 @@ void TLY_Downloads::show(const JournalEntry& entry) {
     views_.showReception(toUtf8(shownLines(services_.link.journal.text(entry.id))), receptionText(entry));
 }
 
-void TLY_Downloads::validate(const std::string& id) {
-    take(validateReception(services_.link.journal, id, services_.prompt));
+void TLY_Downloads::validate(const JournalEntry& entry) {
+    take(rescue(services_.link.journal, entry, services_.prompt));
     showNotices();
 }
 
 void TLY_Downloads::saveAs(const std::string& id) {
     const Services& s = services_;
     const std::string text = s.link.journal.text(id);
-    const auto path =
-        s.prompt.chooseFile({.save = true, .filter = std::string(saveFilter), .folder = folder_.forDialog()});
+    const auto path = s.prompt.chooseFile(question(text));
     if (!path)
         return;
     s.files.write(*path, tally::quoted(text));
     settle(id, JournalState::saved);
+    saved(text, *path);
 }
 
 void TLY_Downloads::drop(const std::string& id) {

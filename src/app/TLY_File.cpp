@@ -164,13 +164,12 @@ Done TLY_File::saveWhole(int slot) {
 void TLY_File::savePending() {
     const auto& pending = parts_.downloads.pending();
     const std::string text = tally::quoted(pending ? pending->text : services_.recordings.gText);
-    const auto path = services_.prompt.chooseFile(
-        {.save = true, .filter = std::string(saveFilter), .folder = parts_.folder.forDialog()});
+    const auto path = services_.prompt.chooseFile(parts_.downloads.question(text));
     if (!path)
         return;
     services_.files.write(*path, text);
     if (pending)
-        parts_.downloads.pendingSaved();
+        parts_.downloads.pendingSaved(*path);
     parts_.menus.apply(MenuEvent::saved);
 }
 

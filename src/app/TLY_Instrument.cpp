@@ -81,7 +81,7 @@ void TLY_Instrument::mnuItemDownload_Click() {
 }
 
 void TLY_Instrument::mnuItemInitialize_Click() {
-    session([&] { runInitialize(window_, context_, services_.link.journal); });
+    session([&] { runInitialize(window_, context_); });
 }
 
 void TLY_Instrument::mnuItemRecover_Click() {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "app/Services.h"
-#include "link/forms/SessionContext.h"
+#include "link/Session.h"
 
 #include <functional>
 
@@ -38,7 +38,7 @@ private:
     Menus& menus_;
     StatusPanels& status_;
     QMainWindow* window_; // for the dialogs, and its menu bar
-    SessionContext context_;
+    SessionServices context_;
 };
 
 } // namespace tally

@@ -54,6 +54,7 @@ void TLY::connectStartPage() {
     connect(&start, &StartPage::downloadWanted, &menus_->item("mnuItemDownload"), &QAction::trigger);
     connect(&start, &StartPage::helpWanted, &menus_->item("mnuItemHelp"), &QAction::trigger);
     connect(&start, &StartPage::sampleWanted, this, [this] { openFiles({TLY_File::sample()}, true); });
+    commands_->downloads.onOpen([this](const std::string& path) { openFiles({path}); });
 }
 
 void TLY::openFiles(const std::vector<std::string>& paths, bool plot) {

@@ -12,6 +12,7 @@
 #include "platform/SafeFile.h"
 #include "platform/SerialLine.h"
 #include "platform/SimulatedInstrument.h"
+#include "platform/StandardStreams.h"
 #include "platform/UserSettings.h"
 
 #include <QApplication>
@@ -86,6 +87,7 @@ struct Link {
 } // namespace
 
 int main(int argc, char** argv) {
+    tally::holdStandardStreams();
     const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyline"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TALLY_VERSION));

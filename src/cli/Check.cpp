@@ -56,7 +56,7 @@ int check(Context& context, const CheckOptions& options) {
         flags = found.flags;
     }
     std::string text = unquoted(context.files().read(options.file, mostDataBytes));
-    LinkPrompt prompt(context, Answer::No);
+    LinkPrompt prompt(context, {});
     InsertErrors(text, flags, prompt);
     const ValidationCounts counts = validate(text, flags.enableChange999sTo000);
     const std::string report = flags.enableErrorReport ? errorReport(counts) : std::string();

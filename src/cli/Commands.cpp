@@ -7,7 +7,7 @@ const std::vector<AddCommand>& allCommands() {
     static const std::vector<AddCommand> all = {
         addInfo,  addReadings, addSave,     addCheck,  addTable,   addSummary, addPower,
         addPlot,  addStudy,    addLoading,  addNotes,  addForce,   addExport,  addSurvey,
-        addTypes, addPorts,    addDownload, addStatus, addRecover, addInit,
+        addTypes, addPorts,    addDownload, addStatus, addRecover, addInit,    addJournal,
     };
     return all;
 }

@@ -28,5 +28,6 @@ void addDownload(CLI::App& program, Context& context);
 void addStatus(CLI::App& program, Context& context);
 void addRecover(CLI::App& program, Context& context);
 void addInit(CLI::App& program, Context& context);
+void addJournal(CLI::App& program, Context& context);
 
 } // namespace tally::cli

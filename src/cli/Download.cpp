@@ -12,21 +12,22 @@ namespace {
 struct DownloadOptions {
     std::shared_ptr<LinkOptions> link;
     std::shared_ptr<double> wait;
+    std::shared_ptr<HeaderOptions> header;
     std::string output;
-    std::string initialized;
     bool yes = false;
     bool no = false;
 };
 
 int download(Context& context, const DownloadOptions& options) {
-    if (!options.initialized.empty() && !parseHeaderTime(options.initialized))
-        throw WrongUsage("--initialized: '" + options.initialized + "' is no date and time");
-    InstrumentLink link(context, *options.link, options.yes ? Answer::Yes : Answer::No);
-    link.prompt.setInitialized(options.initialized);
-    DownloadSession session(link.session, waitFor(*options.wait));
-    if (!session.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString()))
-        return link.refused();
-    return link.keep(session.DownLoadProc(), options.output);
+    InstrumentLink link(context, *options.link,
+                        options.header->answers(options.yes ? Answer::Yes : Answer::No));
+    checkOutput(options.output);
+    Session session(link.services(), link.panel);
+    DownloadSession download(session, waitFor(*options.wait));
+    if (const auto ready = download.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString());
+        !ready)
+        return link.refused(ready.error());
+    return link.keep(download.DownLoadProc(), options.output);
 }
 
 } // namespace
@@ -39,8 +40,7 @@ void addDownload(CLI::App& program, Context& shared) {
     options->link = addLink(command);
     options->wait = addWait(command);
     command.add_option("-o,--output", options->output, "the data file to write")->required();
-    command.add_option("--initialized", options->initialized,
-                       "when the recording began, \"mm-dd-yy hh:mm\", for a header without a time");
+    options->header = addHeaderOptions(command);
     CLI::Option* yes = command.add_flag("--yes", options->yes, "keep a download with errors");
     command.add_flag("--no", options->no, "drop a download with errors (as without it)")->excludes(yes);
 }

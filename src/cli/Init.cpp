@@ -4,7 +4,6 @@
 #include "control/Initialize.h"
 #include "control/KnownDownloads.h"
 #include "control/ModeLetter.h"
-#include "control/ReadBack.h"
 
 namespace tally::cli {
 
@@ -15,31 +14,9 @@ struct InitOptions {
     ModeChoice mode;
     std::string record;
     std::string full;
+    std::shared_ptr<double> wait;
     bool yes = false;
-};
-
-// One instrument a call: a cancelled session is not begun again. Keeps the report of the read-back.
-class InitPrompt : public LinkPrompt {
-public:
-    InitPrompt(Context& context, const Waiter& waiter, bool erase)
-        : LinkPrompt(context, Answer::No), waiter_(waiter), erase_(erase) {}
-
-    Answer show(const Message& message) override {
-        if (message.buttons == Buttons::YesNo) {
-            report_ = message.text.substr(0, message.text.rfind(anotherQuestion));
-            return Answer::No;
-        }
-        if (message.buttons == Buttons::OkCancel && waiter_.cancelRequested())
-            return Answer::Cancel;
-        LinkPrompt::show(message);
-        return erase_ ? Answer::Ok : Answer::Cancel;
-    }
-    const std::string& report() const { return report_; }
-
-private:
-    const Waiter& waiter_;
-    bool erase_;
-    std::string report_;
+    bool eraseUnsaved = false;
 };
 
 // Shows of a label that grows what is new.
@@ -69,19 +46,27 @@ std::string asLines(const std::string& text) {
 }
 
 int initialize(Context& context, const InitOptions& options) {
-    InstrumentLink link(context, *options.link);
-    InitPrompt prompt(context, link.waiter, options.yes);
+    InstrumentLink link(context, *options.link,
+                        {.yesOrNo = options.eraseUnsaved ? Answer::Yes : Answer::No,
+                         .okOrCancel = options.yes ? Answer::Ok : Answer::Cancel});
     context.warn(knownDownloads(link.journal.list()));
-    if (!mnuItemInitialize_Click(link.line, link.instrument, prompt)) {
+    TracePanel panel(context, options.link->log);
+    Session session(link.services(), panel);
+    if (const auto ready = mnuItemInitialize_Click(session); !ready) {
         if (!options.yes)
             context.warn("Nothing was sent; --yes goes on");
-        return link.refused();
+        return status::refused;
     }
-    TracePanel panel(context, options.link->log);
-    InitializeSession session(link.line, link.waiter, prompt, panel, link.instrument, link.gErrorCallPoint);
-    if (session.Initialize(modeLetter(options.mode)) == 0)
-        return link.refused();
-    context.out(asLines(prompt.report()));
+    InitializeSession initialization(link.services(), panel,
+                                     {.waitFor = waitFor(*options.wait), .once = true});
+    const auto settings = initialization.Initialize(modeLetter(options.mode));
+    if (!settings) {
+        if (settings.error().kind == EndKind::unsavedDownload)
+            context.warn("No was taken: nothing was sent. Save the download (tallyline-cli journal save) or "
+                         "drop it, or say --erase-unsaved.");
+        return link.refused(settings.error());
+    }
+    context.out(asLines(settings->report));
     return status::done;
 }
 
@@ -97,6 +82,7 @@ void addInit(CLI::App& program, Context& shared) {
                                        return initialize(context, *options);
                                    });
     options->link = addLink(command);
+    options->wait = addWait(command);
     command.add_option("--interval", options->mode.minutes, "minutes per interval: 15, 5 or 1")
         ->required()
         ->check(CLI::IsMember({15, 5, 1}));
@@ -108,6 +94,8 @@ void addInit(CLI::App& program, Context& shared) {
         ->required()
         ->check(CLI::IsMember({"loop", "stop"}));
     command.add_flag("--yes", options->yes, "erase what the instrument holds");
+    command.add_flag("--erase-unsaved", options->eraseUnsaved,
+                     "also while a download of this instrument is not saved");
 }
 
 } // namespace tally::cli

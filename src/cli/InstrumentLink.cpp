@@ -2,11 +2,14 @@
 #include "cli/InstrumentLink.h"
 
 #include "cli/OpenFiles.h"
+#include "core/Fault.h"
 #include "core/SaveText.h"
 #include "link/Instruments.h"
+#include "link/MissingMode.h"
 #include "link/PortChoice.h"
 #include "link/Rescue.h"
 #include "platform/Folders.h"
+#include "platform/OutputPlace.h"
 #include "platform/PortList.h"
 
 #include <QCoreApplication>
@@ -17,6 +20,8 @@ namespace tally::cli {
 
 namespace {
 
+constexpr std::uint64_t largestRecording = 205100 + 64; // characters of a reception, and their quotes
+
 // A device, or nothing for a COM port number.
 std::string deviceOf(const std::string& port) {
     if (port.find_first_of("/\\") != std::string::npos)
@@ -25,7 +30,9 @@ std::string deviceOf(const std::string& port) {
 }
 
 int commPortOf(const std::string& port, const Settings& settings) {
-    if (port.empty() || !deviceOf(port).empty())
+    if (!deviceOf(port).empty())
+        return 0;
+    if (port.empty())
         return storedCommPort(settings);
     if (port.size() != 1 || port[0] < '1' || port[0] > '8')
         throw WrongUsage("--port: '" + port + "' is neither a COM port, 1 to 8, nor the path of a device");
@@ -44,6 +51,7 @@ InstrumentState stateOf(Context& context, const LinkOptions& options) {
         throw WrongUsage("--type: '" + options.type + "' is no instrument type");
     InstrumentState state;
     state.gCommPort = commPortOf(options.port, context.settings());
+    state.devicePath = deviceOf(options.port);
     applySelection(state, *type);
     return state;
 }
@@ -71,18 +79,38 @@ std::int64_t waitFor(double seconds) {
 }
 
 Answer LinkPrompt::show(const Message& message) {
-    told_.insert(message.text);
     context_.warn(message.title == Message().title ? message.text : message.title + ": " + message.text);
-    return message.buttons == Buttons::YesNo ? yesOrNo_ : Answer::Ok;
+    if (message.buttons == Buttons::YesNo)
+        return answers_.yesOrNo;
+    return message.buttons == Buttons::OkCancel ? answers_.okOrCancel : Answer::Ok;
 }
 
 std::optional<std::string> LinkPrompt::input(const InputQuestion& question) {
     context_.warn(question.text);
-    if (initialized_.empty()) {
-        context_.warn("(--initialized gives it)");
+    // Only the mode is chosen from a list.
+    const bool asksMode = !question.choices.empty();
+    std::string& answer = asksMode ? answers_.mode : answers_.initialized;
+    if (answer.empty()) {
+        context_.warn(asksMode ? "(--mode gives it)" : "(--initialized gives it)");
         return {};
     }
-    return std::exchange(initialized_, std::string());
+    return std::exchange(answer, std::string());
+}
+
+LinkAnswers HeaderOptions::answers(Answer yesOrNo) const {
+    if (!initialized.empty() && !parseHeaderTime(initialized))
+        throw WrongUsage("--initialized: '" + initialized + "' is no date and time");
+    if (!mode.empty() && !modeOfAnswer(mode))
+        throw WrongUsage("--mode: '" + mode + "' is no mode letter, a to l");
+    return {.yesOrNo = yesOrNo, .initialized = initialized, .mode = mode};
+}
+
+std::shared_ptr<HeaderOptions> addHeaderOptions(CLI::App& command) {
+    auto options = std::make_shared<HeaderOptions>();
+    command.add_option("--initialized", options->initialized,
+                       "when the recording began, \"mm-dd-yy hh:mm\", for a header without a time");
+    command.add_option("--mode", options->mode, "mode letter, a to l, for a header whose own cannot be read");
+    return options;
 }
 
 std::optional<std::string> LinkPrompt::chooseFile(const FileQuestion&) {
@@ -107,15 +135,14 @@ void LinkPanel::appendLog(const std::string& text) {
         context_.warn(text);
 }
 
-InstrumentLink::InstrumentLink(Context& context, const LinkOptions& options, Answer yesOrNo)
+InstrumentLink::InstrumentLink(Context& context, const LinkOptions& options, LinkAnswers answers)
     : simulated(simulatedDevice(context)),
       line([this, given = deviceOf(options.port)](int commPort) { return device(commPort, given); }),
       waiter(line, context.clock()),
-      prompt(context, yesOrNo),
+      prompt(context, std::move(answers)),
       panel(context, options.log),
       instrument(stateOf(context, options)),
       journal(folders::data() + "/journal", context.files()),
-      session(line, waiter, prompt, panel, instrument, journal, gErrorCallPoint),
       context_(context) {
     journal.onProblem([&context](const std::string& text) { context.warn(text); });
 }
@@ -123,7 +150,8 @@ InstrumentLink::InstrumentLink(Context& context, const LinkOptions& options, Ans
 InstrumentLink::~InstrumentLink() {
     for (const JournalEntry& entry : unsavedReceptions(journal))
         if (entry.id == journal.id())
-            context_.warn("What was received is kept: the window offers it at its next start.");
+            context_.warn("What was received is kept: the window offers it at its next start, and "
+                          "tallyline-cli journal list names it.");
 }
 
 std::string InstrumentLink::device(int commPort, const std::string& given) {
@@ -135,21 +163,41 @@ std::string InstrumentLink::device(int commPort, const std::string& given) {
     return simulated.device();
 }
 
-int InstrumentLink::refused() {
+int InstrumentLink::refused(const SessionEnd& end) {
     if (waiter.cancelRequested())
         context_.warn("Cancelled");
-    else if (!line.problem().empty() && !prompt.told(line.problem()))
-        context_.warn(line.problem());
+    else if (end.kind == EndKind::declined)
+        context_.warn(end.why.message());
     return status::refused;
 }
 
-int InstrumentLink::keep(const std::optional<PendingDownload>& received, const std::string& path) {
+int InstrumentLink::keep(const SessionResult<PendingDownload>& received, const std::string& path) {
     if (!received)
-        return refused();
-    writeFile(context_, path, tally::quoted(received->text));
-    if (!received->id.empty())
-        journal.mark(received->id, JournalState::saved);
+        return refused(received.error());
+    saveRecording(context_, journal, *received, path);
     return status::done;
+}
+
+void checkOutput(const std::string& path) {
+    try {
+        checkOutputPlace(path, largestRecording);
+    } catch (const Fault& fault) {
+        throw Refused(std::string(fault.what()) + "\n" + path +
+                      " could not be written. Nothing was asked of the instrument.");
+    }
+}
+
+void saveRecording(Context& context, Journal& journal, const PendingDownload& recording,
+                   const std::string& path) {
+    writeFile(context, path, tally::quoted(recording.text));
+    if (recording.id.empty())
+        return;
+    try {
+        journal.mark(recording.id, JournalState::saved);
+    } catch (const Fault& fault) {
+        context.warn(path + " is saved, but the journal could not note it (" + fault.what() +
+                     "): it will offer this recording again.");
+    }
 }
 
 } // namespace tally::cli

@@ -3,8 +3,8 @@
 
 #include "cli/Command.h"
 #include "core/Prompt.h"
-#include "link/DownloadSession.h"
 #include "link/InstrumentState.h"
+#include "link/ReceivedRecording.h"
 #include "link/Session.h"
 #include "platform/JournalFolder.h"
 #include "platform/QtWaiter.h"
@@ -14,7 +14,6 @@
 
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 
 namespace tally::cli {
@@ -32,24 +31,35 @@ std::shared_ptr<LinkOptions> addLink(CLI::App& command);
 std::shared_ptr<double> addWait(CLI::App& command);
 std::int64_t waitFor(double seconds);
 
-// Tells everything on standard error. OK is taken as pressed, a question of yes or no is answered as the call
-// says; the date of the field initialization is given once, when the call has it.
+// What a call answers in advance.
+struct LinkAnswers {
+    Answer yesOrNo = Answer::No;
+    Answer okOrCancel = Answer::Ok;
+    std::string initialized = {}; // date of the field initialization
+    std::string mode = {};        // mode letter for a header whose own cannot be read
+};
+
+// Tells everything on standard error and answers as the call says; date and mode letter are given once.
 class LinkPrompt : public Prompt {
 public:
-    LinkPrompt(Context& context, Answer yesOrNo) : context_(context), yesOrNo_(yesOrNo) {}
+    LinkPrompt(Context& context, LinkAnswers answers) : context_(context), answers_(std::move(answers)) {}
     Answer show(const Message& message) override;
     std::optional<std::string> input(const InputQuestion& question) override;
     std::optional<std::string> chooseFile(const FileQuestion& question) override;
-    void setInitialized(const std::string& date) { initialized_ = date; }
-    // Whether this text was shown.
-    bool told(const std::string& text) const { return told_.contains(text); }
 
 private:
     Context& context_;
-    std::set<std::string> told_;
-    std::string initialized_;
-    Answer yesOrNo_;
+    LinkAnswers answers_;
 };
+
+// Adds --initialized and --mode, which a damaged header needs. Throws WrongUsage when they are asked for and
+// make no sense.
+struct HeaderOptions {
+    std::string initialized;
+    std::string mode;
+    LinkAnswers answers(Answer yesOrNo) const;
+};
+std::shared_ptr<HeaderOptions> addHeaderOptions(CLI::App& command);
 
 // Shows on standard error what the dialog of a session would show; a text that stays is shown once.
 class LinkPanel : public Panel {
@@ -63,6 +73,7 @@ public:
     void appendLog(const std::string& text) override;
     void progressVisible(bool) override {}
     void progress(int) override {}
+    void hint(const std::string& text) override { show(hint_, text); }
     void busy(bool) override {}
     void mainStatus(const std::string& text) override { show(mainStatus_, text); }
 
@@ -75,6 +86,7 @@ private:
     std::string prompt_;
     std::string status_;
     std::string progress_;
+    std::string hint_;
     std::string mainStatus_;
 };
 
@@ -99,17 +111,18 @@ private:
 // or port.
 class InstrumentLink {
 public:
-    InstrumentLink(Context& context, const LinkOptions& options, Answer yesOrNo = Answer::No);
+    InstrumentLink(Context& context, const LinkOptions& options, LinkAnswers answers = {});
     // Says when something was received that no file holds.
     ~InstrumentLink();
     InstrumentLink(const InstrumentLink&) = delete;
     InstrumentLink& operator=(const InstrumentLink&) = delete;
 
-    // The exit status of a refused call, after saying what the line or Ctrl+C had to do with it.
-    int refused();
+    SessionServices services() { return {line, waiter, prompt, instrument, journal, gErrorCallPoint}; }
+    // The exit status of a session that ended without a result, after saying what was not told yet.
+    int refused(const SessionEnd& end);
     // The end of a call that receives a recording: writes the file and notes in the journal that it is saved,
     // or says why there is none. Gives the exit status; throws Refused when the file cannot be written.
-    int keep(const std::optional<PendingDownload>& received, const std::string& path);
+    int keep(const SessionResult<PendingDownload>& received, const std::string& path);
 
     SimulatedInstrument simulated;
     SerialLine line;
@@ -119,7 +132,6 @@ public:
     InstrumentState instrument;
     JournalFolder journal;
     int gErrorCallPoint = 0;
-    Session session;
 
 private:
     // What is behind a COM port, or the device of the call; starts the simulated instrument.
@@ -127,5 +139,13 @@ private:
 
     Context& context_;
 };
+
+// Refuses, before an instrument is asked for anything, a place where the largest recording could not be
+// written.
+void checkOutput(const std::string& path);
+
+// Writes an accepted recording and notes in the journal that it is saved.
+void saveRecording(Context& context, Journal& journal, const PendingDownload& recording,
+                   const std::string& path);
 
 } // namespace tally::cli

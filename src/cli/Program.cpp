@@ -3,6 +3,7 @@
 
 #include "cli/Command.h"
 #include "core/Fault.h"
+#include "platform/StandardStreams.h"
 
 namespace tally::cli {
 
@@ -54,6 +55,7 @@ int runAction(Context& context, const CLI::App& program) {
 } // namespace
 
 int runProgram(int argc, char** argv) {
+    holdStandardStreams();
     Context context(argc, argv);
     CLI::App program("Recordings of portable load recorders, and the instruments, without a window",
                      "tallyline-cli");

@@ -10,15 +10,18 @@ namespace {
 
 struct RecoverOptions {
     std::shared_ptr<LinkOptions> link;
+    std::shared_ptr<double> wait;
     std::string output;
 };
 
 int recover(Context& context, const RecoverOptions& options) {
     InstrumentLink link(context, *options.link);
-    RecoverSession session(link.session);
-    if (!session.mnuItemRecover_Click())
-        return link.refused();
-    return link.keep(session.RecoverProc(context.files(), folders::recoverFile()), options.output);
+    checkOutput(options.output);
+    Session session(link.services(), link.panel);
+    RecoverSession recover(session, waitFor(*options.wait));
+    if (const auto ready = recover.mnuItemRecover_Click(); !ready)
+        return link.refused(ready.error());
+    return link.keep(recover.RecoverProc(context.files(), folders::recoverFile()), options.output);
 }
 
 } // namespace
@@ -29,6 +32,7 @@ void addRecover(CLI::App& program, Context& shared) {
         addCommand(program, shared, "recover", "recover the recording of an instrument whose battery failed",
                    [options](Context& context) { return recover(context, *options); });
     options->link = addLink(command);
+    options->wait = addWait(command);
     command.add_option("-o,--output", options->output, "the data file to write")->required();
 }
 

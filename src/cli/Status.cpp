@@ -30,10 +30,10 @@ Json asJson(const StatusFields& fields) {
 int checkStatus(Context& context, const StatusOptions& options) {
     InstrumentLink link(context, *options.link);
     link.panel.hidePrompts();
-    StatusCheckSession session(link.session, waitFor(*options.wait));
-    const auto fields = session.StatusCheck();
+    Session session(link.services(), link.panel);
+    const auto fields = StatusCheckSession(session, waitFor(*options.wait)).StatusCheck();
     if (!fields)
-        return link.refused();
+        return link.refused(fields.error());
     if (*options.json) {
         outJson(context, asJson(*fields));
     } else {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/Initialize.h"
 
+#include "control/KnownDownloads.h"
 #include "control/ModeLetter.h"
-#include "control/ReadBack.h"
-#include "control/ResponseWait.h"
-#include "core/Fault.h"
+#include "control/ResponsePolicy.h"
+#include "core/Header.h"
 #include "core/Text1252.h"
 #include "link/PromptTexts.h"
 
@@ -20,8 +20,6 @@ const char* const initializing = "INITIALIZING...\r"
                                  "  - May take around 15 seconds\r\r"
                                  "(You can cancel at any time)";
 
-const char* const portClosed = "Terminating the initialization";
-
 constexpr char selectMode = '\x09'; // TAB: the instrument has modes to choose from
 constexpr char noModes = '\x14';    // DC4: it has none
 constexpr char ctrlZ = '\x1a';
@@ -30,52 +28,78 @@ constexpr std::int64_t beforeInitString = 500; // milliseconds
 
 } // namespace
 
-bool mnuItemInitialize_Click(Line& line, const InstrumentState& instrument, Prompt& prompt) {
-    if (prompt.show({.text = warning, .buttons = Buttons::OkCancel, .exclamation = true}) == Answer::Cancel)
-        return false;
-    try {
-        probePort(line, instrument.gCommPort);
-    } catch (const Fault&) {
-        prompt.tell(badPortText);
-        return false;
-    }
-    return true;
+SessionResult<void> mnuItemInitialize_Click(Session& session) {
+    const Message question = {
+        .text = warning, .buttons = Buttons::OkCancel, .exclamation = true, .defaultAnswer = Answer::Cancel};
+    if (session.prompt.show(question) == Answer::Cancel)
+        return tl::make_unexpected(SessionEnd{EndKind::declined});
+    return session.probe();
 }
 
-InitializeSession::InitializeSession(Line& line, Waiter& waiter, Prompt& prompt, Panel& panel,
-                                     InstrumentState& instrument, int& gErrorCallPoint)
-    : label_(panel), session_(line, waiter, prompt, label_, instrument, noJournal_, gErrorCallPoint) {
-    session_.stopsAtCtrlZ = false;
-}
+InitializeSession::InitializeSession(const SessionServices& services, Panel& panel,
+                                     const InitializeRules& rules)
+    : label_(panel), session_(services, label_), hint_(session_), rules_(rules) {}
 
-int InitializeSession::Initialize(char IMode) {
+SessionResult<ReadBack> InitializeSession::Initialize(char IMode) {
     Outcome outcome = Outcome::another;
-    while (outcome == Outcome::another || outcome == Outcome::abandoned)
+    last_.reset();
+    while (outcome == Outcome::another || (outcome == Outcome::abandoned && !rules_.once))
         outcome = one(IMode);
-    return count_;
+    if (!last_)
+        return tl::make_unexpected(end_);
+    return *last_;
 }
 
 InitializeSession::Outcome InitializeSession::one(char IMode) {
     session_.waiter.resetCancel();
-    const Message connect = {.text = connectionPrompt(session_.instrument), .buttons = Buttons::OkCancel};
+    end_ = {};
+    const Message connect = {.text = connectionPrompt(session_.instrument),
+                             .buttons = Buttons::OkCancel,
+                             .defaultAnswer = Answer::Cancel};
     if (session_.prompt.show(connect) == Answer::Cancel)
         return Outcome::ended;
     session_.panel.status(initializing);
     const PortGuard guard(session_);
-    try {
-        session_.openPort();
-    } catch (const Fault&) {
-        session_.prompt.tell(badPortText);
+    if (const auto opened = session_.open(); !opened) {
+        end_ = opened.error();
         return Outcome::ended;
     }
     return exchange(IMode);
 }
 
+// The response header of the instrument; nothing when none came, which was told.
+std::optional<HeaderScan> InitializeSession::waitForResponse() {
+    auto received = InstrumentWait(session_, responsePolicy(session_.instrument, rules_.waitFor)).run();
+    if (received && received->scan.line().size() >= tokenLength)
+        return received->scan;
+    end_ = received ? session_.end(EndKind::wrongResponse, {fragmentText(received->scan.line())}).value()
+                    : received.error();
+    return {};
+}
+
+// Whether the memory of an instrument may go: not while its download waits to be saved, unless the user says
+// so.
+bool InitializeSession::mayErase(const std::string& serial) {
+    const std::string unsaved = unsavedDownloadsOf(serial, session_.journal);
+    if (unsaved.empty())
+        return true;
+    const Message question = {.text =
+                                  unsaved + "\r\nInitializing erases the instrument. Initialize it anyway?",
+                              .buttons = Buttons::YesNo,
+                              .exclamation = true,
+                              .defaultAnswer = Answer::No};
+    if (session_.prompt.show(question) == Answer::Yes)
+        return true;
+    end_ = {EndKind::unsavedDownload, {unsaved}};
+    return false;
+}
+
 InitializeSession::Outcome InitializeSession::exchange(char IMode) {
-    ResponseWait wait(session_);
-    if (!wait.run())
+    const auto response = waitForResponse();
+    abortFrmErrorFlag_ = !response;
+    if (abortFrmErrorFlag_ || !mayErase(std::string(headerField(response->line(), column::serial))))
         return Outcome::ended;
-    const char mode = wait.receivedText()[2];
+    const char mode = response->line()[2];
     label_.append("\r\nIMode$=" + toUtf8(std::string(1, mode)));
     session_.pause(session_.waiter.now() + beforeCommand);
     const bool hasModes = mode != ' ';
@@ -92,10 +116,11 @@ InitializeSession::Outcome InitializeSession::exchange(char IMode) {
     if (!send(Initstring))
         return stopped();
     const auto answer = readAnswer();
+    hint_.hide();
     if (!answer)
         return stopped();
     session_.closePort();
-    return report(*answer, wait.lowBattery());
+    return report(*answer, response->lowBattery());
 }
 
 // The read-back: from the family initial to ctrl/Z.
@@ -118,17 +143,25 @@ bool InitializeSession::send(std::string_view characters) {
     if (session_.waiter.cancelRequested() || !session_.line.isOpen())
         return false;
     session_.line.Output(characters);
+    hint_.start();
     return true;
 }
 
 // The next character; nothing after a cancel or when the line is gone.
 std::optional<char> InitializeSession::next() {
     for (;;) {
-        if (session_.until(Waiter::never) == Wake::cancelled)
+        const Wake wake = session_.until(hint_.deadline());
+        if (wake == Wake::cancelled)
             return {};
+        if (wake == Wake::due) {
+            hint_.onDue();
+            continue;
+        }
         const std::string input = session_.Input();
-        if (!input.empty())
+        if (!input.empty()) {
+            hint_.heard();
             return input[0];
+        }
         if (session_.lost())
             return {};
     }
@@ -140,20 +173,22 @@ InitializeSession::Outcome InitializeSession::stopped() {
     if (session_.waiter.cancelRequested() || session_.line.isOpen())
         return Outcome::abandoned;
     label_.append("\r\n" + session_.line.problem());
-    session_.prompt.tell(portClosed);
+    end_ = session_.end(EndKind::lineGone, {terminating, session_.line.problem()}).value();
     return Outcome::ended;
 }
 
 InitializeSession::Outcome InitializeSession::report(const std::string& answer, bool lowBattery) {
     Prompt& prompt = session_.prompt;
-    ++count_;
     if (lowBattery)
         prompt.show({.text = std::string("Initialization is complete, but...\r\n\r\n") + lowBatteryText,
                      .title = "WARNING",
                      .exclamation = true});
     const ReadBack settings = readBack(answer);
+    last_ = settings;
     if (settings.blankMode)
         prompt.tell(blankModeText);
+    if (rules_.once)
+        return Outcome::done;
     const Message question = {
         .text = settings.report + anotherQuestion, .buttons = Buttons::YesNo, .defaultAnswer = Answer::No};
     return prompt.show(question) == Answer::Yes ? Outcome::another : Outcome::done;

@@ -2,6 +2,7 @@
 #include "control/KnownDownloads.h"
 
 #include "core/Text1252.h"
+#include "link/Rescue.h"
 
 namespace tally {
 
@@ -51,6 +52,16 @@ std::string knownDownloads(const std::vector<JournalEntry>& newestFirst) {
     if (moreUnsaved > 0)
         line += ";  " + std::to_string(moreUnsaved) + " more NOT SAVED YET";
     return "Last downloads:  " + line;
+}
+
+std::string unsavedDownloadsOf(const std::string& serial, const Journal& journal) {
+    std::string lines;
+    if (serial.find_first_not_of(' ') == std::string::npos)
+        return lines;
+    for (const JournalEntry& entry : unsavedReceptions(journal))
+        if (entry.serial == serial)
+            lines += receptionText(entry) + "\r\n";
+    return lines.empty() ? lines : "A download of this instrument is not saved yet:\r\n" + lines;
 }
 
 } // namespace tally

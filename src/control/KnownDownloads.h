@@ -12,4 +12,8 @@ namespace tally {
 // to erase an instrument (UTF-8, without a line end).
 std::string knownDownloads(const std::vector<JournalEntry>& newestFirst);
 
+// The unsaved receptions of the instrument with a serial number (bytes), one a line; empty when there are
+// none or the number is blank.
+std::string unsavedDownloadsOf(const std::string& serial, const Journal& journal);
+
 } // namespace tally

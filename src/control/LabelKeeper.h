@@ -23,6 +23,7 @@ public:
     void appendLog(const std::string& text) override { panel_.appendLog(text); }
     void progressVisible(bool visible) override { panel_.progressVisible(visible); }
     void progress(int value) override { panel_.progress(value); }
+    void hint(const std::string& text) override { panel_.hint(text); }
     void busy(bool busy) override { panel_.busy(busy); }
     void mainStatus(const std::string& text) override { panel_.mainStatus(text); }
 

@@ -4,8 +4,11 @@
 #include "core/Fault.h"
 #include "core/Text1252.h"
 #include "link/InformationReport.h"
+#include "link/InstrumentWait.h"
 #include "link/Instruments.h"
 #include "link/PromptTexts.h"
+
+#include <algorithm>
 
 namespace tally {
 
@@ -15,12 +18,7 @@ const char* const caution = "                           CAUTION  \r"
                             "       DATA MAY NOT BE RECOVERED IF\r"
                             "            INSTRUMENT HAD BEEN IN \r"
                             " CONTINUOUS MODE AND MEMORY FILLED \r\r";
-const char* const notValid = "     NOT A VALID INSTRUMENT    \r         REMOVE THE CABLE NOW       \r\r";
-const char* const notVoltmeter = "Not Voltmeter";
 const char* const cableOff = "         OK TO REMOVE THE CABLE NOW       \r\r";
-const char* const notRecoverable = "    CONTINUOUS DATA; NOT RECOVERABLE     \r"
-                                   "  CANNOT DETERMINE STOPPED TIME \r\r";
-
 constexpr std::size_t mostCharacters = 80100;
 constexpr std::size_t shownCharacters = 47;
 constexpr std::size_t showEvery = 1000; // characters between two steps of the progress bar
@@ -64,92 +62,92 @@ private:
 
 } // namespace
 
-bool RecoverSession::mnuItemRecover_Click() {
+SessionResult<void> RecoverSession::mnuItemRecover_Click() {
     session_.waiter.resetCancel();
-    if (session_.instrument.instSelection == autoSelectType) {
-        session_.prompt.tell(autoSelectRefusal());
-        return false;
-    }
+    if (session_.instrument.instSelection == autoSelectType)
+        return session_.end(EndKind::wrongInstrument, {autoSelectRefusal()});
     session_.prompt.tell(caution);
-    try {
-        probePort(session_.line, session_.instrument.gCommPort);
-    } catch (const Fault&) {
-        session_.prompt.tell(badPortText);
-        return false;
-    }
+    if (auto there = session_.probe(); !there)
+        return there;
     session_.panel.prompt(connectionPrompt(session_.instrument, false));
-    return true;
+    return {};
 }
 
-std::optional<PendingDownload> RecoverSession::RecoverProc(Files& files, const std::string& temporary) {
-    const InstrumentState& instrument = session_.instrument;
-    session_.journal.begin({.commPort = instrument.gCommPort,
-                            .instrumentType = instrument.instSelection,
-                            .settings = instrument.portSettings,
-                            .pcTime = session_.waiter.localTime(),
-                            .command = "recover"});
+SessionResult<PendingDownload> RecoverSession::RecoverProc(Files& files, const std::string& temporary) {
+    session_.journal.begin(journalHeader(session_, "recover"));
     RecoverEnd end(session_);
-    session_.panel.status(" Cancel or Escape to quit\rCOM" + std::to_string(instrument.gCommPort) +
-                          "  in use");
+    session_.panel.status(" Cancel or Escape to quit\r" + portName(session_.instrument) + "  in use");
     session_.line.DTREnable(true);
-    try {
-        session_.openPort();
-    } catch (const Fault&) {
-        session_.prompt.tell(badPortText);
-        return {};
-    }
+    if (const auto opened = session_.open(); !opened)
+        return tl::make_unexpected(opened.error());
     session_.panel.progress(0);
-    const Step step = receive();
+    const auto received = receive();
     session_.closePort();
-    if (step != Step::complete) {
-        end.judged = step == Step::notValid || step == Step::notVoltmeter;
+    if (!received) {
+        end.judged = received.error().kind == EndKind::wrongInstrument;
         if (end.judged)
             session_.journal.end(JournalState::refused);
-        tellWhy(step);
         warnLowBattery();
-        return {};
+        return tl::make_unexpected(received.error());
     }
     end.judged = true;
     session_.journal.end(JournalState::received);
     session_.panel.progressVisible(false);
     session_.prompt.tell(cableOff);
-    auto recovered = join() ? workOut(files, temporary) : std::nullopt;
+    warnOfFollowers(followed_, session_.prompt);
+    auto recovered = join() ? workOut(files, temporary) : Session::cancelled();
     warnLowBattery();
     return recovered;
 }
 
-RecoverSession::Step RecoverSession::receive() {
-    for (Step step = Step::goOn;;) {
-        if (session_.until(Waiter::never) == Wake::cancelled)
-            return Step::cancelled;
+SessionResult<void> RecoverSession::receive() {
+    const std::int64_t deadline =
+        waitFor_ == Waiter::never ? Waiter::never : session_.waiter.now() + waitFor_;
+    if (deadline == Waiter::never)
+        hint_.start();
+    for (;;) {
+        const std::int64_t bound = text_.empty() ? deadline : Waiter::never;
+        const Wake wake = session_.until(std::min(bound, hint_.deadline()));
+        if (wake == Wake::cancelled)
+            return Session::cancelled();
+        if (wake == Wake::due) {
+            if (session_.waiter.now() >= bound)
+                return session_.end(EndKind::noResponse, {noResponseText(waitFor_) + "."});
+            hint_.onDue();
+            continue;
+        }
         const std::string input = session_.Input();
-        if (!input.empty())
-            step = onCharacter(input[0]);
-        else if (session_.lost())
-            return Step::lost;
-        if (step != Step::goOn)
-            return step;
+        if (input.empty() && session_.lost())
+            return session_.end(EndKind::lineGone, {session_.line.problem()});
+        if (input.empty())
+            continue;
+        if (const auto refusal = onCharacter(input[0])) {
+            const SessionEnd why = recoverEnd(*refusal);
+            return session_.end(why.kind, why.why);
+        }
+        if (input[0] == ctrlZ)
+            return watchEnd();
     }
 }
 
-RecoverSession::Step RecoverSession::onCharacter(char c) {
+// Whether more comes is what tells a stray end mark from the last.
+SessionResult<void> RecoverSession::watchEnd() {
+    if (session_.pause(session_.waiter.now() + DownloadProgress::interval) == Wake::cancelled)
+        return Session::cancelled();
+    followed_ = session_.unused();
+    return {};
+}
+
+std::optional<RecoverRefusal> RecoverSession::onCharacter(char c) {
+    hint_.heard();
     if (text_.empty())
         session_.panel.progressVisible(true);
     text_ += scan_.feed(c);
     if (text_.size() > mostCharacters)
         throw fault::subscript();
     countProgress();
-    return judge(c);
-}
-
-RecoverSession::Step RecoverSession::judge(char c) const {
     const std::size_t offset = scan_.started() ? text_.size() - 1 - scan_.startIndex() : 0;
-    const bool cutShort = c == ctrlZ && offset < recoverMarkOffset;
-    if (cutShort || (offset == recoverMarkOffset && c != 'T'))
-        return Step::notValid;
-    if (offset == recoverTypeOffset && c == 'A' && isVoltageRecorder(session_.instrument.instSelection))
-        return Step::notVoltmeter;
-    return c == ctrlZ ? Step::complete : Step::goOn;
+    return recoverRefusal(offset, c, session_.instrument.instSelection);
 }
 
 void RecoverSession::countProgress() {
@@ -164,19 +162,6 @@ void RecoverSession::countProgress() {
         session_.panel.progress(progress_);
 }
 
-void RecoverSession::tellWhy(Step step) {
-    switch (step) {
-    case Step::notValid:
-        return session_.prompt.tell(notValid);
-    case Step::notVoltmeter:
-        return session_.prompt.tell(notVoltmeter);
-    case Step::lost:
-        return session_.prompt.tell(session_.line.problem());
-    default:
-        return;
-    }
-}
-
 // Shows what has come and that it is being worked on. False when the user has cancelled.
 bool RecoverSession::join() {
     session_.panel.status(toUtf8(text_.substr(0, shownCharacters)) + "\rPROCESSING DATA; WAIT");
@@ -189,24 +174,26 @@ bool RecoverSession::join() {
     return true;
 }
 
-std::optional<PendingDownload> RecoverSession::workOut(Files& files, const std::string& temporary) {
+SessionResult<PendingDownload> RecoverSession::workOut(Files& files, const std::string& temporary) {
     const RecoverHeader header = recoverHeader(text_);
     files.write(temporary, quotedText(text_));
     const int readings = countReadings(files.read(temporary, text_.size() + 4));
     if (overwritten(header.mode, readings, session_.instrument.maxSamples)) {
-        session_.prompt.tell(notRecoverable);
-        return {};
+        const SessionEnd why = recoverEnd(RecoverRefusal::notRecoverable);
+        return session_.end(why.kind, why.why);
     }
     return accept(recoverText(text_, header, readings));
 }
 
 PendingDownload RecoverSession::accept(const RecoveredText& recovered) {
     session_.journal.accepted(recovered.text);
-    session_.panel.prompt(
-        informationReport(recovered.text, RecoveredFacts{screenTime(recovered.start),
-                                                         screenTime(recovered.stopped), recovered.readings}));
+    const std::string report = informationReport(
+        recovered.text, {.recovered = RecoveredFacts{screenTime(recovered.start),
+                                                     screenTime(recovered.stopped), recovered.readings},
+                         .memory = session_.instrument.maxSamples});
+    session_.panel.prompt(report);
     session_.prompt.tell(" PROCEED");
-    return {recovered.text, session_.journal.id()};
+    return {.text = recovered.text, .id = session_.journal.id()};
 }
 
 void RecoverSession::warnLowBattery() {

@@ -3,11 +3,12 @@
 
 #include "control/RecoverText.h"
 #include "core/Files.h"
-#include "link/DownloadSession.h"
 #include "link/HeaderScan.h"
+#include "link/ReceivedRecording.h"
 #include "link/Session.h"
+#include "link/WaitHint.h"
 
-#include <optional>
+#include <cstdint>
 #include <string>
 
 namespace tally {
@@ -16,35 +17,36 @@ namespace tally {
 // Nothing is sent to the instrument.
 class RecoverSession {
 public:
-    explicit RecoverSession(Session& session) : session_(session) {}
+    // `waitFor` bounds the wait for the first character (milliseconds); without it there is no bound.
+    explicit RecoverSession(Session& session, std::int64_t waitFor = Waiter::never)
+        : session_(session), hint_(session), waitFor_(waitFor) {}
 
     // What comes before the dialog: refuses automatic selection, warns, tries the port and puts the prompt
-    // into the panel. False when the command ends here, which was told.
-    bool mnuItemRecover_Click();
+    // into the panel. The end was told.
+    SessionResult<void> mnuItemRecover_Click();
 
-    // What the OK button runs: receives, works out and reports. Nothing when no recording was recovered,
-    // which was told (a cancel needs no word). `temporary` is the path of the file that the text is read back
-    // from; it stays. The port is closed when it returns or throws: Subscript for a text that is too long or
-    // a mode outside the table, Type mismatch for a header time that is none, Overflow for a reading too
-    // large, file faults.
-    std::optional<PendingDownload> RecoverProc(Files& files, const std::string& temporary);
+    // What the OK button runs: receives, works out and reports. The end without a recording was told (a
+    // cancel needs no word). `temporary` is the path of the file that the text is read back from; it stays.
+    // The port is closed when it returns or throws: Subscript for a text that is too long or a mode outside
+    // the table, Type mismatch for a header time that is none, Overflow for a reading too large, file faults.
+    SessionResult<PendingDownload> RecoverProc(Files& files, const std::string& temporary);
 
 private:
-    enum class Step { goOn, complete, cancelled, lost, notValid, notVoltmeter };
-
-    Step receive();
-    Step onCharacter(char c);
-    Step judge(char c) const;
+    SessionResult<void> receive();
+    SessionResult<void> watchEnd();
+    std::optional<RecoverRefusal> onCharacter(char c);
     void countProgress();
-    void tellWhy(Step step);
     bool join();
-    std::optional<PendingDownload> workOut(Files& files, const std::string& temporary);
+    SessionResult<PendingDownload> workOut(Files& files, const std::string& temporary);
     PendingDownload accept(const RecoveredText& recovered);
     void warnLowBattery();
 
     Session& session_;
+    WaitHint hint_;
+    std::int64_t waitFor_;
     HeaderScan scan_;
-    std::string text_; // as it arrives, the family initial in upper case
+    std::size_t followed_ = 0; // characters behind the end mark
+    std::string text_;         // as it arrives, the family initial in upper case
     int progress_ = 0;
     bool headerPassed_ = false;
 };

@@ -6,6 +6,7 @@
 #include "core/Header.h"
 #include "core/ModeTable.h"
 #include "core/Recordings.h"
+#include "link/Instruments.h"
 
 #include <algorithm>
 #include <variant>
@@ -14,6 +15,11 @@ namespace tally {
 
 namespace {
 
+const char* const notValid = "     NOT A VALID INSTRUMENT    \r         REMOVE THE CABLE NOW       \r\r";
+const char* const notVoltmeter = "Not Voltmeter";
+const char* const notRecoverable = "    CONTINUOUS DATA; NOT RECOVERABLE     \r"
+                                   "  CANNOT DETERMINE STOPPED TIME \r\r";
+
 std::size_t startOf(std::string_view text) {
     const auto found = std::find_if(text.begin(), text.end(), isFamilyInitial);
     return static_cast<std::size_t>(found - text.begin());
@@ -21,19 +27,36 @@ std::size_t startOf(std::string_view text) {
 
 } // namespace
 
-std::optional<char> recoverCharacter(std::string_view text, std::size_t offset) {
-    const std::size_t start = startOf(text);
-    return start + offset < text.size() ? std::optional(text[start + offset]) : std::nullopt;
+SessionEnd recoverEnd(RecoverRefusal refusal) {
+    switch (refusal) {
+    case RecoverRefusal::notValid:
+        return {EndKind::wrongInstrument, {notValid}};
+    case RecoverRefusal::notVoltmeter:
+        return {EndKind::wrongInstrument, {notVoltmeter}};
+    case RecoverRefusal::notRecoverable:
+        break;
+    }
+    return {EndKind::notRecoverable, {notRecoverable}};
+}
+
+std::optional<RecoverRefusal> recoverRefusal(std::size_t offset, char c, int instrumentType) {
+    const bool cutShort = c == '\x1a' && offset < recoverMarkOffset;
+    if (cutShort || (offset == recoverMarkOffset && c != 'T'))
+        return RecoverRefusal::notValid;
+    if (offset == recoverTypeOffset && c == 'A' && isVoltageRecorder(instrumentType))
+        return RecoverRefusal::notVoltmeter;
+    return {};
 }
 
 RecoverHeader recoverHeader(std::string_view text) {
-    const auto letter = recoverCharacter(text, column::mode.at);
-    if (!letter || !isMode(lowerCase(*letter)))
+    const std::string_view header = text.substr(startOf(text));
+    const char letter = modeLetterOf(header);
+    if (headerField(header, column::mode).empty() || !isMode(letter))
         throw fault::subscript();
-    const auto start = parseHeaderTime(headerField(text.substr(startOf(text)), column::time));
+    const auto start = parseHeaderTime(headerField(header, column::time));
     if (!start)
         throw fault::typeMismatch();
-    return {lowerCase(*letter), *start};
+    return {letter, *start};
 }
 
 std::string quotedText(std::string_view text) {
@@ -54,11 +77,8 @@ bool overwritten(char mode, int readings, std::int32_t maxSamples) {
 }
 
 ReadingTime stopTime(const RecoverHeader& header, int readings) {
-    FileFacts facts;
-    facts.modeLetter = header.mode;
-    facts.start = header.start;
-    facts.count = readings;
-    return timeOf(facts, readings);
+    return header.start + static_cast<std::int64_t>(modeRow(header.mode).minutes) * readings /
+                              valuesPerInterval(header.mode);
 }
 
 RecoveredText recoverText(std::string text, const RecoverHeader& header, int readings) {

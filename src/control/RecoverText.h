@@ -3,6 +3,7 @@
 
 #include "core/Header.h"
 #include "core/ReadingTime.h"
+#include "link/SessionEnd.h"
 
 #include <cstddef>
 #include <optional>
@@ -15,12 +16,17 @@ namespace tally {
 constexpr std::size_t recoverTypeOffset = column::type.at;
 constexpr std::size_t recoverMarkOffset = column::afterBrief.at; // "T" when the instrument can be recovered
 
-// The character at an offset from the start of the recording; nothing when the text ends before it, or no
-// recording begins.
-std::optional<char> recoverCharacter(std::string_view text, std::size_t offset);
+// Why a text is not one that can be recovered.
+enum class RecoverRefusal { notValid, notVoltmeter, notRecoverable };
+// The words of a refusal, as a message box has them, and its end.
+SessionEnd recoverEnd(RecoverRefusal refusal);
 
-// What the header of a received text says. Throws Subscript for a mode letter outside the mode table, Type
-// mismatch for a time that is none.
+// Looks at the character that stands `offset` characters behind the start of a recording (0 before it): what
+// it says against recovering from an instrument of this type.
+std::optional<RecoverRefusal> recoverRefusal(std::size_t offset, char c, int instrumentType);
+
+// What the header of a received text says; a blank mode letter is "a". Throws Subscript for a mode letter
+// outside the mode table, Type mismatch for a time that is none.
 struct RecoverHeader {
     char mode = 'a'; // lower case
     ReadingTime start;
@@ -35,7 +41,7 @@ int countReadings(std::string_view file);
 // Whether a recording of so many readings has overwritten its own beginning, so that its end has no time.
 bool overwritten(char mode, int readings, std::int32_t maxSamples);
 
-// The time of the last reading.
+// When the recording stopped: the start and interval x readings / values of an interval, in whole minutes.
 ReadingTime stopTime(const RecoverHeader& header, int readings);
 
 // A text whose header carries the time at which its recording stopped.

@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/DownloadSession.h"
 
-#include "core/Fault.h"
 #include "core/Header.h"
-#include "link/FieldDate.h"
 #include "link/InformationReport.h"
 #include "link/PromptTexts.h"
 #include "link/ReceivedText.h"
-#include "link/ValidationReport.h"
 
 #include <algorithm>
 
@@ -47,7 +44,7 @@ private:
 };
 
 // By how many minutes the clock of a running instrument is ahead of the computer's.
-std::optional<std::int64_t> clockDifference(const ReceivedDownload& received) {
+std::optional<std::int64_t> clockDifference(const Received& received) {
     const std::string header = headerOf(received.text);
     const auto clock = timeOf(header);
     if (!clock || !isRunning(header))
@@ -55,57 +52,77 @@ std::optional<std::int64_t> clockDifference(const ReceivedDownload& received) {
     return clock->minutes - received.headerSeen.minutes;
 }
 
+std::string bothRatesSilent(const HeaderScan&) {
+    return noResponseText(ResponseTimer::interval) +
+           " at each of two different baud rates.\r\n"
+           "\r\n"
+           "Check that the instrument is connected.\r\n"
+           "Otherwise remove the cable from the instrument, and then\r\n"
+           "try selecting some other instrument type\r\n"
+           "(using Options > Instrument Selection).";
+}
+
+std::string notValid(const HeaderScan&) {
+    return "Response from instrument not valid.\r\n"
+           "Remove the cable from the instrument, and then\r\n"
+           "try selecting some other instrument type\r\n"
+           "(using Options > Instrument Selection)";
+}
+
 } // namespace
+
+WaitPolicy downloadPolicy(Panel& panel, std::int64_t waitFor) {
+    WaitPolicy policy;
+    policy.wholeText = true;
+    policy.waitFor = waitFor;
+    policy.silent = bothRatesSilent;
+    policy.wrongToken = notValid;
+    policy.onRecording = [&panel] { panel.prompt(receivingText); };
+    return policy;
+}
 
 DownloadSession::DownloadSession(Session& session, std::int64_t waitFor)
     : session_(session), waitFor_(waitFor) {}
 
-bool DownloadSession::mnuItemDownload_Click(const Files& files, const std::string& workingDirectory) {
+SessionResult<void> DownloadSession::mnuItemDownload_Click(const Files& files,
+                                                           const std::string& workingDirectory) {
     session_.waiter.resetCancel();
-    try {
-        probePort(session_.line, session_.instrument.gCommPort);
-    } catch (const Fault&) {
-        session_.prompt.tell(badPortText);
-        return false;
-    }
+    if (auto there = session_.probe(); !there)
+        return there;
     flags_ = HandleRunspec(files, session_.prompt, workingDirectory);
     if (isVoltageRecorder(session_.instrument.instSelection) &&
         session_.prompt.show({.text = voltageCaution, .buttons = Buttons::OkCancel}) == Answer::Cancel)
-        return false;
+        return Session::cancelled();
     session_.panel.prompt(connectionPrompt(session_.instrument));
-    return true;
+    return {};
 }
 
-std::optional<PendingDownload> DownloadSession::DownLoadProc() {
-    Panel& panel = session_.panel;
-    const InstrumentState& instrument = session_.instrument;
-    session_.journal.begin({.commPort = instrument.gCommPort,
-                            .instrumentType = instrument.instSelection,
-                            .settings = instrument.portSettings,
-                            .pcTime = session_.waiter.localTime()});
+SessionResult<PendingDownload> DownloadSession::DownLoadProc() {
+    session_.journal.begin(journalHeader(session_, "download"));
     DownloadEnd end(session_);
-    panel.mainStatus(portInUseText(instrument.gCommPort));
-
-    std::optional<ReceivedDownload> received;
-    session_.gErrorCallPoint = 315;
-    try {
-        session_.openPort();
-        panel.progress(0);
-        panel.progressText("        Ready to start download.");
-        session_.gErrorCallPoint = 316;
-        received = DownloadReception(session_, waitFor_).run();
-    } catch (const Fault&) {
-        session_.prompt.tell(badPortText);
-    }
+    session_.panel.mainStatus(portInUseText(session_.instrument));
+    auto received = receive();
     session_.gErrorCallPoint = 317;
     session_.closePort();
     if (!received)
-        return {};
+        return tl::make_unexpected(received.error());
     end.complete = true;
     session_.journal.end(JournalState::received);
     showProcessing(received->text);
     session_.gErrorCallPoint = 0;
     return judge(*received);
+}
+
+SessionResult<Received> DownloadSession::receive() {
+    Panel& panel = session_.panel;
+    session_.gErrorCallPoint = 315;
+    if (const auto opened = session_.open(); !opened)
+        return tl::make_unexpected(opened.error());
+    panel.progress(0);
+    panel.progressText("        Ready to start download.");
+    panel.prompt(waitingText(session_.instrument));
+    session_.gErrorCallPoint = 316;
+    return InstrumentWait(session_, downloadPolicy(panel, waitFor_)).run();
 }
 
 void DownloadSession::showProcessing(const std::string& text) {
@@ -119,28 +136,25 @@ void DownloadSession::showProcessing(const std::string& text) {
     }
 }
 
-std::optional<PendingDownload> DownloadSession::judge(ReceivedDownload& received) {
+SessionResult<PendingDownload> DownloadSession::judge(Received& received) {
     Prompt& prompt = session_.prompt;
-    if (!upperCaseModel(received.text)) {
-        prompt.tell("Bad data. Try downloading again.");
+    warnOfFollowers(received.followed, prompt);
+    if (const auto checked = checkRecording(received.text, flags_, prompt); !checked) {
         session_.journal.end(JournalState::refused);
-        return {};
-    }
-    if (!judgeDownload(received.text, flags_, prompt)) {
-        session_.journal.end(JournalState::refused);
-        return {};
+        return tl::make_unexpected(checked.error());
     }
     prompt.tell(removeCableText());
     const auto difference = clockDifference(received);
-    if (!completeHeaderTime(received.text, prompt))
-        return {};
-    const std::string report = informationReport(received.text, {}, difference);
+    if (const auto complete = completeHeader(received.text, prompt); !complete)
+        return tl::make_unexpected(complete.error());
+    const std::string report = informationReport(
+        received.text, {.clockDifference = difference, .memory = session_.instrument.maxSamples});
     if (difference)
         session_.journal.clockDifference(*difference);
     session_.journal.accepted(received.text);
     session_.panel.prompt(report);
     prompt.tell(" PROCEED");
-    if (received.lowBattery)
+    if (received.lowBattery())
         prompt.show({.text = lowBatteryText, .title = "WARNING", .exclamation = true});
     return PendingDownload{received.text, session_.journal.id()};
 }

@@ -2,20 +2,17 @@
 #pragma once
 
 #include "core/Files.h"
-#include "link/DownloadReception.h"
+#include "link/InstrumentWait.h"
+#include "link/ReceivedRecording.h"
 #include "link/Runspec.h"
 #include "link/Session.h"
 
-#include <optional>
 #include <string>
 
 namespace tally {
 
-// An accepted download. It waits here, and nowhere else, until it is saved.
-struct PendingDownload {
-    std::string text; // bytes, as a data file holds them
-    std::string id;   // its reception in the journal; empty when that is kept nowhere
-};
+// How a download waits on an opened port; `waitFor` bounds the wait for the first character (milliseconds).
+WaitPolicy downloadPolicy(Panel& panel, std::int64_t waitFor = Waiter::never);
 
 // The road from an instrument's memory to an accepted text. Nothing is sent to the instrument.
 class DownloadSession {
@@ -24,16 +21,16 @@ public:
     explicit DownloadSession(Session& session, std::int64_t waitFor = Waiter::never);
 
     // What comes before the dialog: tries the port, reads the run specification, warns about voltage
-    // recorders and puts the prompt into the panel. False when the command ends here. Throws file faults.
-    bool mnuItemDownload_Click(const Files& files, const std::string& workingDirectory);
+    // recorders and puts the prompt into the panel. Throws file faults.
+    SessionResult<void> mnuItemDownload_Click(const Files& files, const std::string& workingDirectory);
 
-    // What the OK button runs: receives, judges and reports. Nothing when no download was accepted. The port
-    // is closed when it returns or throws.
-    std::optional<PendingDownload> DownLoadProc();
+    // What the OK button runs: receives, judges and reports. The port is closed when it returns or throws.
+    SessionResult<PendingDownload> DownLoadProc();
 
 private:
+    SessionResult<Received> receive();
     void showProcessing(const std::string& text);
-    std::optional<PendingDownload> judge(ReceivedDownload& received);
+    SessionResult<PendingDownload> judge(Received& received);
 
     Session& session_;
     std::int64_t waitFor_;

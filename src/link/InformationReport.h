@@ -17,10 +17,16 @@ struct RecoveredFacts {
     int readings = 0;
 };
 
-// The download information report of a received text (bytes); the result is UTF-8. With `recovered` the start
-// time and the number of readings stand in it; with `clockDifference` the minutes by which the instrument's
-// clock is ahead of the computer's. Throws Subscript for a mode letter outside the mode table.
-std::string informationReport(std::string_view gText, const std::optional<RecoveredFacts>& recovered = {},
-                              std::optional<std::int64_t> clockDifference = {});
+// What the report may add to the header.
+struct ReportFacts {
+    std::optional<RecoveredFacts> recovered = {};     // start time and number of readings
+    std::optional<std::int64_t> clockDifference = {}; // minutes the instrument's clock is ahead
+    std::int32_t memory = 0;                          // readings that the memory holds; 0 for unknown
+};
+
+// The download information report of a received text (bytes); the result is UTF-8. Where the text reads as a
+// recording it says how many readings there are and what time they span. A mode letter outside "a" to "l" is
+// shown as unknown.
+std::string informationReport(std::string_view gText, const ReportFacts& facts = {});
 
 } // namespace tally

@@ -14,8 +14,9 @@ struct InstrumentState {
     std::int16_t instAutoCurrent = 7; // automatic selection: the type, 7 or 8, whose settings worked last
     std::string portSettingsCustom = "9600,N,8,1";
     std::int32_t maxSamplesCustom = 10710;
-    int gCommPort = 1;       // 1 to 8
-    bool gCableFirst = true; // the cable goes in before OK is pressed
+    int gCommPort = 1;           // 1 to 8; 0 for a device that is given by its path
+    std::string devicePath = {}; // of that device
+    bool gCableFirst = true;     // the cable goes in before OK is pressed
 };
 
 } // namespace tally

@@ -28,10 +28,15 @@ constexpr bool isUnsaved(JournalState state) {
            state == JournalState::accepted;
 }
 
+// One word for a state, as the journal writes it down.
+std::string_view stateName(JournalState state);
+
 // What is known before the first character.
 struct JournalHeader {
     int commPort = 1;
+    std::string device = {}; // instead of a COM port, when it was given by its path
     int instrumentType = 0;
+    std::int32_t maxSamples = 0; // that the memory of the instrument holds; 0 for unknown
     std::string settings = {};
     ReadingTime pcTime = {};
     std::string command = "download"; // or "recover"
@@ -64,6 +69,7 @@ struct JournalEntry {
     std::string model = {};  // three letters; empty when no recording began
     std::string serial = {}; // bytes of the header
     std::optional<std::int64_t> clockDifference = {};
+    bool hasAccepted = false; // an accepted text is kept
 };
 
 // The receptions that are kept: the last 20, and every unsaved one. Newest first.
@@ -74,6 +80,9 @@ public:
     // The accepted text, else what was received at the last port settings as it came. Throws File not found
     // and file faults.
     virtual std::string text(const std::string& id) const = 0;
+    // What was received at the last port settings as it came, also where an accepted text is kept. Throws the
+    // same.
+    virtual std::string received(const std::string& id) const = 0;
     // Writes down what became of a reception. Throws file faults.
     virtual void mark(const std::string& id, JournalState state) = 0;
     // Keeps the text that the user accepted of a reception. Throws file faults.
@@ -83,18 +92,6 @@ public:
     virtual bool keeps(const std::string& id) = 0;
     // Why receptions cannot be kept on disk, in words for the user; empty when they can.
     virtual std::string problem() const = 0;
-};
-
-// A sink that keeps nothing.
-class NoJournal : public JournalSink {
-public:
-    void begin(const JournalHeader&) override {}
-    void append(std::string_view) override {}
-    void restart(const std::string&) override {}
-    void clockDifference(std::int64_t) override {}
-    void end(JournalState) override {}
-    void accepted(std::string_view) override {}
-    std::string id() const override { return {}; }
 };
 
 } // namespace tally

@@ -16,7 +16,8 @@ struct StateName {
     std::string_view name;
 };
 
-constexpr std::array<StateName, 6> stateNames = {{{JournalState::interrupted, "interrupted"},
+constexpr std::array<StateName, 7> stateNames = {{{JournalState::receiving, "receiving"},
+                                                  {JournalState::interrupted, "interrupted"},
                                                   {JournalState::received, "received"},
                                                   {JournalState::accepted, "accepted"},
                                                   {JournalState::refused, "refused"},
@@ -52,6 +53,10 @@ void readLine(std::string_view key, std::string_view value, JournalRecord& recor
         header.commPort = number<int>(value).value_or(header.commPort);
     else if (key == "type")
         header.instrumentType = number<int>(value).value_or(header.instrumentType);
+    else if (key == "device")
+        header.device = value;
+    else if (key == "samples")
+        header.maxSamples = number<std::int32_t>(value).value_or(0);
     else if (key == "time")
         header.pcTime = parseHeaderTime(value).value_or(header.pcTime);
     else if (key == "part")
@@ -60,7 +65,7 @@ void readLine(std::string_view key, std::string_view value, JournalRecord& recor
         record.clockDifference = number<std::int64_t>(value);
     else if (key == "state")
         for (const StateName& known : stateNames)
-            if (known.name == value)
+            if (known.name == value && known.state != JournalState::receiving)
                 record.state = known.state;
 }
 
@@ -68,6 +73,8 @@ void readLine(std::string_view key, std::string_view value, JournalRecord& recor
 
 std::string journalStart(const JournalHeader& header) {
     return line("command", header.command) + line("port", std::to_string(header.commPort)) +
+           (header.device.empty() ? std::string() : line("device", header.device)) +
+           line("samples", std::to_string(header.maxSamples)) +
            line("type", std::to_string(header.instrumentType)) + line("time", headerTime(header.pcTime)) +
            journalPart(0, header.settings);
 }
@@ -80,11 +87,15 @@ std::string journalClock(std::int64_t minutes) {
     return line("clock", std::to_string(minutes));
 }
 
-std::string journalState(JournalState state) {
+std::string_view stateName(JournalState state) {
     for (const StateName& known : stateNames)
         if (known.state == state)
-            return line("state", std::string(known.name));
+            return known.name;
     return {};
+}
+
+std::string journalState(JournalState state) {
+    return state == JournalState::receiving ? std::string() : line("state", std::string(stateName(state)));
 }
 
 JournalRecord readJournal(std::string_view lines) {

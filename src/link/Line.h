@@ -13,7 +13,7 @@ class Line {
 public:
     virtual ~Line() = default;
 
-    // COM port 1 to 8; takes effect at the next opening.
+    // COM port 1 to 8, or 0 for a device that is given by its path; takes effect at the next opening.
     virtual void CommPort(int number) = 0;
     // "9600,N,8,1" or "115200,N,8,1"; takes effect at once on an open port.
     virtual void Settings(const std::string& settings) = 0;

@@ -15,8 +15,10 @@ public:
     virtual void progressText(const std::string& text) = 0; // Label2
     virtual void appendLog(const std::string& text) = 0;    // Label3, "Debugging log:"
     virtual void progressVisible(bool visible) = 0;
-    virtual void progress(int value) = 0;                 // 0 to 20,000
-    virtual void busy(bool busy) = 0;                     // hourglass pointer
+    virtual void progress(int value) = 0; // 0 to 20,000
+    virtual void busy(bool busy) = 0;     // hourglass pointer
+    // What to look at while nothing comes, in a line of its own; empty to take it away.
+    virtual void hint(const std::string& text) = 0;
     virtual void mainStatus(const std::string& text) = 0; // status line of the main window
 };
 

@@ -2,6 +2,7 @@
 #include "link/PortChoice.h"
 
 #include "core/Fault.h"
+#include "core/Refusal.h"
 
 namespace tally {
 
@@ -90,7 +91,7 @@ bool choosePort(std::optional<int> checked, InstrumentState& instrument, Line& l
     try {
         probePort(line, instrument.gCommPort);
     } catch (const Fault&) {
-        prompt.tell("Invalid Port");
+        prompt.tell(Refusal{.text = "Invalid Port", .subject = line.problem()}.message());
         instrument.gCommPort = storedCommPort(settings);
         return false;
     }

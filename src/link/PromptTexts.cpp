@@ -27,13 +27,28 @@ std::string connectionPrompt(const InstrumentState& instrument, bool autoLine) {
     return text + "     Hit 'Cancel' or use ESC key to quit     ";
 }
 
+std::string waitingText(const InstrumentState& instrument) {
+    return instrument.gCableFirst ? "Waiting for the instrument to send its recording."
+                                  : "Now insert the cable into the instrument.";
+}
+
+const char* const receivingText = "The instrument is sending. Leave the cable in until the end.";
+
 std::string removeCableText() {
     return "       RETURN THE SWITCH TO 'STANDBY'   \r\n"
            "           OR REMOVE THE CABLE NOW       ";
 }
 
-std::string portInUseText(int commPort) {
-    return "COM" + std::to_string(commPort) + "  in use\r\n Cancel or Escape to quit";
+std::string portName(int commPort, const std::string& devicePath) {
+    return commPort == 0 ? devicePath : "COM" + std::to_string(commPort);
+}
+
+std::string portName(const InstrumentState& instrument) {
+    return portName(instrument.gCommPort, instrument.devicePath);
+}
+
+std::string portInUseText(const InstrumentState& instrument) {
+    return portName(instrument) + "  in use\r\n Cancel or Escape to quit";
 }
 
 } // namespace tally

@@ -15,8 +15,16 @@ std::string connectionPrompt(const InstrumentState& instrument, bool autoLine = 
 // The box that ends a download: back to standby or remove the cable.
 std::string removeCableText();
 
+// "COM3", or the path of a device that was given by it (COM port 0).
+std::string portName(int commPort, const std::string& devicePath);
+std::string portName(const InstrumentState& instrument);
+
 // "COM3  in use" and how to cancel, for the status line of the main window.
-std::string portInUseText(int commPort);
+std::string portInUseText(const InstrumentState& instrument);
+
+// What the connection prompt gives way to: while nothing has come yet, and while it comes.
+std::string waitingText(const InstrumentState& instrument);
+extern const char* const receivingText;
 
 extern const char* const lowBatteryText;
 extern const char* const badPortText;    // a port that cannot be opened

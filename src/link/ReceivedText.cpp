@@ -34,6 +34,10 @@ std::string headerOf(std::string_view gText) {
     return std::string(rest.substr(0, rest.find_first_of(ends)));
 }
 
+void setModeLetter(std::string& gText, char letter) {
+    gText.at(startOf(gText) + column::mode.at) = letter;
+}
+
 void setHeaderTime(std::string& gText, ReadingTime time) {
     std::string header = headerOf(gText);
     const std::size_t length = header.size();

@@ -17,6 +17,9 @@ bool upperCaseModel(std::string& gText);
 // The header: from the start of the recording to the end of its line, without the end.
 std::string headerOf(std::string_view gText);
 
+// Writes a mode letter into the header of a text that reaches so far.
+void setModeLetter(std::string& gText, char letter);
+
 // Writes a time into the header of a text; a header that is too short is filled up with blanks.
 void setHeaderTime(std::string& gText, ReadingTime time);
 

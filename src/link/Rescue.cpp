@@ -2,10 +2,9 @@
 #include "link/Rescue.h"
 
 #include "core/Text1252.h"
-#include "link/FieldDate.h"
-#include "link/ReceivedText.h"
-#include "link/ValidationReport.h"
+#include "link/PromptTexts.h"
 
+#include <set>
 #include <string_view>
 
 namespace tally {
@@ -34,27 +33,34 @@ std::string_view stateText(JournalState state) {
 
 } // namespace
 
-std::optional<PendingDownload> validateReception(Journal& journal, const std::string& id, Prompt& prompt) {
-    std::string text = journal.text(id);
-    if (!upperCaseModel(text)) {
-        prompt.tell("Bad data. Try downloading again.");
-        return {};
-    }
-    if (!judgeDownload(text, {}, prompt) || !completeHeaderTime(text, prompt))
-        return {};
+SessionResult<PendingDownload> judgeReception(Journal& journal, const std::string& id, Prompt& prompt) {
+    EndedText ended = endedText(journal.received(id));
+    std::string& text = ended.text;
+    warnOfFollowers(ended.followed, prompt);
+    if (const auto checked = checkRecording(text, {}, prompt); !checked)
+        return tl::make_unexpected(checked.error());
+    if (const auto complete = completeHeader(text, prompt); !complete)
+        return tl::make_unexpected(complete.error());
     journal.accept(id, text);
     return PendingDownload{text, id};
 }
 
 std::vector<JournalEntry> unsavedReceptions(const Journal& journal) {
-    std::vector<JournalEntry> entries = journal.list();
-    std::erase_if(entries, [](const JournalEntry& entry) { return !isUnsaved(entry.state); });
-    return entries;
+    std::vector<JournalEntry> waiting;
+    std::set<std::string> savedSince;
+    for (JournalEntry& entry : journal.list()) {
+        const bool refused = entry.state == JournalState::refused && !entry.serial.empty();
+        if (entry.state == JournalState::saved)
+            savedSince.insert(entry.serial);
+        else if (isUnsaved(entry.state) || (refused && !savedSince.contains(entry.serial)))
+            waiting.push_back(std::move(entry));
+    }
+    return waiting;
 }
 
 std::string receptionText(const JournalEntry& entry) {
-    std::string text = screenTime(entry.header.pcTime) + "  " + entry.header.command + " on COM" +
-                       std::to_string(entry.header.commPort);
+    std::string text = screenTime(entry.header.pcTime) + "  " + entry.header.command + " on " +
+                       portName(entry.header.commPort, entry.header.device);
     if (!entry.model.empty())
         text += ", " + toUtf8(entry.model) + " Ser. " + toUtf8(entry.serial);
     return text + ", " + std::to_string(entry.bytes) + " characters: " + std::string(stateText(entry.state));

@@ -2,21 +2,21 @@
 #pragma once
 
 #include "core/Prompt.h"
-#include "link/DownloadSession.h"
 #include "link/Journal.h"
+#include "link/ReceivedRecording.h"
 
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace tally {
 
-// Judges a kept reception as a download is judged when it ends. Gives what the user accepted, which the
-// journal then keeps as accepted; nothing when it holds no recording or was not accepted. Throws file faults,
-// and what validation throws; the reception then stays as it is.
-std::optional<PendingDownload> validateReception(Journal& journal, const std::string& id, Prompt& prompt);
+// Judges a kept download as it is judged when it ends, from what was received. Gives what the user accepted,
+// which the journal then keeps as accepted; the end without it was told. Throws file faults, and what
+// validation throws; the reception then stays as it is.
+SessionResult<PendingDownload> judgeReception(Journal& journal, const std::string& id, Prompt& prompt);
 
-// The receptions that wait for the user, newest first: unsaved, and no session writes to them.
+// The receptions that wait for the user, newest first: unsaved, and no session writes to them; a refused one
+// until a later one of its instrument is saved.
 std::vector<JournalEntry> unsavedReceptions(const Journal& journal);
 
 // One line about a reception for lists and notices (UTF-8): when, from what, how much, what became of it.

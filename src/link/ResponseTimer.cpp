@@ -37,24 +37,25 @@ void ResponseTimer::logTick() {
     session_.panel.appendLog("Start of timer1. timer1.enabled =" + word(running_) + "\r\n");
 }
 
-Wake ResponseTimer::FlipPortSettings(const std::string& reason) {
+SessionResult<void> ResponseTimer::FlipPortSettings(const std::string& reason, bool quiet) {
     running_ = false;
     session_.panel.status(reason + " Changing settings. (Takes about 5 seconds)...");
     switchAutoType(session_.instrument);
     session_.closePort();
     session_.journal.restart(session_.instrument.portSettings);
-    session_.openPort();
+    if (auto opened = session_.open(quiet); !opened)
+        return opened;
     triedBoth_ = true;
     session_.line.DTREnable(false);
     const Wake wake = session_.pause(session_.waiter.now() + resetTime);
     session_.line.DTREnable(true);
     if (wake == Wake::cancelled)
-        return wake;
+        return Session::cancelled();
     session_.panel.status("Now treating unit as " + InstrumentName(session_.instrument.instAutoCurrent) +
                           ".  Waiting for response...");
     running_ = true;
     deadline_ = session_.waiter.now() + interval;
-    return wake;
+    return {};
 }
 
 } // namespace tally

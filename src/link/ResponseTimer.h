@@ -32,9 +32,9 @@ public:
     void logTick();
 
     // Takes the automatic type to its other settings and resets the interface; the timer then runs anew for
-    // the full interval. `reason` begins the status text: "No response." or "Bad header.". Gives cancelled
-    // when the user cancelled during the reset. Throws what opening a port throws.
-    Wake FlipPortSettings(const std::string& reason = "No response.");
+    // the full interval. `reason` begins the status text: "No response." or "Bad header.". Ends when the user
+    // cancelled during the reset, and when the port does not open again, which was told unless `quiet`.
+    SessionResult<void> FlipPortSettings(const std::string& reason = "No response.", bool quiet = false);
 
 private:
     Session& session_;

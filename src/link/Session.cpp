@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/Session.h"
 
+#include "core/Fault.h"
+#include "link/PromptTexts.h"
+
 namespace tally {
 
 namespace {
@@ -15,9 +18,28 @@ void Session::openPort() {
     line.CommPort(instrument.gCommPort);
     line.Settings(instrument.portSettings);
     line.InputLen(1);
-    line.EOFEnable(stopsAtCtrlZ);
+    // The sessions look for the end mark themselves: what follows it must not go unseen.
+    line.EOFEnable(false);
     line.onArrival([&sink = journal](std::string_view characters) { sink.append(characters); });
     line.PortOpen(true);
+}
+
+SessionResult<void> Session::tryPort(const std::function<void()>& open, bool quiet) const {
+    try {
+        open();
+    } catch (const Fault&) {
+        const Refusal why = {.text = badPortText, .subject = line.problem()};
+        return quiet ? tl::make_unexpected(SessionEnd{EndKind::badPort, why}) : end(EndKind::badPort, why);
+    }
+    return {};
+}
+
+SessionResult<void> Session::open(bool quiet) {
+    return tryPort([this] { openPort(); }, quiet);
+}
+
+SessionResult<void> Session::probe() {
+    return tryPort([this] { probePort(line, instrument.gCommPort); }, false);
 }
 
 void Session::closePort() {
@@ -32,22 +54,22 @@ void Session::drain(std::size_t most) {
 }
 
 std::string Session::Input() {
-    if (!unused()) {
+    if (unused() == 0) {
         kept_.clear();
         used_ = 0;
         looked_ = waiter.now();
         drain(mostKept);
     }
-    return unused() ? std::string(1, kept_[used_++]) : std::string();
+    return unused() > 0 ? std::string(1, kept_[used_++]) : std::string();
 }
 
 Wake Session::until(std::int64_t deadline) {
-    if (!unused())
+    if (unused() == 0)
         return waiter.until(deadline);
     // Looking at the clock takes longer than a character does, and some dozen of them take no time.
     if (used_ % clockEvery == 0)
         looked_ = waiter.now();
-    if (looked_ >= deadline)
+    if (looked_ >= deadline && looked_ - deadline < Waiter::stoodStill)
         return Wake::due;
     return waiter.cancelRequested() ? Wake::cancelled : Wake::data;
 }
@@ -61,6 +83,22 @@ Wake Session::pause(std::int64_t deadline) {
         if (!line.isOpen())
             return Wake::due;
     }
+}
+
+tl::unexpected<SessionEnd> Session::end(EndKind kind, const Refusal& why) const {
+    prompt.tell(why.message());
+    return tl::make_unexpected(SessionEnd{kind, why});
+}
+
+JournalHeader journalHeader(const Session& session, const std::string& command) {
+    const InstrumentState& instrument = session.instrument;
+    return {.commPort = instrument.gCommPort,
+            .device = instrument.devicePath,
+            .instrumentType = instrument.instSelection,
+            .maxSamples = instrument.maxSamples,
+            .settings = instrument.portSettings,
+            .pcTime = session.waiter.localTime(),
+            .command = command};
 }
 
 } // namespace tally

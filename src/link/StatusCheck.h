@@ -2,11 +2,11 @@
 #pragma once
 
 #include "core/Fault.h"
+#include "link/InstrumentWait.h"
 #include "link/Session.h"
 #include "link/StatusHeader.h"
 
 #include <cstdint>
-#include <optional>
 
 namespace tally {
 
@@ -20,12 +20,16 @@ public:
     // What comes before the form: a port that is still open is closed, and told.
     void mnuItemStatusCheck_Click();
 
-    // Gives the fields of the check that ended it, or nothing when that failed or was cancelled. The port is
-    // closed when it returns.
-    std::optional<StatusFields> StatusCheck();
+    // Gives the fields of the check that ended it, or how that ended without them, which was told. The port
+    // is closed when it returns.
+    SessionResult<StatusFields> StatusCheck();
 
 private:
-    std::optional<StatusFields> checkOnce();
+    SessionResult<StatusFields> checkReported();
+    SessionResult<StatusFields> checkOnce();
+    SessionResult<Received> receive();
+    StatusFields show(StatusFields fields);
+    bool automatic() const;
 
     Session& session_;
     std::int64_t waitFor_;

@@ -11,6 +11,9 @@ namespace tally {
 
 namespace {
 
+const char* const noModeLetter =
+    "\r HVN 40 and 80 have no mode letter; they record 15-minute averages in a continuous loop.";
+
 bool isLetter(char c) {
     return upperCase(c) >= 'A' && upperCase(c) <= 'Z';
 }
@@ -19,6 +22,7 @@ void readMode(char c, StatusFields& fields) {
     if (!isLetter(c)) {
         fields.mode =
             "FAIL; value is " + (c == '\0' ? "  0  " : toUtf8(std::string(1, c))) + " ;   invalid  ";
+        fields.blankMode = c == ' ';
         return;
     }
     const char letter = lowerCase(c);
@@ -32,9 +36,11 @@ void readMode(char c, StatusFields& fields) {
 
 } // namespace
 
-std::optional<StatusFields> readStatusHeader(const std::string& line1, bool lowBattery) {
-    if (line1.size() < column::mode.end())
-        return {};
+bool hasStatusFields(std::string_view line1) {
+    return line1.size() >= column::mode.end() && timeOf(line1).has_value();
+}
+
+StatusFields readStatusHeader(const std::string& line1, bool lowBattery) {
     StatusFields fields;
     for (const char c : headerField(line1, column::model))
         fields.type += upperCase(c);
@@ -44,8 +50,6 @@ std::optional<StatusFields> readStatusHeader(const std::string& line1, bool lowB
     if (const auto time = timeOf(line1)) {
         fields.timeOn = screenTime(*time);
         fields.timeOnHeader = headerTime(*time);
-    } else {
-        fields.timeOn = toUtf8(headerField(line1, timeField(line1)));
     }
     fields.vbatt = batteryVolts(line1);
     fields.lowBattery = lowBattery;
@@ -60,10 +64,9 @@ std::string StatusFields::text() const {
     std::string all = " Type: " + type + "    Serial Number " + serial + "\r Mode setting:  " + mode;
     if (interval)
         all += (mode.ends_with(' ') ? "" : " ") + std::to_string(*interval) + " min " + whenFull;
-    all += " Time On: " + timeOn;
-    if (!timeOnHeader.empty())
-        all += " (" + timeOnHeader + ")";
-    all += "     Condition: " + state;
+    all += " Time On: " + timeOn + " (" + timeOnHeader + ")     Condition: " + state;
+    if (blankMode)
+        all += noModeLetter;
     if (vbatt)
         all += "\r" + batteryText(*vbatt);
     if (!autoSelected.empty())

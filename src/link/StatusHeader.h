@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tally {
 
@@ -14,19 +15,23 @@ struct StatusFields {
     std::string mode;   // "Average", "Min/Max/Avg ", or what is wrong with the mode character
     std::optional<int> interval;
     std::string whenFull;        // "Cont", "Stop" or empty
-    std::string timeOn;          // "hh:mm  MMM dd, yy"; as it came when it is no time (UTF-8)
-    std::string timeOnHeader;    // "mm-dd-yy hh:mm"; empty when it is no time
+    std::string timeOn;          // "hh:mm  MMM dd, yy"
+    std::string timeOnHeader;    // "mm-dd-yy hh:mm"
     std::optional<double> vbatt; // volts
     bool lowBattery = false;
+    bool blankMode = false;   // the mode character is a blank
     std::string autoSelected; // with automatic selection: the type whose settings work
 
     // The text of the result label (UTF-8).
     std::string text() const;
 };
 
-// Reads a status header (bytes, from the family initial on). Nothing when it ends before the mode character.
-// Throws Subscript for a mode letter after "m".
-std::optional<StatusFields> readStatusHeader(const std::string& line1, bool lowBattery);
+// Whether a header line (bytes, from the family initial on) can be read: it reaches beyond its mode character
+// and its time field is a date and time.
+bool hasStatusFields(std::string_view line1);
+
+// Reads a status header that can be read. Throws Subscript for a mode letter after "m".
+StatusFields readStatusHeader(const std::string& line1, bool lowBattery);
 
 // "Vbatt = 3.806 volts"
 std::string batteryText(double volts);

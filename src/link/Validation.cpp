@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/Validation.h"
 
+#include "core/Header.h"
 #include "core/Numbers.h"
 #include "link/TextBlocks.h"
 
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t none = std::string_view::npos;
 constexpr int readingsInLine = 10;
+constexpr char ctrlZMark = '\x1a';
 
 // Whether the number that a reading begins with has a value above 999.
 bool isOver999(std::string_view reading) {
@@ -107,8 +109,7 @@ private:
         } else if (c == '\n') {
             endReading();
             endLine();
-        } else if (c == '\x1a') {
-            endReading();
+        } else if (c == ctrlZMark) {
             if (++ctrlZ > 1)
                 addBad(c);
         } else {
@@ -124,7 +125,9 @@ private:
     void endReading() {
         if (start_ == none)
             return;
-        const std::string_view reading = text_.substr(start_, at_ - start_);
+        // A terminator closes the text, it is no part of the last reading.
+        const std::string_view whole = text_.substr(start_, at_ - start_);
+        const std::string_view reading = whole.substr(0, whole.find_last_not_of(ctrlZMark) + 1);
         if (reading == "999")
             at999.push_back(start_);
         if (isOver999(reading))
@@ -144,15 +147,31 @@ private:
     int readings_ = 0;         // of the line so far
 };
 
+// Lines between the end of the header and the mark of the data section. A reader takes them for readings.
+int strayLines(std::string_view beforeMark) {
+    const auto start = std::find_if(beforeMark.begin(), beforeMark.end(), isFamilyInitial);
+    const std::size_t end = beforeMark.find('\r', static_cast<std::size_t>(start - beforeMark.begin()));
+    if (end == none)
+        return 0;
+    std::string_view between = beforeMark.substr(end + 1);
+    if (between.empty() || between == "\n")
+        return 0;
+    int lines = 0;
+    for (std::size_t at = 0; (at = between.find_first_not_of("\r\n ", at)) != none; ++lines)
+        at = std::min(between.find_first_of("\r\n", at), between.size());
+    return std::max(lines, 1);
+}
+
 } // namespace
 
 ValidationCounts validate(std::string& gText, bool change999sTo000) {
     const std::size_t mark = gText.find("T:");
     if (mark == std::string::npos)
         return {};
+    const int stray = strayLines(std::string_view(gText).substr(0, mark));
     Scanner scanner(gText, mark + 2);
     scanner.run();
-    ValidationCounts counts{.badLines = toInt16(scanner.badLines),
+    ValidationCounts counts{.badLines = toInt16(scanner.badLines + stray),
                             .over999 = toInt16(scanner.over999),
                             .count999 = toInt16(static_cast<double>(scanner.at999.size())),
                             .ctrlZ = toInt16(scanner.ctrlZ),

@@ -23,8 +23,9 @@ struct ValidationCounts {
     bool operator==(const ValidationCounts&) const = default;
 };
 
-// Scans the data section; with `change999sTo000` rewrites the readings "999" in place. Throws Overflow, and
-// then leaves the text as it was, when a counter leaves 16 bits.
+// Scans the data section; what stands between the header and its mark counts as bad lines. With
+// `change999sTo000` rewrites the readings "999" in place. Throws Overflow, and then leaves the text as it
+// was, when a counter leaves 16 bits.
 ValidationCounts validate(std::string& gText, bool change999sTo000);
 
 } // namespace tally

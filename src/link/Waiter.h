@@ -18,6 +18,10 @@ public:
     // A deadline that never comes.
     static constexpr std::int64_t never = std::numeric_limits<std::int64_t>::max();
 
+    // A deadline missed by so many milliseconds ran out while the process (or the machine) stood still: what
+    // has arrived meanwhile comes before it.
+    static constexpr std::int64_t stoodStill = 1000;
+
     // Sleeps until something happens, at most until `deadline` (milliseconds of now()). Looks for waiting
     // characters before it sleeps; lets a window breathe at least every 50 ms even while characters keep
     // coming. Wakes with `data` also when the line has closed itself, so that its session sees it.

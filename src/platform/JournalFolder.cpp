@@ -240,6 +240,7 @@ std::optional<JournalEntry> JournalFolder::entry(const std::string& id) const {
     if (bytes == 0 && !held)
         return {};
     JournalEntry found{.id = id, .header = record.header, .clockDifference = record.clockDifference};
+    found.hasAccepted = files_.exists(path(id, dataEnding));
     found.state = record.state.value_or(held ? JournalState::receiving : JournalState::interrupted);
     if (accepting(id))
         found.state = JournalState::accepted;
@@ -271,6 +272,10 @@ std::string JournalFolder::text(const std::string& id) const {
     const std::string data = path(id, dataEnding);
     if (files_.exists(data))
         return files_.read(data, mostText);
+    return received(id);
+}
+
+std::string JournalFolder::received(const std::string& id) const {
     const JournalRecord record = readJournal(files_.read(path(id, logEnding), mostText));
     std::string raw = files_.read(path(id, rawEnding), record.partStart + mostText);
     return raw.erase(0, record.partStart);

@@ -36,6 +36,7 @@ public:
 
     std::vector<JournalEntry> list() const override;
     std::string text(const std::string& id) const override;
+    std::string received(const std::string& id) const override;
     void mark(const std::string& id, JournalState state) override;
     void accept(const std::string& id, std::string_view text) override;
     bool keeps(const std::string& id) override;

@@ -35,9 +35,16 @@ void QtWaiter::wake() {
 Wake QtWaiter::until(std::int64_t deadline) {
     if (now() - lastBreath_ >= breathEvery)
         sleep(0);
-    for (;;) {
-        if (now() >= deadline)
-            return Wake::due;
+    for (bool late = false;;) {
+        const std::int64_t time = now();
+        if (time >= deadline && (late || time - deadline < stoodStill))
+            return late && !cancelRequested() && line_.hasNews() ? Wake::data : Wake::due;
+        if (time >= deadline) {
+            // The process stood still: one round brings in what has arrived meanwhile.
+            late = true;
+            sleep(0);
+            continue;
+        }
         if (cancelRequested())
             return Wake::cancelled;
         if (line_.hasNews())

@@ -99,7 +99,7 @@ void SerialLine::DTREnable(bool on) {
 
 std::string SerialLine::name() const {
     const std::string com = "COM" + std::to_string(commPort_);
-    return device_ == com ? com : com + " (" + device_ + ")";
+    return commPort_ == 0 || device_ == com ? device_ : com + " (" + device_ + ")";
 }
 
 void SerialLine::PortOpen(bool on) {

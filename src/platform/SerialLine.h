@@ -14,7 +14,7 @@ class SerialLine : public QObject, public Line {
     Q_OBJECT
 
 public:
-    // Gives the device (UTF-8) behind COM port 1 to 8; asked at each opening.
+    // Gives the device (UTF-8) behind COM port 1 to 8, or 0; asked at each opening.
     using DeviceOf = std::function<std::string(int commPort)>;
 
     explicit SerialLine(DeviceOf deviceOf);
@@ -48,7 +48,7 @@ private:
     void close();
     bool arrive();
     std::string_view take(std::size_t most);
-    // "COM3 (/dev/ttyUSB0)"
+    // "COM3 (/dev/ttyUSB0)"; the device alone when it was given by its path
     std::string name() const;
 
     DeviceOf deviceOf_;

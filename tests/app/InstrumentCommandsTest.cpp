@@ -72,8 +72,24 @@ TEST_F(InstrumentTest, DownloadWaitsInTheNoticeBarAndSaveAsWritesItWithNoFileOpe
     EXPECT_TRUE(noticeOf("1").isEmpty());
     EXPECT_EQ(journal.receptions[0].state, JournalState::saved);
     EXPECT_FALSE(enabled("mnuItemSave"));
+    EXPECT_EQ(prompt.filesAsked.back().name, "1234-2024-03-15.dat");
+    EXPECT_EQ(window.notices().text(QStringLiteral("saved download")).toStdString(),
+              "Saved in /d/new.dat: instrument 1234, 30 readings.");
+    EXPECT_EQ(settings.get("Settings", "mrufile1"), "/d/new.dat");
     open("/d/new.dat", files.contents["/d/new.dat"]);
     EXPECT_EQ(recordings.info(0).count, 30);
+}
+
+TEST_F(InstrumentTest, SavedDownloadIsOpenedFromItsNotice) {
+    send(memory());
+    download();
+    prompt.shown.clear();
+    prompt.files.push_back("/d/new.dat");
+    click("mnuItemSave");
+    press("Open");
+    EXPECT_EQ(recordings.info(0).path, "/d/new.dat");
+    EXPECT_EQ(recordings.info(0).count, 30);
+    EXPECT_TRUE(window.notices().text(QStringLiteral("saved download")).isEmpty());
 }
 
 TEST_F(InstrumentTest, SessionLeavesTheMenusAsTheyWere) {

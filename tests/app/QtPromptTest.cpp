@@ -47,6 +47,15 @@ TEST(MessageBox, EveryKindOfLineBreakBreaksALineAndBlanksStay) {
     EXPECT_EQ(box.windowTitle(), QStringLiteral("Tallyline"));
 }
 
+TEST(MessageBox, StandsUnderTheDialogThatItSpeaksOf) {
+    QDialog about;
+    about.setGeometry(100, 50, 300, 200);
+    about.show();
+    MessageBox box({.text = " PROCEED"}, &about);
+    box.show();
+    EXPECT_GE(box.frameGeometry().top(), about.frameGeometry().bottom());
+}
+
 TEST(MessageBox, PaddedTextsAreInAFixedWidthFontAndOthersAreNot) {
     MessageBox padded({.text = "             CAUTION          \r    For Voltage Recorders press  "});
     EXPECT_TRUE(QFontInfo(label(padded).font()).fixedPitch());

@@ -107,6 +107,34 @@ TEST_F(InstrumentControl, InitWithWrongArgumentsIsWrongUsage) {
     }
 }
 
+TEST_F(InstrumentControl, InitIsRefusedWhileADownloadOfTheInstrumentIsNotSaved) {
+    StartedInstrument instrument(port, {"--type", "7", "--count", "20", "--serial", "0417", "--fault",
+                                        "damaged-line=1", "--record", folder.path("log")});
+    const auto download =
+        runProgram("tallyline-cli", {"download", "--port", port, "--type", "7", "-o", output});
+    ASSERT_EQ(download.status, 1) << download.err;
+    const auto refused = runProgram("tallyline-cli", init({"--yes"}));
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_EQ(refused.out, "");
+    EXPECT_NE(refused.err.find("A download of this instrument is not saved yet:"), std::string::npos)
+        << refused.err;
+    EXPECT_EQ(TemporaryFolder::read(folder.path("log")).find("received"), std::string::npos);
+    const auto erased = runProgram("tallyline-cli", init({"--yes", "--erase-unsaved"}));
+    EXPECT_EQ(erased.status, 0) << erased.err;
+}
+
+TEST_F(InstrumentControl, InitAndRecoverCanBoundTheirWait) {
+    StartedInstrument instrument(port, {"--type", "7", "--count", "20", "--fault", "silent"});
+    const auto initialized = runProgram("tallyline-cli", init({"--yes", "--wait", "0.3"}));
+    EXPECT_EQ(initialized.status, 1);
+    EXPECT_NE(initialized.err.find("No response in  0.3 seconds."), std::string::npos) << initialized.err;
+    auto arguments = recover();
+    arguments.insert(arguments.end(), {"--wait", "0.3"});
+    const auto recovered = runProgram("tallyline-cli", arguments);
+    EXPECT_EQ(recovered.status, 1);
+    EXPECT_NE(recovered.err.find("No response in  0.3 seconds."), std::string::npos) << recovered.err;
+}
+
 TEST_F(InstrumentControl, APortThatIsNotThereIsRefused) {
     const auto run = runProgram("tallyline-cli", init({"--yes"}));
     EXPECT_EQ(run.status, 1);
@@ -140,6 +168,22 @@ TEST_F(InstrumentControl, RecoverWritesTheFileWithTheStopTime) {
     EXPECT_NE(run.err.find("Start Time 13:35  Mar 15, 24"), std::string::npos) << run.err;
     EXPECT_NE(run.err.find("  Downloaded (stopped):  14:05  Mar 15, 24"), std::string::npos) << run.err;
     EXPECT_NE(info.out.find(R"("headerTime": "14:05  Mar 15, 24")"), std::string::npos) << info.out;
+}
+
+TEST_F(InstrumentControl, TheJournalJudgesARecoverAsTheCommandDoes) {
+    {
+        StartedInstrument instrument(port, {"--type", "10", "--battery-failed"});
+        EXPECT_EQ(runProgram("tallyline-cli", recover("10")).status, 1);
+    }
+    const std::string list = runProgram("tallyline-cli", {"journal", "list"}).out;
+    EXPECT_NE(list.find("  recover  received  "), std::string::npos) << list;
+    const std::string id = list.substr(0, list.find(' '));
+    const auto refused = runProgram("tallyline-cli", {"journal", "save", id, "-o", output});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("  CANNOT DETERMINE STOPPED TIME "), std::string::npos) << refused.err;
+    EXPECT_EQ(runProgram("tallyline-cli", {"info", output}).status, 1);
+    EXPECT_EQ(runProgram("tallyline-cli", {"journal", "save", id, "-o", output, "--yes"}).status, 0);
+    EXPECT_EQ(runProgram("tallyline-cli", {"info", output}).status, 0);
 }
 
 TEST_F(InstrumentControl, RecoverRefusesAFullContinuousMemory) {

@@ -159,6 +159,7 @@ TEST_F(LinkCommands, aDownloadWithErrorsIsKeptOnlyWithYes) {
     for (const std::vector<std::string>& no : std::vector<std::vector<std::string>>{{}, {"--no"}}) {
         const auto run = download(sim, no);
         EXPECT_EQ(run.status, 1);
+        EXPECT_NE(run.err.find("No was taken: the download was not kept."), std::string::npos) << run.err;
         EXPECT_NE(run.err.find("(ASCII value of first bad character = 65)"), std::string::npos) << run.err;
         EXPECT_FALSE(std::filesystem::exists(out));
     }
@@ -186,7 +187,8 @@ TEST_F(LinkCommands, anAdapterThatIsPulledOutIsToldAndWhatCameIsKept) {
 }
 
 TEST_F(LinkCommands, whatNoFileHoldsIsKeptAndSaid) {
-    const std::string kept = "What was received is kept: the window offers it at its next start.\n";
+    const std::string kept = "What was received is kept: the window offers it at its next start, "
+                             "and tallyline-cli journal list names it.\n";
     for (const std::vector<std::string>& fault :
          std::vector<std::vector<std::string>>{{"--fault", "gone=200"}, {"--mode", "z"}}) {
         auto options = fault;
@@ -239,18 +241,89 @@ TEST_F(LinkCommands, aPortThatIsNotThereIsRefused) {
     const auto run = runProgram("tallyline-cli",
                                 {"download", "--port", folder.path("no-device"), "--type", "7", "-o", out});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "Communication port not valid.\r\nTry selecting a different COM port\nCOM1 (" +
+    EXPECT_EQ(run.err, "Communication port not valid.\r\nTry selecting a different COM port\r\n" +
                            folder.path("no-device") +
-                           ") is not there. Check that the adapter is plugged in.\n");
+                           " is not there. Check that the adapter is plugged in.\n");
 }
 
-TEST_F(LinkCommands, aFileThatCannotBeWrittenLeavesTheDownloadInTheJournal) {
+TEST_F(LinkCommands, aPlaceThatCannotBeWrittenIsRefusedBeforeTheInstrumentIsAsked) {
     const auto sim = instrument({"--count", "30"});
-    const auto run = runProgram("tallyline-cli", {"download", "--port", sim.device(), "--type", "7", "-o",
-                                                  folder.path("no/such/folder.dat")});
-    EXPECT_EQ(run.status, 1);
-    const std::string log = journal(".log").at(0);
-    EXPECT_TRUE(log.ends_with("state accepted\n")) << log;
+    for (const char* command : {"download", "recover"}) {
+        const auto run = runProgram("tallyline-cli", {command, "--port", sim.device(), "--type", "7", "-o",
+                                                      folder.path("no/such/folder.dat")});
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.err, "Path not found\n" + folder.path("no/such/folder.dat") +
+                               " could not be written. Nothing was asked of the instrument.\n");
+    }
+    EXPECT_TRUE(journal(".log").empty());
+}
+
+TEST_F(LinkCommands, aDownloadWorksWithoutTheStandardStreams) {
+    const auto sim = instrument({"--count", "30"});
+    const std::string call = ::testing::binDir() + "/tallyline-cli download --port " + sim.device() +
+                             " --type 7 -o " + out + " <&- >&- 2>&-";
+    EXPECT_EQ(std::system(call.c_str()), 0);
+    EXPECT_TRUE(TemporaryFolder::read(out).ends_with("\x1a\"\r\n"));
+    EXPECT_EQ(journal().at(0).substr(0, header.size()), header);
+}
+
+TEST_F(LinkCommands, aModeLetterThatCannotBeReadIsAnOption) {
+    const auto sim = instrument({"--count", "30", "--mode", "z"});
+    const auto without = download(sim);
+    EXPECT_EQ(without.status, 1);
+    EXPECT_NE(without.err.find("The mode letter of the recording could not be read ('z')."),
+              std::string::npos)
+        << without.err;
+    EXPECT_NE(without.err.find("(--mode gives it)"), std::string::npos);
+    EXPECT_EQ(download(sim, {"--mode", "m"}).status, 2);
+    EXPECT_EQ(download(sim, {"--mode", "b"}).status, 0);
+    EXPECT_EQ(TemporaryFolder::read(out).substr(1, 4), "KWTb");
+}
+
+TEST_F(LinkCommands, theJournalIsListedShownSavedAndDropped) {
+    const auto sim = instrument({"--count", "30", "--fault", "damaged-line=2"});
+    ASSERT_EQ(download(sim, {"--at", "03-15-24 14:02"}).status, 1);
+    const auto call = [](std::vector<std::string> arguments) {
+        arguments.insert(arguments.begin(), "journal");
+        return runProgram("tallyline-cli", arguments);
+    };
+    const auto list = call({"list", "--json"});
+    EXPECT_EQ(list.status, 0) << list.err;
+    for (const std::string& part :
+         {std::string(R"("time": "14:02  Mar 15, 24")"), "\"port\": \"" + sim.device() + "\"",
+          std::string(R"("type": 7)"), std::string(R"("command": "download")"),
+          std::string(R"("state": "refused")"), "\"characters\": " + std::to_string(journal().at(0).size()),
+          std::string(R"("serial": "1234")")})
+        EXPECT_NE(list.out.find(part), std::string::npos) << part << "\n" << list.out;
+    const std::string line = call({"list"}).out;
+    const std::string id = line.substr(0, line.find(' '));
+    const auto show = call({"show", id});
+    EXPECT_EQ(show.status, 0) << show.err;
+    EXPECT_EQ(show.out, journal().at(0));
+
+    const auto refused = call({"save", id, "-o", out});
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_NE(refused.err.find("(ASCII value of first bad character = 65)"), std::string::npos)
+        << refused.err;
+    EXPECT_FALSE(std::filesystem::exists(out));
+    EXPECT_EQ(call({"save", id, "-o", out, "--yes"}).status, 0);
+    EXPECT_EQ(TemporaryFolder::read(out), "\"" + journal().at(0) + "\"\r\n");
+    EXPECT_NE(call({"list", "--json"}).out.find(R"("state": "saved")"), std::string::npos);
+
+    EXPECT_EQ(call({"drop", id}).status, 0);
+    EXPECT_NE(call({"list", "--json"}).out.find(R"("state": "dropped")"), std::string::npos);
+    for (const char* command : {"show", "drop"}) {
+        const auto none = call({command, "20240315-140500-000-1"});
+        EXPECT_EQ(none.status, 1);
+        EXPECT_NE(none.err.find("There is no reception 20240315-140500-000-1"), std::string::npos);
+    }
+    EXPECT_EQ(call({"show"}).status, 2);
+    EXPECT_EQ(call({}).status, 2);
+}
+
+TEST_F(LinkCommands, anEmptyJournalIsAnEmptyList) {
+    EXPECT_EQ(runProgram("tallyline-cli", {"journal", "list", "--json"}).out, "[]\n");
+    EXPECT_EQ(runProgram("tallyline-cli", {"journal", "list"}).out, "");
 }
 
 TEST_F(LinkCommands, unknownPortsAndTypesAreWrongUsage) {

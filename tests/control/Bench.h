@@ -81,7 +81,8 @@ public:
     int callPoint = 0;
 
     explicit Bench(int type) { applySelection(instrument, type); }
-    Session session() { return {line, waiter, user, panel, instrument, journal, callPoint}; }
+    SessionServices services() { return {line, waiter, user, instrument, journal, callPoint}; }
+    Session session() { return {services(), panel}; }
 };
 
 } // namespace tally::testing

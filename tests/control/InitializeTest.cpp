@@ -27,9 +27,19 @@ public:
     std::string toInitString = ";" + header("PQX", 'i') + "\r\n\x1a";
     std::vector<std::pair<std::int64_t, std::string>> sent; // with times
 
+    // How many instruments were set and read back.
     int run(char IMode = 'i') {
-        return InitializeSession(line, waiter, user, panel, instrument, callPoint).Initialize(IMode);
+        InitializeSession session(services(), panel, rules);
+        result = session.Initialize(IMode);
+        abortFrmErrorFlag = session.abortFrmErrorFlag();
+        int count = 0;
+        for (const std::string& question : user.questions(Buttons::YesNo))
+            count += question.starts_with("Initialization complete.") ? 1 : 0;
+        return count;
     }
+    InitializeRules rules;
+    bool abortFrmErrorFlag = false;
+    SessionResult<ReadBack> result;
     std::string connectPrompt() const { return user.questions(Buttons::OkCancel).at(0); }
     std::string reported(std::size_t i = 0) const { return user.questions(Buttons::YesNo).at(i); }
     static std::int64_t whole() { return 10 + 200 + 20 + 500 + 3000; }
@@ -49,8 +59,9 @@ private:
 
 TEST(InitializeCommand, WarnsBeforeAnythingElse) {
     Bench bench(7);
+    Session session = bench.session();
     bench.user.connections = 0;
-    EXPECT_FALSE(mnuItemInitialize_Click(bench.line, bench.instrument, bench.user));
+    EXPECT_FALSE(mnuItemInitialize_Click(session));
     ASSERT_EQ(bench.user.shown.size(), 1U);
     const Message& warning = bench.user.shown[0];
     EXPECT_EQ(warning.text, "     Warning! - This Function will clear\r"
@@ -58,13 +69,15 @@ TEST(InitializeCommand, WarnsBeforeAnythingElse) {
                             "Select 'OK' to continue, or  'CANCEL' to abort");
     EXPECT_EQ(warning.buttons, Buttons::OkCancel);
     EXPECT_TRUE(warning.exclamation);
+    EXPECT_EQ(warning.defaultAnswer, Answer::Cancel);
     EXPECT_TRUE(bench.line.calls.empty());
 }
 
 TEST(InitializeCommand, TriesThePortAfterOk) {
     Bench bench(7);
+    Session session = bench.session();
     bench.instrument.gCommPort = 4;
-    EXPECT_TRUE(mnuItemInitialize_Click(bench.line, bench.instrument, bench.user));
+    EXPECT_TRUE(mnuItemInitialize_Click(session));
     EXPECT_EQ(bench.line.count("CommPort 4"), 1);
     EXPECT_EQ(bench.line.count("PortOpen true"), 1);
     EXPECT_FALSE(bench.line.isOpen());
@@ -72,8 +85,9 @@ TEST(InitializeCommand, TriesThePortAfterOk) {
 
 TEST(InitializeCommand, APortThatCannotBeOpenedEndsItBeforeAnyDialog) {
     Bench bench(7);
+    Session session = bench.session();
     bench.line.failOpen = Fault(8005, "Port already open");
-    EXPECT_FALSE(mnuItemInitialize_Click(bench.line, bench.instrument, bench.user));
+    EXPECT_FALSE(mnuItemInitialize_Click(session));
     EXPECT_EQ(bench.user.told(), std::vector<std::string>{"Communication port not valid.\r\n"
                                                           "Try selecting a different COM port"});
 }
@@ -339,7 +353,9 @@ TEST(Initialize, ACablePulledAtAnyOf200InstantsEndsItWithAMessage) {
         Instrument test;
         test.line.loseAt(at);
         EXPECT_EQ(test.run(), 0) << at;
-        EXPECT_EQ(test.user.told(), std::vector<std::string>{"Terminating the initialization"}) << at;
+        EXPECT_EQ(test.user.told(),
+                  std::vector<std::string>{"Terminating the initialization\r\nCOM1: the line went away"})
+            << at;
         EXPECT_FALSE(test.line.isOpen());
         for (const auto& [when, what] : test.sent)
             EXPECT_LE(when, at);
@@ -352,6 +368,91 @@ TEST(Initialize, APortThatHasGoneBeforeThePromptIsTold) {
     EXPECT_EQ(test.run(), 0);
     EXPECT_EQ(test.user.told().size(), 1U);
     EXPECT_EQ(test.line.written, "");
+}
+
+TEST(Initialize, TheConnectionPromptDefaultsToCancel) {
+    Instrument test;
+    test.run();
+    EXPECT_EQ(test.user.shown[0].buttons, Buttons::OkCancel);
+    EXPECT_EQ(test.user.shown[0].defaultAnswer, Answer::Cancel);
+}
+
+// A download of instrument 0417 that no file holds.
+void keepUnsaved(MemoryJournal& journal, JournalState state) {
+    journal.begin({.commPort = 2, .instrumentType = 7, .pcTime = toReadingTime({2024, 3, 15, 14, 5})});
+    journal.append(header("PQX", 'c') + "\rT: 1");
+    journal.end(state);
+}
+
+TEST(Initialize, AnInstrumentWhoseDownloadIsNotSavedIsNotErasedUntilTheUserSaysSo) {
+    for (const auto state :
+         {JournalState::accepted, JournalState::received, JournalState::interrupted, JournalState::refused}) {
+        Instrument test;
+        keepUnsaved(test.journal, state);
+        EXPECT_EQ(test.run(), 0);
+        EXPECT_EQ(test.line.written, "");
+        const Message& question = test.user.shown.back();
+        EXPECT_EQ(question.buttons, Buttons::YesNo);
+        EXPECT_EQ(question.defaultAnswer, Answer::No);
+        EXPECT_TRUE(question.text.starts_with("A download of this instrument is not saved yet:\r\n"
+                                              "14:05  Mar 15, 24  download on COM2, PQX Ser. 0417"));
+        ASSERT_FALSE(test.result);
+        EXPECT_EQ(test.result.error().kind, EndKind::unsavedDownload);
+        EXPECT_FALSE(test.line.isOpen());
+
+        Instrument willing;
+        keepUnsaved(willing.journal, state);
+        willing.user.another = {Answer::Yes};
+        EXPECT_EQ(willing.run(), 1);
+    }
+}
+
+TEST(Initialize, DownloadsOfOtherInstrumentsAndSavedOnesDoNotMatter) {
+    Instrument test;
+    keepUnsaved(test.journal, JournalState::saved);
+    test.response = header("PQX", 'C', "0999") + "\r\n";
+    keepUnsaved(test.journal, JournalState::accepted);
+    EXPECT_EQ(test.run(), 1);
+    Instrument saved;
+    keepUnsaved(saved.journal, JournalState::saved);
+    EXPECT_EQ(saved.run(), 1);
+}
+
+TEST(Initialize, TheWaitForTheFirstCharacterCanBeBounded) {
+    Instrument test;
+    test.response = "";
+    test.rules.waitFor = 4000;
+    EXPECT_EQ(test.run(), 0);
+    EXPECT_TRUE(test.abortFrmErrorFlag);
+    EXPECT_EQ(test.user.told(), std::vector<std::string>{"No response in  4 seconds."});
+    EXPECT_EQ(test.result.error().kind, EndKind::noResponse);
+    EXPECT_EQ(test.waiter.now(), 4000);
+}
+
+TEST(Initialize, OneInstrumentIsSetWithoutAQuestionAboutAnother) {
+    Instrument test;
+    test.rules.once = true;
+    EXPECT_EQ(test.run(), 0);
+    ASSERT_TRUE(test.result);
+    EXPECT_TRUE(test.result->report.starts_with("Initialization complete."));
+    EXPECT_TRUE(test.user.questions(Buttons::YesNo).empty());
+    Instrument silent;
+    silent.rules.once = true;
+    silent.toCommand = "";
+    silent.waiter.cancelAt(60000);
+    silent.run();
+    EXPECT_EQ(silent.result.error().kind, EndKind::cancelled);
+    EXPECT_EQ(silent.user.questions(Buttons::OkCancel).size(), 1U);
+}
+
+TEST(Initialize, AWaitOfTheExchangeSaysWhatToCheckAfterTenSeconds) {
+    Instrument test;
+    test.toCommand = "";
+    test.waiter.cancelAt(60000);
+    test.run();
+    ASSERT_EQ(test.panel.hints.size(), 2U);
+    EXPECT_TRUE(test.panel.hints[0].starts_with("Nothing has come since 14:05. Check that "));
+    EXPECT_EQ(test.panel.hints[1], "");
 }
 
 TEST(Initialize, RubbishFromTheInstrumentNeverHangsOrSendsMoreThanTheExchange) {

@@ -31,7 +31,7 @@ public:
     Session session;
 
     void comes(const std::string& text, std::int64_t at = 1000) { line.sendAt(at, text); }
-    std::optional<PendingDownload> run() { return RecoverSession(session).RecoverProc(files, temporary); }
+    SessionResult<PendingDownload> run() { return RecoverSession(session).RecoverProc(files, temporary); }
     JournalState kept() const { return journal.receptions.back().state; }
 };
 
@@ -118,8 +118,8 @@ TEST(Recover, ListensWithDtrOnAndTheSettingsOfTheType) {
     test.instrument.gCommPort = 2;
     test.comes(memory('F', 10));
     test.run();
-    const std::vector<std::string> first = {"DTREnable true", "CommPort 2",     "Settings 115200,N,8,1",
-                                            "InputLen 1",     "EOFEnable true", "PortOpen true"};
+    const std::vector<std::string> first = {"DTREnable true", "CommPort 2",      "Settings 115200,N,8,1",
+                                            "InputLen 1",     "EOFEnable false", "PortOpen true"};
     for (std::size_t i = 0; i < first.size(); ++i)
         EXPECT_EQ(test.line.calls.at(i).what, first[i]);
     EXPECT_EQ(test.line.written, "");
@@ -273,7 +273,8 @@ TEST(Recover, ACancelWhileTheBoxAboutTheCableIsShownEndsIt) {
         }
         VirtualWaiter& waiter_;
     } user(test.waiter);
-    Session session(test.line, test.waiter, user, test.panel, test.instrument, test.journal, test.callPoint);
+    Session session({test.line, test.waiter, user, test.instrument, test.journal, test.callPoint},
+                    test.panel);
     EXPECT_FALSE(RecoverSession(session).RecoverProc(test.files, temporary));
     EXPECT_EQ(user.told(), std::vector<std::string>{cableOff});
     EXPECT_TRUE(test.files.contents.empty());
@@ -310,6 +311,41 @@ TEST(Recover, AFullDiskIsAFaultAndTheTextStaysInTheJournal) {
     EXPECT_EQ(test.kept(), JournalState::received);
     EXPECT_TRUE(test.panel.prompts.empty());
     EXPECT_FALSE(test.panel.visible);
+}
+
+TEST(Recover, ABlankModeIsA) {
+    Recovery test;
+    test.comes(memory(' ', 4));
+    const auto recovered = test.run();
+    ASSERT_TRUE(recovered);
+    // Four readings of 15 minutes.
+    EXPECT_EQ(recovered->text, memory(' ', 4, "PQX", "03-15-24 15:05"));
+}
+
+TEST(Recover, CharactersBehindTheEndMarkAreWarnedOf) {
+    Recovery test;
+    test.comes(memory('F', 10) + " 123\x1a");
+    EXPECT_TRUE(test.run());
+    EXPECT_TRUE(test.user.shown[1].text.starts_with("5 characters followed the end mark"));
+    EXPECT_EQ(test.user.shown[1].title, "WARNING");
+}
+
+TEST(Recover, TheWaitForTheFirstCharacterCanBeBounded) {
+    Recovery test;
+    const auto nothing = RecoverSession(test.session, 4000).RecoverProc(test.files, temporary);
+    ASSERT_FALSE(nothing);
+    EXPECT_EQ(nothing.error().kind, EndKind::noResponse);
+    EXPECT_EQ(test.waiter.now(), 4000);
+    EXPECT_EQ(test.user.told(), std::vector<std::string>{"No response in  4 seconds."});
+}
+
+TEST(Recover, AWaitWithoutALimitSaysWhatToCheckAfterTenSeconds) {
+    Recovery test;
+    test.comes(memory('F', 10), 15000);
+    EXPECT_TRUE(test.run());
+    ASSERT_EQ(test.panel.hints.size(), 2U);
+    EXPECT_TRUE(test.panel.hints[0].starts_with("Nothing has come since 14:05. Check that "));
+    EXPECT_EQ(test.panel.hints[1], "");
 }
 
 TEST(Recover, AModeOutsideTheTableIsAFault) {

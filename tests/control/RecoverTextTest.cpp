@@ -20,15 +20,18 @@ ReadingTime at(int day, int hour, int minute) {
     return toReadingTime({2024, 3, day, hour, minute});
 }
 
-TEST(RecoverText, OffsetsCountFromTheFamilyInitial) {
-    const std::string text = ";;" + memory('F', 3);
-    EXPECT_EQ(recoverCharacter(text, 0), 'P');
-    EXPECT_EQ(recoverCharacter(text, 2), 'X');
-    EXPECT_EQ(recoverCharacter(text, 3), 'F');
-    EXPECT_EQ(recoverCharacter(text, 46), 'T');
-    EXPECT_EQ(recoverCharacter("PQX", 3), std::nullopt);
-    EXPECT_EQ(recoverCharacter("", 0), std::nullopt);
-    EXPECT_EQ(recoverCharacter(";;;", 0), std::nullopt);
+TEST(RecoverText, TwoCharactersOfTheHeaderSpeakAgainstIt) {
+    EXPECT_EQ(recoverRefusal(46, 'T', 7), std::nullopt);
+    EXPECT_EQ(recoverRefusal(46, 'X', 7), RecoverRefusal::notValid);
+    EXPECT_EQ(recoverRefusal(45, '\x1a', 7), RecoverRefusal::notValid);
+    EXPECT_EQ(recoverRefusal(47, '\x1a', 7), std::nullopt);
+    EXPECT_EQ(recoverRefusal(2, 'A', 3), RecoverRefusal::notVoltmeter);
+    EXPECT_EQ(recoverRefusal(2, 'A', 7), std::nullopt);
+    EXPECT_EQ(recoverRefusal(2, 'V', 6), std::nullopt);
+}
+
+TEST(RecoverText, ABlankModeIsA) {
+    EXPECT_EQ(recoverHeader(memory(' ', 3)).mode, 'a');
 }
 
 TEST(RecoverText, TheHeaderGivesModeAndStartTime) {
@@ -38,7 +41,7 @@ TEST(RecoverText, TheHeaderGivesModeAndStartTime) {
 }
 
 TEST(RecoverText, AModeOutsideTheTableIsASubscriptFault) {
-    for (const char mode : {'M', 'Z', ' ', '0', '@'}) {
+    for (const char mode : {'M', 'Z', '0', '@'}) {
         try {
             recoverHeader(memory(mode, 3));
             FAIL() << mode;
@@ -96,7 +99,8 @@ TEST(RecoverText, TheStopTimeLiesAnIntervalAReadingAfterTheStart) {
 
 TEST(RecoverText, ThreeReadingsOfMinMaxAvgAreOneInterval) {
     EXPECT_EQ(stopTime({'l', at(15, 14, 5)}, 180), at(15, 15, 5));
-    EXPECT_EQ(stopTime({'j', at(15, 14, 5)}, 5), at(15, 14, 20));
+    // Int(15 * 5 / 3) = 25 minutes.
+    EXPECT_EQ(stopTime({'j', at(15, 14, 5)}, 5), at(15, 14, 30));
 }
 
 TEST(RecoverText, TheStopTimeTakesTheFourteenPlacesOfTheHeaderTime) {

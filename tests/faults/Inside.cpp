@@ -2,7 +2,7 @@
 // What runs as a process of its own, so that a fault strikes it alone.
 #include "Desk.h"
 
-#include "link/DownloadReception.h"
+#include "link/DownloadSession.h"
 #include "platform/JournalFolder.h"
 #include "platform/QtWaiter.h"
 #include "platform/SafeFile.h"
@@ -65,7 +65,7 @@ int pause(const std::string& folder) {
     InstrumentState state;
     JournalFolder journal(folder, files);
     int callPoint = 0;
-    Session session(line, waiter, prompt, panel, state, journal, callPoint);
+    Session session({line, waiter, prompt, state, journal, callPoint}, panel);
 
     QTimer ticks;
     auto last = Clock::now();
@@ -85,7 +85,7 @@ int pause(const std::string& folder) {
             std::this_thread::sleep_for(std::chrono::milliseconds(10));
         }
     });
-    const auto received = DownloadReception(session, Waiter::never).run();
+    const auto received = InstrumentWait(session, downloadPolicy(panel)).run();
     session.closePort();
     journal.end(JournalState::received);
     journal.accepted(received ? received->text : std::string());

@@ -14,10 +14,11 @@ using testing::memoryOf;
 using testing::quickInstrument;
 using testing::SessionDesk;
 
-std::optional<PendingDownload> download(SessionDesk& desk) {
+SessionResult<PendingDownload> download(SessionDesk& desk) {
     DownloadSession session(desk.session);
-    if (!session.mnuItemDownload_Click(desk.files, desk.folder.path().toStdString()))
-        return {};
+    const auto ready = session.mnuItemDownload_Click(desk.files, desk.folder.path().toStdString());
+    if (!ready)
+        return tl::make_unexpected(ready.error());
     return session.DownLoadProc();
 }
 

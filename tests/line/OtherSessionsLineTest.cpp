@@ -16,9 +16,13 @@ using testing::memoryOf;
 using testing::quickInstrument;
 using testing::SessionDesk;
 
+// How many instruments were set and read back.
 int initialize(SessionDesk& desk, char mode) {
-    InitializeSession session(desk.line, desk.waiter, desk.prompt, desk.panel, desk.state, desk.callPoint);
-    return session.Initialize(mode);
+    InitializeSession(desk.services, desk.panel).Initialize(mode);
+    int count = 0;
+    for (const std::string& text : desk.prompt.texts())
+        count += text.starts_with("Initialization complete.") ? 1 : 0;
+    return count;
 }
 
 TEST(StatusOnTheLine, ShowsTheFieldsOfTheHeader) {
@@ -159,10 +163,10 @@ sim::InstrumentSetup batteryFailed(char mode, int count) {
     return setup;
 }
 
-std::optional<PendingDownload> recover(SessionDesk& desk) {
+SessionResult<PendingDownload> recover(SessionDesk& desk) {
     RecoverSession session(desk.session);
-    if (!session.mnuItemRecover_Click())
-        return {};
+    if (const auto ready = session.mnuItemRecover_Click(); !ready)
+        return tl::make_unexpected(ready.error());
     return session.RecoverProc(desk.files, desk.folder.path().toStdString() + "/temp.dat");
 }
 

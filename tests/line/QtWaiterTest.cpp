@@ -55,6 +55,16 @@ TEST(QtWaiter, AnswersDueThenCancelledThenData) {
     EXPECT_EQ(port.waiter.until(Waiter::never), Wake::data);
 }
 
+TEST(QtWaiter, WhatArrivedWhileTheProcessStoodStillComesBeforeADeadlineLongMissed) {
+    OpenLine port;
+    port.open();
+    port.pty->write("x");
+    const std::int64_t missed = port.waiter.now() - 2 * Waiter::stoodStill;
+    EXPECT_EQ(port.waiter.until(missed), Wake::data);
+    EXPECT_EQ(port.line.Input(), "x");
+    EXPECT_EQ(port.waiter.until(missed), Wake::due);
+}
+
 TEST(QtWaiter, ADeadlineFurtherThanATimerReachesIsKept) {
     OpenLine port;
     port.open();

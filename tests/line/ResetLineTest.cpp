@@ -44,13 +44,13 @@ private:
 };
 
 // Downloads with automatic selection that begins at 9,600 baud from an instrument of 115,200.
-std::optional<PendingDownload> automaticDownload(const sim::InstrumentSetup& setup, std::int64_t& took) {
+SessionResult<PendingDownload> automaticDownload(const sim::InstrumentSetup& setup, std::int64_t& took) {
     const Pipe dtr;
     const LiveInstrument instrument(setup, dtr.ends[0]);
     SessionDesk desk(instrument.live.path(), 11);
     LineWithDtr line(instrument.live.path(), dtr.ends[1]);
     QtWaiter waiter(line);
-    Session session(line, waiter, desk.prompt, desk.panel, desk.state, desk.journal, desk.callPoint);
+    Session session({line, waiter, desk.prompt, desk.state, desk.journal, desk.callPoint}, desk.panel);
     const std::int64_t start = waiter.now();
     auto received = DownloadSession(session).DownLoadProc();
     took = waiter.now() - start;

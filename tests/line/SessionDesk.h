@@ -27,7 +27,8 @@ struct SessionDesk {
     InstrumentState state;
     JournalFolder journal{journalFolder(), files};
     int callPoint = 0;
-    Session session{line, waiter, prompt, panel, state, journal, callPoint};
+    SessionServices services{line, waiter, prompt, state, journal, callPoint};
+    Session session{services, panel};
 
     SessionDesk(std::string path, int type) : device(std::move(path)) { applySelection(state, type); }
     std::string journalFolder() const { return folder.path().toStdString() + "/journal"; }

@@ -26,7 +26,7 @@ struct DownloadSessionTest : ::testing::Test, testing::LinkBench {
         instrument.instSelection = 7;
         instrument.gCommPort = 2;
     }
-    bool prepare() { return download.mnuItemDownload_Click(files, "."); }
+    bool prepare() { return download.mnuItemDownload_Click(files, ".").has_value(); }
     void sends(const std::string& text) { answers("9600,N,8,1", text); }
     JournalState state() const { return journal.receptions.back().state; }
     void expectTidy() const {
@@ -39,9 +39,11 @@ struct DownloadSessionTest : ::testing::Test, testing::LinkBench {
 
 TEST_F(DownloadSessionTest, aPortThatCannotBeOpenedEndsTheCommand) {
     line.failOpen = Fault(8002, "Invalid port number");
+    line.openProblem = "COM2 (/dev/ttyS1) is not there. Check that the adapter is plugged in.";
     EXPECT_FALSE(prepare());
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{
-                                  "Communication port not valid.\r\nTry selecting a different COM port"});
+                                  "Communication port not valid.\r\nTry selecting a different COM port\r\n"
+                                  "COM2 (/dev/ttyS1) is not there. Check that the adapter is plugged in."});
     EXPECT_TRUE(panel.prompts.empty());
 }
 
@@ -96,7 +98,10 @@ TEST_F(DownloadSessionTest, aCleanDownloadIsAcceptedWithoutAQuestion) {
     EXPECT_EQ(pending->text, memory());
     EXPECT_EQ(pending->id, "1");
     EXPECT_EQ(prompt.texts(), (std::vector<std::string>{removeCableText(), proceed}));
-    EXPECT_EQ(panel.prompts, std::vector<std::string>{informationReport(memory())});
+    EXPECT_EQ(panel.prompts,
+              (std::vector<std::string>{"Waiting for the instrument to send its recording.",
+                                        "The instrument is sending. Leave the cable in until the end.",
+                                        informationReport(memory(), {.memory = 10710})}));
     EXPECT_EQ(panel.mainStatuses.front(), "COM2  in use\r\n Cancel or Escape to quit");
     EXPECT_EQ(panel.progressTexts.front(), "        Ready to start download.");
     EXPECT_EQ(panel.progressTexts.back(), "No. of characters processed = " + std::to_string(memory().size()));
@@ -195,11 +200,52 @@ TEST_F(DownloadSessionTest, tooManyBadCharactersAreAFaultAndTheTextWaitsInTheJou
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, aModeOutsideTheTableIsAFaultAndTheTextWaitsInTheJournal) {
+TEST_F(DownloadSessionTest, aDamagedModeLetterIsToldAndGivenByTheUser) {
+    prompt.inputs = {"what?", "5 min Min/Max/Avg, stop when full"};
+    sends(memory(2, header("KWT", '#')));
+    const auto pending = download.DownLoadProc();
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, memory(2, header("KWT", 'k')));
+    ASSERT_EQ(prompt.asked.size(), 2U);
+    EXPECT_TRUE(prompt.asked[0].text.starts_with(
+        "The mode letter of the recording could not be read ('#').\r\nWhat the instrument sent is kept."));
+    EXPECT_EQ(prompt.asked[0].choices.size(), 12U);
+    EXPECT_EQ(prompt.asked[0].choices.front(), "15 min Average, continuous");
+}
+
+TEST_F(DownloadSessionTest, withoutAModeTheTextWaitsInTheJournal) {
+    prompt.inputs = {std::nullopt};
     sends(memory(2, header("KWT", 'Z')));
-    EXPECT_THROW(download.DownLoadProc(), Fault);
+    const auto pending = download.DownLoadProc();
+    ASSERT_FALSE(pending);
+    EXPECT_EQ(pending.error().why.text, "The mode letter of the recording could not be read ('Z').");
     EXPECT_EQ(state(), JournalState::received);
     expectTidy();
+}
+
+TEST_F(DownloadSessionTest, charactersBehindAStrayEndMarkAreWarnedOfBeforeAnythingIsSaved) {
+    // One line of ten and the mark; nine more lines follow it.
+    sends(memory(1) + lines(9) + "\x1a");
+    const auto pending = download.DownLoadProc();
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, memory(1));
+    const std::size_t followed = lines(9).size() + 1;
+    EXPECT_EQ(prompt.shown[0].text,
+              std::to_string(followed) +
+                  " characters followed the end mark of the recording.\r\n"
+                  "It may be cut short there: download it again before you initialize the instrument.");
+    EXPECT_EQ(prompt.shown[0].title, "WARNING");
+    EXPECT_EQ(journal.receptions[0].parts.back(), memory(1) + lines(9) + "\x1a");
+}
+
+TEST_F(DownloadSessionTest, aFaultOfTheReceptionIsNoBadPort) {
+    struct FaultyPanel : testing::RecordingPanel {
+        void progressText(const std::string&) override { throw fault::overflow(); }
+    } faulty;
+    Session other({line, waiter, prompt, instrument, journal, gErrorCallPoint}, faulty);
+    EXPECT_THROW(DownloadSession(other).DownLoadProc(), Fault);
+    EXPECT_TRUE(prompt.shown.empty());
+    EXPECT_FALSE(line.isOpen());
 }
 
 TEST_F(DownloadSessionTest, aPortThatIsGoneAfterThePromptIsToldLikeTheProbe) {
@@ -239,7 +285,10 @@ TEST_F(DownloadSessionTest, theCallPointSaysWhereAnErrorHappened) {
 TEST_F(DownloadSessionTest, aRunningInstrumentsClockIsComparedWithTheComputers) {
     sends(memory(3, header("KWT", 'a', "03-15-24 14:08")));
     const auto pending = download.DownLoadProc();
-    EXPECT_EQ(panel.prompts, std::vector<std::string>{informationReport(pending->text, {}, 3)});
+    EXPECT_EQ(panel.prompts, (std::vector<std::string>{
+                                 "Waiting for the instrument to send its recording.",
+                                 "The instrument is sending. Leave the cable in until the end.",
+                                 informationReport(pending->text, {.clockDifference = 3, .memory = 10710})}));
     EXPECT_EQ(journal.receptions[0].clockDifference, 3);
     EXPECT_EQ(pending->text, memory(3, header("KWT", 'a', "03-15-24 14:08")));
 }

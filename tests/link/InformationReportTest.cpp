@@ -2,7 +2,6 @@
 #include "link/InformationReport.h"
 
 #include "LinkBench.h"
-#include "core/Fault.h"
 
 #include <gtest/gtest.h>
 
@@ -18,8 +17,18 @@ TEST(InformationReportTest, showsTheFieldsOfTheHeader) {
     EXPECT_EQ(informationReport("\r\n" + header() + "\rT: 1"),
               title +
                   "Type: KWT     Ser. 1234\r\nMode:  Average 15 min interval\r\n"
-                  "           Downloaded or stopped at:  14:05  Mar 15, 24\r\n" +
+                  "           Downloaded or stopped at:  14:05  Mar 15, 24\r\n"
+                  "  Readings: 1\r\n  They span: 0 d 0 h 15 min\r\n" +
                   reminder);
+}
+
+TEST(InformationReportTest, saysHowMuchThereIsAndHowMuchTheMemoryHolds) {
+    // 40 readings of three values an interval of 5 minutes: Int(5 * 40 / 3) = 66 minutes.
+    const std::string text = informationReport(testing::memory(4, header("KWT", 'h')), {.memory = 10710});
+    EXPECT_NE(
+        text.find("  Readings: 40\r\n  They span: 0 d 1 h 6 min\r\n  The memory holds: 10710 readings\r\n"),
+        std::string::npos)
+        << text;
 }
 
 TEST(InformationReportTest, namesTheModeByItsLetter) {
@@ -32,7 +41,8 @@ TEST(InformationReportTest, namesTheModeByItsLetter) {
 }
 
 TEST(InformationReportTest, aRecoverAddsStartStopAndReadings) {
-    EXPECT_EQ(informationReport(header(), RecoveredFacts{"10:00  Mar 01, 24", "12:30  Mar 02, 24", 106}),
+    EXPECT_EQ(informationReport(header(),
+                                {.recovered = RecoveredFacts{"10:00  Mar 01, 24", "12:30  Mar 02, 24", 106}}),
               title +
                   "Type: KWT     Ser. 1234\r\nMode:  Average 15 min interval\r\n"
                   "Start Time 10:00  Mar 01, 24\r\n"
@@ -43,7 +53,7 @@ TEST(InformationReportTest, aRecoverAddsStartStopAndReadings) {
 
 TEST(InformationReportTest, tellsHowFarTheClocksAreApart) {
     const auto line = [](std::int64_t minutes) {
-        const std::string text = informationReport(header(), {}, minutes);
+        const std::string text = informationReport(header(), {.clockDifference = minutes});
         const std::size_t at = text.find("Instrument clock");
         return text.substr(at, text.find("\r\n", at) - at);
     };
@@ -51,11 +61,14 @@ TEST(InformationReportTest, tellsHowFarTheClocksAreApart) {
     EXPECT_EQ(line(-61), "Instrument clock: 61 min behind this computer's");
     EXPECT_EQ(line(0), "Instrument clock: the same as this computer's");
     EXPECT_EQ(informationReport(header()).find("Instrument clock"), std::string::npos);
+    EXPECT_EQ(line(2879), "Instrument clock: 2879 min ahead of this computer's");
+    EXPECT_EQ(line(-2880), "Instrument clock: 2 days behind this computer's");
+    EXPECT_EQ(line(-5000000), "Instrument clock: 3472 days behind this computer's");
 }
 
-TEST(InformationReportTest, aModeOutsideTheTableIsAFault) {
-    EXPECT_THROW(informationReport(header("KWT", 'n')), Fault);
-    EXPECT_THROW(informationReport(header("KWT", '5')), Fault);
+TEST(InformationReportTest, aModeOutsideTheTableIsUnknown) {
+    for (const char mode : {'m', 'n', '5'})
+        EXPECT_NE(informationReport(header("KWT", mode)).find("Mode:  unknown\r\n"), std::string::npos);
 }
 
 TEST(InformationReportTest, aHeaderWithoutFieldsLeavesThemEmpty) {

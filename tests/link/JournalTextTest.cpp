@@ -10,6 +10,7 @@ namespace {
 
 const JournalHeader header = {.commPort = 5,
                               .instrumentType = 8,
+                              .maxSamples = 42966,
                               .settings = "115200,N,8,1",
                               .pcTime = toReadingTime({2024, 3, 15, 14, 5}),
                               .command = "recover"};
@@ -20,6 +21,7 @@ TEST(JournalTextTest, whatIsWrittenIsReadAgain) {
                     journalState(JournalState::received) + journalState(JournalState::accepted));
     EXPECT_EQ(record.header.commPort, 5);
     EXPECT_EQ(record.header.instrumentType, 8);
+    EXPECT_EQ(record.header.maxSamples, 42966);
     EXPECT_EQ(record.header.settings, "9600,N,8,1");
     EXPECT_EQ(record.header.pcTime, header.pcTime);
     EXPECT_EQ(record.header.command, "recover");
@@ -30,7 +32,13 @@ TEST(JournalTextTest, whatIsWrittenIsReadAgain) {
 
 TEST(JournalTextTest, theLinesOfAStart) {
     EXPECT_EQ(journalStart(header),
-              "command recover\nport 5\ntype 8\ntime 03-15-24 14:05\npart 0 115200,N,8,1\n");
+              "command recover\nport 5\nsamples 42966\ntype 8\ntime 03-15-24 14:05\npart 0 115200,N,8,1\n");
+    JournalHeader byPath = header;
+    byPath.commPort = 0;
+    byPath.device = "/dev/pts/7";
+    EXPECT_EQ(journalStart(byPath), "command recover\nport 0\ndevice /dev/pts/7\nsamples 42966\ntype 8\n"
+                                    "time 03-15-24 14:05\npart 0 115200,N,8,1\n");
+    EXPECT_EQ(readJournal(journalStart(byPath)).header.device, "/dev/pts/7");
 }
 
 TEST(JournalTextTest, aLineCutShortDoesNotCount) {

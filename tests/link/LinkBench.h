@@ -48,7 +48,7 @@ struct LinkBench {
     MemoryJournal journal;
     MemoryFiles files;
     int gErrorCallPoint = 0;
-    Session session{line, waiter, prompt, panel, instrument, journal, gErrorCallPoint};
+    Session session{{line, waiter, prompt, instrument, journal, gErrorCallPoint}, panel};
 
     void automatic(std::int16_t current) {
         instrument.instSelection = 11;

@@ -56,7 +56,12 @@ TEST(PromptTextsTest, everyPromptLineHas45Columns) {
 TEST(PromptTextsTest, otherTexts) {
     EXPECT_EQ(removeCableText(), "       RETURN THE SWITCH TO 'STANDBY'   \r\n"
                                  "           OR REMOVE THE CABLE NOW       ");
-    EXPECT_EQ(portInUseText(3), "COM3  in use\r\n Cancel or Escape to quit");
+    InstrumentState instrument;
+    instrument.gCommPort = 3;
+    EXPECT_EQ(portInUseText(instrument), "COM3  in use\r\n Cancel or Escape to quit");
+    instrument.gCommPort = 0;
+    instrument.devicePath = "/dev/ttyUSB0";
+    EXPECT_EQ(portInUseText(instrument), "/dev/ttyUSB0  in use\r\n Cancel or Escape to quit");
     EXPECT_STREQ(lowBatteryText, "    LOW INSTRUMENT BATTERY    ");
     EXPECT_STREQ(badPortText, "Communication port not valid.\r\nTry selecting a different COM port");
 }

@@ -25,7 +25,7 @@ TEST_F(RescueTest, anInterruptedReceptionIsJudgedAndAccepted) {
     const std::string half = "k" + testing::memory(5).substr(1, 150);
     receive(half, JournalState::interrupted);
     prompt.answers = {Answer::Yes};
-    const auto pending = validateReception(journal, "1", prompt);
+    const auto pending = judgeReception(journal, "1", prompt);
     ASSERT_TRUE(pending);
     EXPECT_EQ(pending->text, "K" + half.substr(1));
     EXPECT_EQ(pending->id, "1");
@@ -37,27 +37,27 @@ TEST_F(RescueTest, anInterruptedReceptionIsJudgedAndAccepted) {
 TEST_F(RescueTest, noLeavesItAsItIs) {
     receive("KWT", JournalState::interrupted);
     prompt.answers = {Answer::No};
-    EXPECT_FALSE(validateReception(journal, "1", prompt));
+    EXPECT_FALSE(judgeReception(journal, "1", prompt));
     EXPECT_EQ(journal.receptions[0].state, JournalState::interrupted);
 }
 
 TEST_F(RescueTest, withoutARecordingItIsBadData) {
     receive("123", JournalState::interrupted);
-    EXPECT_FALSE(validateReception(journal, "1", prompt));
+    EXPECT_FALSE(judgeReception(journal, "1", prompt));
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
 }
 
 TEST_F(RescueTest, aHeaderWithoutATimeAsksForIt) {
     receive(testing::memory(3, testing::header("KWT", 'b', "??????????????")), JournalState::received);
     prompt.inputs = {std::nullopt};
-    EXPECT_FALSE(validateReception(journal, "1", prompt));
+    EXPECT_FALSE(judgeReception(journal, "1", prompt));
     prompt.inputs = {"03-01-24 10:00"};
-    EXPECT_EQ(validateReception(journal, "1", prompt)->text,
+    EXPECT_EQ(judgeReception(journal, "1", prompt)->text,
               testing::memory(3, testing::header("KWT", 'b', "03-01-24 12:30")));
 }
 
 TEST_F(RescueTest, aReceptionThatIsNotThereIsAFault) {
-    EXPECT_THROW(validateReception(journal, "7", prompt), Fault);
+    EXPECT_THROW(judgeReception(journal, "7", prompt), Fault);
 }
 
 TEST_F(RescueTest, onlyUnsavedReceptionsWaitForTheUser) {
@@ -65,11 +65,30 @@ TEST_F(RescueTest, onlyUnsavedReceptionsWaitForTheUser) {
                              JournalState::refused, JournalState::saved, JournalState::dropped})
         receive("KWT", state);
     journal.begin({});
+    // The refused one holds no serial number.
     const auto entries = unsavedReceptions(journal);
     ASSERT_EQ(entries.size(), 3U);
     EXPECT_EQ(entries[0].state, JournalState::accepted);
     EXPECT_EQ(entries[1].state, JournalState::received);
     EXPECT_EQ(entries[2].state, JournalState::interrupted);
+}
+
+TEST_F(RescueTest, aRefusedReceptionIsOfferedUntilALaterOneOfItsInstrumentIsSaved) {
+    receive(testing::memory(), JournalState::refused);
+    EXPECT_EQ(unsavedReceptions(journal).size(), 1U);
+    receive(testing::memory(), JournalState::saved);
+    EXPECT_TRUE(unsavedReceptions(journal).empty());
+    receive(testing::memory(), JournalState::refused);
+    ASSERT_EQ(unsavedReceptions(journal).size(), 1U);
+    EXPECT_EQ(unsavedReceptions(journal)[0].id, "3");
+}
+
+TEST_F(RescueTest, theTextEndsAtItsFirstEndMarkAndWhatFollowsIsWarnedOf) {
+    receive(testing::memory() + "more", JournalState::received);
+    const auto pending = judgeReception(journal, "1", prompt);
+    ASSERT_TRUE(pending);
+    EXPECT_EQ(pending->text, testing::memory());
+    EXPECT_TRUE(prompt.texts().front().starts_with("4 characters followed the end mark"));
 }
 
 TEST_F(RescueTest, aReceptionInOneLine) {

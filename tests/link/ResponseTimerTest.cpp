@@ -44,7 +44,7 @@ TEST_F(ResponseTimerTest, theFlipGoesToTheOtherSettingsAndBack) {
 TEST_F(ResponseTimerTest, theFlipReopensResetsAndRunsAnew) {
     session.openPort();
     line.calls.clear();
-    EXPECT_EQ(timer.FlipPortSettings(), Wake::due);
+    EXPECT_TRUE(timer.FlipPortSettings());
     EXPECT_EQ(waiter.now(), 5000);
     EXPECT_EQ(timer.deadline(), 7500);
     EXPECT_TRUE(timer.triedBoth());
@@ -52,7 +52,7 @@ TEST_F(ResponseTimerTest, theFlipReopensResetsAndRunsAnew) {
     for (const auto& call : line.calls)
         whats.push_back(call.what);
     EXPECT_EQ(whats, (std::vector<std::string>{"PortOpen false", "CommPort 1", "Settings 115200,N,8,1",
-                                               "InputLen 1", "EOFEnable true", "PortOpen true",
+                                               "InputLen 1", "EOFEnable false", "PortOpen true",
                                                "DTREnable false", "DTREnable true"}));
     EXPECT_EQ(line.firstTime("DTREnable false"), 0);
     EXPECT_EQ(line.firstTime("DTREnable true"), 5000);
@@ -70,7 +70,9 @@ TEST_F(ResponseTimerTest, theReasonStandsInTheStatusText) {
 TEST_F(ResponseTimerTest, aCancelDuringTheResetRaisesDtrAgain) {
     session.openPort();
     waiter.cancelAt(1200);
-    EXPECT_EQ(timer.FlipPortSettings(), Wake::cancelled);
+    const auto flipped = timer.FlipPortSettings();
+    ASSERT_FALSE(flipped);
+    EXPECT_EQ(flipped.error().kind, EndKind::cancelled);
     EXPECT_EQ(waiter.now(), 1200);
     EXPECT_EQ(line.firstTime("DTREnable true"), 1200);
     EXPECT_FALSE(timer.running());

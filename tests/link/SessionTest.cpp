@@ -20,7 +20,7 @@ TEST_F(SessionTest, opensThePortOneCharacterARead) {
     for (const auto& call : line.calls)
         whats.push_back(call.what);
     EXPECT_EQ(whats, (std::vector<std::string>{"CommPort 3", "Settings 115200,N,8,1", "InputLen 1",
-                                               "EOFEnable true", "PortOpen true"}));
+                                               "EOFEnable false", "PortOpen true"}));
 }
 
 TEST_F(SessionTest, givesOneCharacterAndKeepsEveryOneInTheJournalBefore) {

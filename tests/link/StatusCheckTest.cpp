@@ -136,6 +136,56 @@ TEST_F(StatusCheckTest, aHeaderWithoutAModeIsAFragment) {
     EXPECT_EQ(told(), "Invalid header fragment received: 'PQX'" + closing);
 }
 
+TEST_F(StatusCheckTest, noiseIsAFragment) {
+    answers("9600,N,8,1", "H\x06H\r");
+    EXPECT_FALSE(check.StatusCheck());
+    EXPECT_EQ(told(), "Invalid header fragment received: 'H\x06H'" + closing);
+    EXPECT_EQ(waiter.now(), 100 + 250);
+}
+
+TEST_F(StatusCheckTest, aTimeThatIsNoneIsAFragment) {
+    answers("9600,N,8,1", header("KWT", 'a', "99-99-99 99:99") + "\r");
+    const auto fields = check.StatusCheck();
+    ASSERT_FALSE(fields);
+    EXPECT_EQ(fields.error().kind, EndKind::wrongResponse);
+    EXPECT_TRUE(told().starts_with("Invalid header fragment received: 'KWTa   1234"));
+}
+
+TEST_F(StatusCheckTest, aLaterInitialThatBeginsAReadableHeaderCounts) {
+    for (const char* noise : {"p\x06", "H\x06H", "k\xffHP\r", "P..\r\nh\r"}) {
+        prompt.answers = {Answer::Ok, Answer::No};
+        answers("9600,N,8,1", noise + header("PQX", 'c') + "\r");
+        const auto fields = check.StatusCheck();
+        ASSERT_TRUE(fields) << noise;
+        EXPECT_EQ(fields->type, "PQX");
+        EXPECT_EQ(fields->state, "Running");
+        EXPECT_FALSE(fields->lowBattery) << noise;
+        EXPECT_EQ(batteryText(fields->vbatt.value()), "Vbatt = 3.806 volts");
+    }
+}
+
+TEST_F(StatusCheckTest, anEndMarkBeforeTheHeaderDoesNotMakeItDeaf) {
+    prompt.answers = {Answer::Ok, Answer::No};
+    answers("9600,N,8,1", "\x80\x1a\x1a" + header() + "\r");
+    EXPECT_TRUE(check.StatusCheck());
+}
+
+TEST_F(StatusCheckTest, anEndMarkWhileTheTokenIsAwaitedChangesTheRate) {
+    automatic(7);
+    prompt.answers = {Answer::Ok, Answer::No};
+    answers("115200,N,8,1", header() + "\r", 6000, "\x1a");
+    EXPECT_TRUE(check.StatusCheck());
+    EXPECT_EQ(panel.statuses[1], "Bad header. Changing settings. (Takes about 5 seconds)...");
+}
+
+TEST_F(StatusCheckTest, anUnreadableHeaderWithoutEndIsGivenUp) {
+    answers("9600,N,8,1", "PQX\r");
+    for (int i = 0; i < 10000; ++i)
+        line.sendAt(100 + i, "12 34\r");
+    EXPECT_FALSE(check.StatusCheck());
+    EXPECT_EQ(waiter.now(), 100 + 2500);
+}
+
 TEST_F(StatusCheckTest, aLowBatteryIsWarnedOf) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", "k" + header().substr(1) + "\r");

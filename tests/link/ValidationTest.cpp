@@ -27,6 +27,10 @@ ValidationCounts plainly(std::string& text, bool change) {
         if (!open)
             return;
         open = false;
+        while (reading.back() == '\x1a') {
+            reading.pop_back();
+            --end;
+        }
         if (reading == "999") {
             ++nines;
             if (change)
@@ -50,7 +54,7 @@ ValidationCounts plainly(std::string& text, bool change) {
             ++inLine;
             reading.clear();
         }
-        if (c == '\n' || c == '\r' || c == ' ' || c == '\x1a')
+        if (c == '\n' || c == '\r' || c == ' ')
             close(at);
         if (c == '\n') {
             badLines += inLine == 10 ? 0 : 1;
@@ -116,7 +120,28 @@ TEST(ValidationTest, readingsAround999) {
     EXPECT_EQ(counted("T: 99999999999999999999999999 \x1a"), (ValidationCounts{.over999 = 1, .ctrlZ = 1}));
 }
 
-TEST(ValidationTest, aReadingEndsAtTheTerminatorAndAtTheEndOfTheText) {
+TEST(ValidationTest, aTerminatorWithinAReadingDoesNotEndIt) {
+    EXPECT_EQ(counted("T: 12\x1a"
+                      "3 2 3 4 5 6 7 8 9 10\n"),
+              (ValidationCounts{.ctrlZ = 1}));
+    EXPECT_EQ(counted("T: 99\x1a"
+                      "9 \n")
+                  .count999,
+              0);
+}
+
+TEST(ValidationTest, whatStandsBetweenHeaderAndMarkCountsAsBadLines) {
+    const std::string head = testing::header() + "\r";
+    const std::string data = "T:" + lines(3) + "\x1a";
+    EXPECT_EQ(counted(head + "\n" + data).badLines, 0);
+    EXPECT_EQ(counted(head + head + data).badLines, 1);
+    EXPECT_EQ(counted(head + "\n" + head + "\n" + head + "\n" + data).badLines, 2);
+    EXPECT_EQ(counted(head + "??" + data).badLines, 1);
+    EXPECT_EQ(counted(head + " " + data).badLines, 1);
+    EXPECT_EQ(counted("x\r\n" + head + data).badLines, 0); // noise before the header is passed over
+}
+
+TEST(ValidationTest, aReadingEndsWithTheText) {
     EXPECT_EQ(counted("T: 999\x1a"), (ValidationCounts{.count999 = 1, .ctrlZ = 1}));
     EXPECT_EQ(counted("T: 999"), (ValidationCounts{.count999 = 1}));
 }

@@ -4,7 +4,7 @@
 #include "app/Menus.h"
 #include "app/Screen.h"
 #include "app/TLY.h"
-#include "link/forms/SessionContext.h"
+#include "link/Session.h"
 #include "platform/SafeFile.h"
 #include "support/FixedClock.h"
 #include "support/MemoryJournal.h"
@@ -68,8 +68,8 @@ public:
                       "/nowhere", "/nowhere/temp.dat"};
     TLY window{{recordings, display, settings, files, clock, prompt, chooser, link}};
     int gErrorCallPoint = 0;
-    SessionContext session{line,    waiter,          prompt, instrument,
-                           journal, gErrorCallPoint, [] {},  [](const std::string&) {}};
+    SessionServices session{line,    waiter,          prompt, instrument,
+                            journal, gErrorCallPoint, [] {},  [](const std::string&) {}};
 };
 
 } // namespace tally::pictures

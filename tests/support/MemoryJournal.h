@@ -2,7 +2,7 @@
 #pragma once
 
 #include "core/Fault.h"
-#include "link/Journal.h"
+#include "link/JournalText.h"
 
 #include <algorithm>
 #include <optional>
@@ -44,17 +44,21 @@ public:
 
     std::vector<JournalEntry> list() const override {
         std::vector<JournalEntry> entries;
-        for (std::size_t i = 0; i < receptions.size(); ++i)
+        for (std::size_t i = 0; i < receptions.size(); ++i) {
             entries.push_back({.id = std::to_string(i + 1),
                                .header = receptions[i].header,
                                .state = receptions[i].state,
-                               .bytes = receptions[i].parts.back().size()});
+                               .bytes = receptions[i].parts.back().size(),
+                               .hasAccepted = !receptions[i].accepted.empty()});
+            describe(entries.back(), receptions[i].parts.back());
+        }
         std::reverse(entries.begin(), entries.end());
         return entries;
     }
     std::string text(const std::string& id) const override {
         return at(id).accepted.empty() ? at(id).parts.back() : at(id).accepted;
     }
+    std::string received(const std::string& id) const override { return at(id).parts.back(); }
     void mark(const std::string& id, JournalState state) override { at(id).state = state; }
     bool keeps(const std::string& id) override {
         return trouble.empty() && !id.empty() && at(id).state == JournalState::accepted;

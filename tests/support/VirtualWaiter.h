@@ -22,6 +22,10 @@ public:
     void cancelAt(std::int64_t time) {
         at(time, [this] { cancelled_ = true; });
     }
+    // The process stands still from a time on, for so long; what happens meanwhile is seen afterwards.
+    void standStill(std::int64_t time, std::int64_t duration) {
+        at(time, [this, duration] { now_ += duration; });
+    }
     void cancelNow() { cancelled_ = true; }
 
     std::int64_t now() const override { return now_; }
@@ -35,7 +39,7 @@ public:
         for (;;) {
             runEvents();
             if (now_ >= deadline)
-                return Wake::due;
+                return now_ - deadline >= stoodStill && !cancelled_ && dataWaiting() ? Wake::data : Wake::due;
             if (cancelled_)
                 return Wake::cancelled;
             if (dataWaiting())

@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -86,6 +87,18 @@ MessageBox::MessageBox(const Message& message, QWidget* parent)
     down->addLayout(across);
     addButtons(message, *down);
     layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+// Under the dialog that it speaks of, as far as the screen goes: what that shows can be read meanwhile.
+void MessageBox::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    const auto* about = qobject_cast<const QDialog*>(parentWidget());
+    if (about == nullptr)
+        return;
+    const QRect beside = about->frameGeometry();
+    const QRect room = about->screen()->availableGeometry();
+    const int top = std::min(beside.bottom() + 1, room.bottom() + 1 - frameGeometry().height());
+    move(beside.center().x() - frameGeometry().width() / 2, std::max(top, room.top()));
 }
 
 void MessageBox::addButtons(const Message& message, QLayout& layout) {

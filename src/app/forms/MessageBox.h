@@ -16,6 +16,9 @@ public:
     explicit MessageBox(const Message& message, QWidget* parent = nullptr);
     Answer answer() const { return answer_; }
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     void addButtons(const Message& message, QLayout& layout);
 

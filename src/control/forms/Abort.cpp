@@ -15,10 +15,11 @@ constexpr int widestText = 60; // columns
 
 } // namespace
 
-Abort::Abort(const SessionContext& context, QWidget* parent)
+Abort::Abort(const SessionServices& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("Abort"), tr("Initialize"), parent),
       label1_(addFixedText(QStringLiteral("Label1"), widestText)) {
     label1_->setText(QStringLiteral("NO REPONSE"));
+    addHint();
     addLog();
     addCancel(QStringLiteral("Command1"), QStringLiteral("CANCEL"));
 }
@@ -33,20 +34,19 @@ void Abort::status(const std::string& text) {
         start();
 }
 
-void runInitialize(QWidget* parent, const SessionContext& context, const Journal& journal) {
-    if (!mnuItemInitialize_Click(context.line, context.instrument, context.prompt))
+void runInitialize(QWidget* parent, const SessionServices& services) {
+    Abort dialog(services, parent);
+    Session session = dialog.session();
+    if (!mnuItemInitialize_Click(session))
         return;
     ModeChoice choice;
     {
-        InitInst options(knownDownloads(journal.list()), parent);
+        InitInst options(knownDownloads(services.journal.list()), parent);
         if (options.exec() != QDialog::Accepted)
             return;
         choice = options.choice();
     }
-    Abort dialog(context, parent);
-    InitializeSession(context.line, context.waiter, context.prompt, dialog, context.instrument,
-                      context.gErrorCallPoint)
-        .Initialize(modeLetter(choice));
+    InitializeSession(services, dialog).Initialize(modeLetter(choice));
 }
 
 } // namespace tally

@@ -10,7 +10,7 @@ class Abort : public SessionDialog {
     Q_OBJECT
 
 public:
-    Abort(const SessionContext& context, QWidget* parent);
+    Abort(const SessionServices& context, QWidget* parent);
 
     void prompt(const std::string& text) override;
     void status(const std::string& text) override;
@@ -20,8 +20,8 @@ private:
 };
 
 // The whole initialization command of the main window `parent` (a type is chosen already): warning, options,
-// and one instrument after the other. `journal` tells what is not saved yet. Throws the faults of the
+// and one instrument after the other. Throws the faults of the
 // session; the port is closed and the dialog gone then too.
-void runInitialize(QWidget* parent, const SessionContext& context, const Journal& journal);
+void runInitialize(QWidget* parent, const SessionServices& services);
 
 } // namespace tally

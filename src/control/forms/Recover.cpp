@@ -12,9 +12,10 @@ constexpr int widestText = 74; // columns
 
 } // namespace
 
-Recover::Recover(const SessionContext& context, QWidget* parent)
+Recover::Recover(const SessionServices& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("recover"), QStringLiteral("failed battery recovery"), parent),
       label1_(addFixedText(QStringLiteral("Label1"), widestText)) {
+    addHint();
     addProgressBar();
     addLog();
     addOk();
@@ -29,13 +30,15 @@ void Recover::status(const std::string& text) {
     label1_->setText(shown(text));
 }
 
-std::optional<PendingDownload> runRecover(QWidget* parent, const SessionContext& context, Files& files,
+SessionResult<PendingDownload> runRecover(QWidget* parent, const SessionServices& context, Files& files,
                                           const std::string& temporary) {
     Recover dialog(context, parent);
     Session session = dialog.session();
     RecoverSession recover(session);
-    if (!recover.mnuItemRecover_Click() || !dialog.waitForOk())
-        return {};
+    if (const auto ready = recover.mnuItemRecover_Click(); !ready)
+        return tl::make_unexpected(ready.error());
+    if (!dialog.waitForOk())
+        return Session::cancelled();
     dialog.start();
     return recover.RecoverProc(files, temporary);
 }

@@ -5,8 +5,6 @@
 #include "link/DownloadSession.h"
 #include "link/forms/SessionDialog.h"
 
-#include <optional>
-
 namespace tally {
 
 // "recover": prompt and progress of a recovery after a failed battery, in one label.
@@ -14,7 +12,7 @@ class Recover : public SessionDialog {
     Q_OBJECT
 
 public:
-    Recover(const SessionContext& context, QWidget* parent);
+    Recover(const SessionServices& context, QWidget* parent);
 
     void prompt(const std::string& text) override;
     void status(const std::string& text) override;
@@ -27,7 +25,7 @@ private:
 // of its temporary file, in a folder of this user alone. Gives the recovered text: the main window keeps it
 // until it is saved, as after a download. Throws the faults of the session; the port is closed and the dialog
 // gone then too.
-std::optional<PendingDownload> runRecover(QWidget* parent, const SessionContext& context, Files& files,
+SessionResult<PendingDownload> runRecover(QWidget* parent, const SessionServices& context, Files& files,
                                           const std::string& temporary);
 
 } // namespace tally

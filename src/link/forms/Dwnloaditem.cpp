@@ -11,11 +11,12 @@ constexpr int widestText = 74; // columns
 
 } // namespace
 
-Dwnloaditem::Dwnloaditem(const SessionContext& context, QWidget* parent)
+Dwnloaditem::Dwnloaditem(const SessionServices& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("Dwnloaditem"), tr("DownLoad"), parent),
       prompt_(addFixedText(QStringLiteral("PromptLabel"), widestText)),
       label1_(addText(QStringLiteral("Label1"))),
       label2_(addText(QStringLiteral("Label2"))) {
+    addHint();
     addProgressBar();
     addLog();
     addOk();
@@ -34,13 +35,15 @@ void Dwnloaditem::progressText(const std::string& text) {
     label2_->setText(shown(text));
 }
 
-std::optional<PendingDownload> runDownload(QWidget* parent, const SessionContext& context, const Files& files,
-                                           const std::string& workingDirectory) {
+SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionServices& context,
+                                           const Files& files, const std::string& workingDirectory) {
     Dwnloaditem dialog(context, parent);
     Session session = dialog.session();
     DownloadSession download(session);
-    if (!download.mnuItemDownload_Click(files, workingDirectory) || !dialog.waitForOk())
-        return {};
+    if (const auto ready = download.mnuItemDownload_Click(files, workingDirectory); !ready)
+        return tl::make_unexpected(ready.error());
+    if (!dialog.waitForOk())
+        return Session::cancelled();
     dialog.start();
     return download.DownLoadProc();
 }

@@ -4,8 +4,6 @@
 #include "link/DownloadSession.h"
 #include "link/forms/SessionDialog.h"
 
-#include <optional>
-
 namespace tally {
 
 // "Dwnloaditem": prompt, state, progress and log of a download.
@@ -13,7 +11,7 @@ class Dwnloaditem : public SessionDialog {
     Q_OBJECT
 
 public:
-    Dwnloaditem(const SessionContext& context, QWidget* parent);
+    Dwnloaditem(const SessionServices& context, QWidget* parent);
 
     void prompt(const std::string& text) override;
     void status(const std::string& text) override;
@@ -26,9 +24,9 @@ private:
 };
 
 // The whole download command of the main window `parent` (a type is chosen already). Gives the accepted text:
-// the main window keeps it until it is saved. Nothing when the command was cancelled or failed, which was
-// told. Throws the faults of the session; the port is closed and the dialog gone then too.
-std::optional<PendingDownload> runDownload(QWidget* parent, const SessionContext& context, const Files& files,
-                                           const std::string& workingDirectory);
+// the main window keeps it until it is saved. The end of a command without one was told. Throws the faults of
+// the session; the port is closed and the dialog gone then too.
+SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionServices& context,
+                                           const Files& files, const std::string& workingDirectory);
 
 } // namespace tally

@@ -20,6 +20,7 @@ constexpr int progressMaximum = 20000;
 constexpr int leastWidth = 90; // characters
 constexpr int lines = 30;      // leaves room for a message box below what it is about
 constexpr int logLines = 7;
+constexpr int hintLines = 2;      // kept free, so that nothing moves when it comes
 constexpr double largeText = 1.2; // read at arm's length, in a truck
 
 void enlarge(QLabel& label) {
@@ -30,9 +31,9 @@ void enlarge(QLabel& label) {
 
 } // namespace
 
-SessionDialog::SessionDialog(const SessionContext& context, const QString& name, const QString& title,
+SessionDialog::SessionDialog(const SessionServices& services, const QString& name, const QString& title,
                              QWidget* parent)
-    : QDialog(parent), context_(context), down_(new QVBoxLayout(this)) {
+    : QDialog(parent), services_(services), down_(new QVBoxLayout(this)) {
     setObjectName(name);
     setWindowTitle(title);
     setModal(true);
@@ -40,8 +41,7 @@ SessionDialog::SessionDialog(const SessionContext& context, const QString& name,
 }
 
 Session SessionDialog::session() {
-    return {context_.line,       context_.waiter,  context_.prompt,         *this,
-            context_.instrument, context_.journal, context_.gErrorCallPoint};
+    return {services_, *this};
 }
 
 QLabel* SessionDialog::addText(const QString& name) {
@@ -88,6 +88,18 @@ void SessionDialog::addLog() {
     down_->addStretch(1);
     down_->addWidget(area);
     setMinimumHeight(log_->fontMetrics().lineSpacing() * lines);
+}
+
+void SessionDialog::addHint() {
+    hint_ = addText(QStringLiteral("HintLabel"));
+    hint_->setMinimumHeight(hint_->fontMetrics().lineSpacing() * hintLines);
+    hint_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    hint_->setAccessibleName(tr("What to check"));
+}
+
+void SessionDialog::hint(const std::string& text) {
+    if (hint_)
+        hint_->setText(shown(text));
 }
 
 QHBoxLayout& SessionDialog::buttonRow() {
@@ -137,7 +149,7 @@ void SessionDialog::start() {
 
 void SessionDialog::reject() {
     if (running_) {
-        context_.requestCancel();
+        services_.requestCancel();
         return;
     }
     if (waiting_)
@@ -169,7 +181,7 @@ void SessionDialog::busy(bool busy) {
 }
 
 void SessionDialog::mainStatus(const std::string& text) {
-    context_.mainStatus(text);
+    services_.mainStatus(text);
 }
 
 } // namespace tally

@@ -3,7 +3,6 @@
 
 #include "link/Panel.h"
 #include "link/Session.h"
-#include "link/forms/SessionContext.h"
 
 #include <QDialog>
 
@@ -24,7 +23,8 @@ class SessionDialog : public QDialog, public Panel {
 
 public:
     // `parent` is the main window: it gets the hourglass.
-    SessionDialog(const SessionContext& context, const QString& name, const QString& title, QWidget* parent);
+    SessionDialog(const SessionServices& services, const QString& name, const QString& title,
+                  QWidget* parent);
 
     // The session of this dialog.
     Session session();
@@ -39,6 +39,7 @@ public:
     void busy(bool busy) override;
     void mainStatus(const std::string& text) override;
     void progressText(const std::string&) override {}
+    void hint(const std::string& text) override;
 
     void reject() override;
 
@@ -47,6 +48,8 @@ protected:
     QLabel* addText(const QString& name);
     // A text that is laid out with blanks, at most so many columns wide.
     QLabel* addFixedText(const QString& name, int columns);
+    // What to check while nothing comes.
+    void addHint();
     void addProgressBar();
     void addLog();
     void addOk();
@@ -55,10 +58,11 @@ protected:
 private:
     QHBoxLayout& buttonRow();
 
-    const SessionContext& context_;
+    const SessionServices& services_;
     QVBoxLayout* down_;
     QHBoxLayout* buttons_ = nullptr;
     QLabel* log_ = nullptr;
+    QLabel* hint_ = nullptr;
     QProgressBar* bar_ = nullptr;
     QPushButton* ok_ = nullptr;
     QEventLoop* waiting_ = nullptr; // for OK

@@ -11,11 +11,12 @@ constexpr int resultWidth = 120; // characters of the longest line, in a font of
 
 } // namespace
 
-Status::Status(const SessionContext& context, QWidget* parent)
+Status::Status(const SessionServices& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("status"), tr("Status Check"), parent),
       result_(addText(QStringLiteral("Label2"))),
       label1_(addText(QStringLiteral("Label1"))) {
     setMinimumWidth(result_->fontMetrics().averageCharWidth() * resultWidth);
+    addHint();
     addLog();
     addCancel(QStringLiteral("Command2"), tr("Cancel"));
 }
@@ -28,7 +29,7 @@ void Status::status(const std::string& text) {
     label1_->setText(shown(text));
 }
 
-std::optional<StatusFields> runStatusCheck(QWidget* parent, const SessionContext& context) {
+SessionResult<StatusFields> runStatusCheck(QWidget* parent, const SessionServices& context) {
     Status dialog(context, parent);
     Session session = dialog.session();
     StatusCheckSession check(session);

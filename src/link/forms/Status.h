@@ -4,8 +4,6 @@
 #include "link/StatusCheck.h"
 #include "link/forms/SessionDialog.h"
 
-#include <optional>
-
 namespace tally {
 
 // "status": the result, state and log of a status check.
@@ -13,7 +11,7 @@ class Status : public SessionDialog {
     Q_OBJECT
 
 public:
-    Status(const SessionContext& context, QWidget* parent);
+    Status(const SessionServices& context, QWidget* parent);
 
     void prompt(const std::string& text) override;
     void status(const std::string& text) override;
@@ -24,7 +22,7 @@ private:
 };
 
 // The whole status check command of the main window `parent` (a type is chosen already). Gives the fields of
-// the last check.
-std::optional<StatusFields> runStatusCheck(QWidget* parent, const SessionContext& context);
+// the last check, or how that ended without them.
+SessionResult<StatusFields> runStatusCheck(QWidget* parent, const SessionServices& context);
 
 } // namespace tally

@@ -44,7 +44,7 @@ TEST(AbortForm, InitializesWithTheChosenOptions) {
             label = labelText(*shownDialog("Abort"), "Label1");
     };
     proceed("Option3");
-    runInitialize(nullptr, bench.context, bench.journal);
+    runInitialize(nullptr, bench.context);
     EXPECT_EQ(bench.line.written, "\t03-15-24 14:05 f1\r");
     EXPECT_EQ(label, "INITIALIZING...\n  - May take around 15 seconds\n\n(You can cancel at any time)\n"
                      "IMode$=X\nInitstring=03-15-24 14:05 f1\n\nInstrument is initializing...");
@@ -62,7 +62,7 @@ TEST(AbortForm, IsNotShownBeforeTheConnectionPromptIsAnswered) {
                 shownEarly || (widget->isVisible() && widget->objectName() == QStringLiteral("Abort"));
     };
     proceed("Option1");
-    runInitialize(nullptr, bench.context, bench.journal);
+    runInitialize(nullptr, bench.context);
     EXPECT_FALSE(shownEarly);
 }
 
@@ -70,14 +70,14 @@ TEST(AbortForm, CancelOfTheOptionsSendsNothing) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Ok};
     soon([] { click(*shownDialog("InitInst"), "Command2"); });
-    runInitialize(nullptr, bench.context, bench.journal);
+    runInitialize(nullptr, bench.context);
     EXPECT_EQ(bench.line.written, "");
 }
 
 TEST(AbortForm, CancelOfTheWarningShowsNoOptions) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Cancel};
-    runInitialize(nullptr, bench.context, bench.journal);
+    runInitialize(nullptr, bench.context);
     EXPECT_TRUE(bench.line.calls.empty());
 }
 
@@ -99,7 +99,7 @@ TEST(AbortForm, CANCELEscapeAndClosingRequestACancelAtEveryMoment) {
             EXPECT_TRUE(dialog->isVisible());
         });
         proceed("Option1");
-        runInitialize(nullptr, bench.context, bench.journal);
+        runInitialize(nullptr, bench.context);
         EXPECT_EQ(bench.line.written, "\t") << way;
         EXPECT_FALSE(bench.line.isOpen());
     }
@@ -124,7 +124,7 @@ TEST(AbortForm, TheOptionsShowTheJournalsLine) {
         line = labelText(*form, "KnownDownloads");
         click(*form, "Command2");
     });
-    runInitialize(nullptr, bench.context, bench.journal);
+    runInitialize(nullptr, bench.context);
     EXPECT_NE(line.find("NOT SAVED YET"), std::string::npos);
 }
 

@@ -19,7 +19,7 @@ std::string recording() {
     return text + "\x1a";
 }
 
-std::optional<PendingDownload> download(SessionBench& bench, std::function<void(QDialog&)> answer,
+SessionResult<PendingDownload> download(SessionBench& bench, std::function<void(QDialog&)> answer,
                                         QWidget* parent = nullptr) {
     soon([answer] {
         if (QDialog* dialog = shownDialog("Dwnloaditem"))

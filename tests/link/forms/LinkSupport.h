@@ -2,7 +2,7 @@
 #pragma once
 
 #include "link/Instruments.h"
-#include "link/forms/SessionContext.h"
+#include "link/Session.h"
 #include "support/MemoryFiles.h"
 #include "support/MemoryJournal.h"
 #include "support/QueuedPrompt.h"
@@ -71,14 +71,14 @@ public:
     MemoryFiles files;
     int callPoint = 0;
     std::vector<std::string> mainStatuses;
-    SessionContext context{line,
-                           waiter,
-                           prompt,
-                           instrument,
-                           journal,
-                           callPoint,
-                           [this] { waiter.cancelNow(); },
-                           [this](const std::string& text) { mainStatuses.push_back(text); }};
+    SessionServices context{line,
+                            waiter,
+                            prompt,
+                            instrument,
+                            journal,
+                            callPoint,
+                            [this] { waiter.cancelNow(); },
+                            [this](const std::string& text) { mainStatuses.push_back(text); }};
 
     explicit SessionBench(int type) { applySelection(instrument, type); }
 };

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "link/DownloadReception.h"
+#include "link/InstrumentWait.h"
 
 #include "LinkBench.h"
+#include "link/DownloadSession.h"
 
 #include <gtest/gtest.h>
 
@@ -24,11 +25,11 @@ const std::string notValid = "Response from instrument not valid.\r\n"
                              "(using Options > Instrument Selection)";
 const std::string changing = "No response. Changing settings. (Takes about 5 seconds)...";
 
-struct DownloadReceptionTest : ::testing::Test, testing::LinkBench {
-    std::optional<ReceivedDownload> run(std::int64_t waitFor = Waiter::never) {
+struct InstrumentWaitTest : ::testing::Test, testing::LinkBench {
+    SessionResult<Received> run(std::int64_t waitFor = Waiter::never) {
         journal.begin({});
         session.openPort();
-        return DownloadReception(session, waitFor).run();
+        return InstrumentWait(session, downloadPolicy(panel, waitFor)).run();
     }
     void ofType(std::int16_t type, std::int32_t samples) {
         instrument.instSelection = type;
@@ -37,25 +38,96 @@ struct DownloadReceptionTest : ::testing::Test, testing::LinkBench {
     int flips() const { return static_cast<int>(std::ranges::count(panel.statuses, changing)); }
 };
 
-TEST_F(DownloadReceptionTest, receivesEverythingUpToTheTerminator) {
+TEST_F(InstrumentWaitTest, receivesEverythingUpToTheTerminator) {
     ofType(4, 10710);
     line.sendAt(700, memory());
     const auto received = run();
     ASSERT_TRUE(received);
     EXPECT_EQ(received->text, memory());
-    EXPECT_FALSE(received->lowBattery);
+    EXPECT_FALSE(received->lowBattery());
     EXPECT_EQ(journal.receptions[0].parts[0], memory());
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(DownloadReceptionTest, charactersAfterTheTerminatorAreKeptButNotRead) {
+TEST_F(InstrumentWaitTest, whatFollowsTheTerminatorWithinATickIsCountedAndKeptInTheJournal) {
     ofType(4, 10710);
     line.sendAt(10, memory() + "more");
-    EXPECT_EQ(run()->text, memory());
-    EXPECT_EQ(journal.receptions[0].parts[0], memory() + "more");
+    line.sendAt(259, "!");
+    line.sendAt(261, "too late");
+    const auto received = run();
+    ASSERT_TRUE(received);
+    EXPECT_EQ(received->text, memory());
+    EXPECT_EQ(received->followed, 5U);
+    EXPECT_EQ(journal.receptions[0].parts[0], memory() + "more!");
+    EXPECT_EQ(waiter.now(), 260);
 }
 
-TEST_F(DownloadReceptionTest, anotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt) {
+TEST_F(InstrumentWaitTest, aCancelWhileTheLineIsWatchedEndsIt) {
+    ofType(4, 10710);
+    line.sendAt(10, memory());
+    waiter.cancelAt(100);
+    const auto received = run();
+    ASSERT_FALSE(received);
+    EXPECT_EQ(received.error().kind, EndKind::cancelled);
+    EXPECT_EQ(waiter.now(), 100);
+}
+
+TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfTheWrongRateIsAWrongToken) {
+    automatic(7);
+    answers("115200,N,8,1", memory(), 5100, "\x80\x1a\x80");
+    const auto received = run();
+    ASSERT_TRUE(received);
+    EXPECT_EQ(received->text, memory());
+    EXPECT_EQ(line.firstTime("DTREnable false"), 100);
+}
+
+TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfBothRatesEndsIt) {
+    automatic(7);
+    answers("none", "", 0, "\x80\x1a");
+    const auto received = run();
+    ASSERT_FALSE(received);
+    EXPECT_EQ(received.error().kind, EndKind::wrongResponse);
+    EXPECT_EQ(prompt.texts(), std::vector<std::string>{notValid});
+}
+
+TEST_F(InstrumentWaitTest, whatArrivedWhileTheProcessStoodStillComesBeforeTheTimer) {
+    automatic(7);
+    waiter.standStill(1000, 60000);
+    line.sendAt(2000, memory());
+    const auto received = run();
+    ASSERT_TRUE(received);
+    EXPECT_EQ(received->text, memory());
+    EXPECT_EQ(flips(), 0);
+}
+
+TEST_F(InstrumentWaitTest, aWaitWithoutALimitSaysSinceWhenAndWhatToCheckAfterTenSeconds) {
+    ofType(5, 10710);
+    instrument.gCommPort = 3;
+    line.sendAt(9999, "x");
+    line.sendAt(30000, memory());
+    ASSERT_TRUE(run());
+    // The character at 9,999 ms begins the ten seconds anew when they are looked at, at 10,000.
+    ASSERT_EQ(panel.hints.size(), 2U);
+    EXPECT_TRUE(panel.hints[0].starts_with("Nothing has come since 14:05. Check that ")) << panel.hints[0];
+    EXPECT_NE(panel.hints[0].find("COM3 and the type PQV-D"), std::string::npos);
+    EXPECT_EQ(panel.hints[1], "");
+}
+
+TEST_F(InstrumentWaitTest, aWaitWithALimitNeedsNoHint) {
+    automatic(7);
+    EXPECT_FALSE(run());
+    ofType(5, 10710);
+    EXPECT_FALSE(run(20000));
+    EXPECT_TRUE(panel.hints.empty());
+}
+
+TEST_F(InstrumentWaitTest, theSpecialTestSizeHasTheLimitOfItsOwnSize) {
+    ofType(9, 294);
+    line.sendAt(10, "P" + std::string(60000, '1'));
+    EXPECT_EQ(run()->text.size(), 294U * 6 + 1024);
+}
+
+TEST_F(InstrumentWaitTest, anotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt) {
     ofType(5, 10710);
     line.sendAt(3600000, memory());
     EXPECT_EQ(run()->text, memory());
@@ -63,21 +135,21 @@ TEST_F(DownloadReceptionTest, anotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt
     EXPECT_EQ(line.count("PortOpen true"), 1);
 }
 
-TEST_F(DownloadReceptionTest, theWaitForTheFirstCharacterCanBeBounded) {
+TEST_F(InstrumentWaitTest, theWaitForTheFirstCharacterCanBeBounded) {
     ofType(5, 10710);
     EXPECT_FALSE(run(4000));
     EXPECT_EQ(waiter.now(), 4000);
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"No response in  4 seconds."});
 }
 
-TEST_F(DownloadReceptionTest, theBoundDoesNotConcernWhatComesLater) {
+TEST_F(InstrumentWaitTest, theBoundDoesNotConcernWhatComesLater) {
     ofType(5, 10710);
     line.sendAt(100, "PQX");
     line.sendAt(9000, "\x1a");
     EXPECT_EQ(run(4000)->text, "PQX\x1a");
 }
 
-TEST_F(DownloadReceptionTest, totalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
+TEST_F(InstrumentWaitTest, totalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
     automatic(7);
     EXPECT_FALSE(run());
     EXPECT_EQ(waiter.now(), 10000);
@@ -94,7 +166,7 @@ TEST_F(DownloadReceptionTest, totalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
                                         "Now treating unit as PQX-K4-W.  Waiting for response..."}));
 }
 
-TEST_F(DownloadReceptionTest, anInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
+TEST_F(InstrumentWaitTest, anInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
     automatic(7);
     answers("115200,N,8,1", memory(), 5200);
     const auto received = run();
@@ -102,20 +174,20 @@ TEST_F(DownloadReceptionTest, anInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
     EXPECT_EQ(received->text, memory());
     EXPECT_EQ(instrument.instAutoCurrent, 8);
     EXPECT_EQ(instrument.portSettings, "115200,N,8,1");
-    EXPECT_EQ(waiter.now(), 2500 + 5200);
+    EXPECT_EQ(waiter.now(), 2500 + 5200 + 250);
     EXPECT_EQ(panel.statuses.back(), "Treating unit as PQX-K4-W.  Got a response. Downloading data...");
     EXPECT_NE(panel.log.find("Start of StopTimer: timer1.enabled=True\r\nGot 'KWT'.\r\n"), std::string::npos);
 }
 
-TEST_F(DownloadReceptionTest, anAnswerDuringTheResetIsKept) {
+TEST_F(InstrumentWaitTest, anAnswerDuringTheResetIsKept) {
     automatic(8);
     answers("9600,N,8,1", memory(), 100);
     EXPECT_EQ(run()->text, memory());
-    EXPECT_EQ(waiter.now(), 7500);
+    EXPECT_EQ(waiter.now(), 7500 + 250);
     EXPECT_EQ(instrument.instAutoCurrent, 7);
 }
 
-TEST_F(DownloadReceptionTest, aValidAnswerAtTheFirstRateStopsTheTimer) {
+TEST_F(InstrumentWaitTest, aValidAnswerAtTheFirstRateStopsTheTimer) {
     automatic(8);
     answers("115200,N,8,1", "KWT", 2400);
     line.sendAt(60000, "x\x1a");
@@ -124,7 +196,7 @@ TEST_F(DownloadReceptionTest, aValidAnswerAtTheFirstRateStopsTheTimer) {
     EXPECT_EQ(instrument.instAutoCurrent, 8);
 }
 
-TEST_F(DownloadReceptionTest, whatCameAtTheOldRateIsDiscardedAndTheCountRestarts) {
+TEST_F(InstrumentWaitTest, whatCameAtTheOldRateIsDiscardedAndTheCountRestarts) {
     automatic(7);
     answers("115200,N,8,1", memory(), 6000, "\x01\x02\x03noise");
     const auto received = run();
@@ -137,7 +209,7 @@ TEST_F(DownloadReceptionTest, whatCameAtTheOldRateIsDiscardedAndTheCountRestarts
               panel.progressTexts.end());
 }
 
-TEST_F(DownloadReceptionTest, aWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTime) {
+TEST_F(InstrumentWaitTest, aWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTime) {
     automatic(7);
     line.onOpen = [this](const std::string& settings) {
         if (settings == "9600,N,8,1")
@@ -150,7 +222,7 @@ TEST_F(DownloadReceptionTest, aWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTim
     EXPECT_NE(panel.log.find("Got a non-KWT.   triedBoth=False\r\n"), std::string::npos);
 }
 
-TEST_F(DownloadReceptionTest, wrongTokensAtBothRatesEndWithTheirMessage) {
+TEST_F(InstrumentWaitTest, wrongTokensAtBothRatesEndWithTheirMessage) {
     automatic(7);
     answers("none", "", 0, "PQXa");
     EXPECT_FALSE(run());
@@ -161,28 +233,28 @@ TEST_F(DownloadReceptionTest, wrongTokensAtBothRatesEndWithTheirMessage) {
     EXPECT_EQ(line.count("DTREnable false"), 1);
 }
 
-TEST_F(DownloadReceptionTest, aTokenInLowerCaseIsValidAndMeansALowBattery) {
+TEST_F(InstrumentWaitTest, aTokenInLowerCaseIsValidAndMeansALowBattery) {
     automatic(7);
     line.sendAt(50, "..kwtA\x1a");
     const auto received = run();
     ASSERT_TRUE(received);
     EXPECT_EQ(received->text, "..KwtA\x1a");
-    EXPECT_TRUE(received->lowBattery);
+    EXPECT_TRUE(received->lowBattery());
 }
 
-TEST_F(DownloadReceptionTest, noiseAtTheWrongRateDoesNotSetTheLowBattery) {
+TEST_F(InstrumentWaitTest, noiseAtTheWrongRateDoesNotSetTheLowBattery) {
     automatic(7);
     answers("115200,N,8,1", memory(), 5100, "xkp");
-    EXPECT_FALSE(run()->lowBattery);
+    EXPECT_FALSE(run()->lowBattery());
 }
 
-TEST_F(DownloadReceptionTest, theComputersTimeOfTheHeaderIsKept) {
+TEST_F(InstrumentWaitTest, theComputersTimeOfTheHeaderIsKept) {
     ofType(4, 10710);
     line.sendAt(5 * 60000, memory());
     EXPECT_EQ(run()->headerSeen, toReadingTime({2024, 3, 15, 14, 10}));
 }
 
-TEST_F(DownloadReceptionTest, aTypeOf2091SamplesStopsAt48000Characters) {
+TEST_F(InstrumentWaitTest, aTypeOf2091SamplesStopsAt48000Characters) {
     for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 10}) {
         ofType(type, 2091);
         waiter.after(10, [this] { line.send("H" + std::string(60000, '1')); });
@@ -191,25 +263,25 @@ TEST_F(DownloadReceptionTest, aTypeOf2091SamplesStopsAt48000Characters) {
     }
 }
 
-TEST_F(DownloadReceptionTest, otherTypesStopAt205000Characters) {
+TEST_F(InstrumentWaitTest, otherTypesStopAt205000Characters) {
     ofType(4, 10710);
     line.sendAt(10, "P" + std::string(300000, '1'));
     EXPECT_EQ(run()->text.size(), 205000U);
 }
 
-TEST_F(DownloadReceptionTest, afterAFlipToType7TheLimitIs48000) {
+TEST_F(InstrumentWaitTest, afterAFlipToType7TheLimitIs48000) {
     automatic(8);
     answers("9600,N,8,1", "KWT" + std::string(300000, '1'), 5100);
     EXPECT_EQ(run()->text.size(), 48000U);
 }
 
-TEST_F(DownloadReceptionTest, afterAFlipToType8TheLimitIs205000) {
+TEST_F(InstrumentWaitTest, afterAFlipToType8TheLimitIs205000) {
     automatic(7);
     answers("115200,N,8,1", "KWT" + std::string(300000, '1'), 5100);
     EXPECT_EQ(run()->text.size(), 205000U);
 }
 
-TEST_F(DownloadReceptionTest, theProgressStartsAt1000AndWrapsOnceIn20001Characters) {
+TEST_F(InstrumentWaitTest, theProgressStartsAt1000AndWrapsOnceIn20001Characters) {
     ofType(4, 10710);
     // 20 characters a tick: the bar shows every twentieth value.
     const std::string text = "P" + std::string(20000, '1');
@@ -228,7 +300,7 @@ TEST_F(DownloadReceptionTest, theProgressStartsAt1000AndWrapsOnceIn20001Characte
     EXPECT_EQ(panel.values.back(), 999);
 }
 
-TEST_F(DownloadReceptionTest, theLabelCountsAndSaysWhenItWaits) {
+TEST_F(InstrumentWaitTest, theLabelCountsAndSaysWhenItWaits) {
     ofType(4, 10710);
     line.sendAt(1000, "PQX");
     line.sendAt(1600, "\x1a");
@@ -242,7 +314,7 @@ TEST_F(DownloadReceptionTest, theLabelCountsAndSaysWhenItWaits) {
     EXPECT_TRUE(panel.isBusy);
 }
 
-TEST_F(DownloadReceptionTest, aSilentLineEndsTheDownloadWhenTheTicksPassTheLimit) {
+TEST_F(InstrumentWaitTest, aSilentLineEndsTheDownloadWhenTheTicksPassTheLimit) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(600, '1'));
     EXPECT_EQ(run()->text.size(), 601U);
@@ -252,15 +324,15 @@ TEST_F(DownloadReceptionTest, aSilentLineEndsTheDownloadWhenTheTicksPassTheLimit
     EXPECT_NE(panel.log.find("Terminated by waiting for data"), std::string::npos);
 }
 
-TEST_F(DownloadReceptionTest, silenceIsWaitedForUpTo500Characters) {
+TEST_F(InstrumentWaitTest, silenceIsWaitedForUpTo500Characters) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(499, '1'));
     line.sendAt(600000, "\x1a");
     EXPECT_EQ(run()->text.size(), 501U);
-    EXPECT_EQ(waiter.now(), 600000);
+    EXPECT_EQ(waiter.now(), 600000 + 250);
 }
 
-TEST_F(DownloadReceptionTest, stallsAddUpOverTheWholeDownload) {
+TEST_F(InstrumentWaitTest, stallsAddUpOverTheWholeDownload) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(600, '1'));
     // A character every 750 ms: of three ticks one sees it and two are silent.
@@ -274,7 +346,7 @@ TEST_F(DownloadReceptionTest, stallsAddUpOverTheWholeDownload) {
     EXPECT_EQ(received->text.size(), 601U + 4U);
 }
 
-TEST_F(DownloadReceptionTest, aLineThatGoesAwayIsToldAndWhatCameStaysInTheJournal) {
+TEST_F(InstrumentWaitTest, aLineThatGoesAwayIsToldAndWhatCameStaysInTheJournal) {
     ofType(4, 10710);
     line.sendAt(100, "PQX 12");
     line.loseAt(200);
@@ -283,14 +355,14 @@ TEST_F(DownloadReceptionTest, aLineThatGoesAwayIsToldAndWhatCameStaysInTheJourna
     EXPECT_EQ(journal.receptions[0].parts[0], "PQX 12");
 }
 
-TEST_F(DownloadReceptionTest, aLineThatGoesAwayWhileWaitingIsTold) {
+TEST_F(InstrumentWaitTest, aLineThatGoesAwayWhileWaitingIsTold) {
     automatic(7);
     line.loseAt(200);
     EXPECT_FALSE(run());
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"COM1: the line went away"});
 }
 
-TEST_F(DownloadReceptionTest, aLineThatGoesAwayDuringTheResetIsTold) {
+TEST_F(InstrumentWaitTest, aLineThatGoesAwayDuringTheResetIsTold) {
     automatic(7);
     line.loseAt(4000);
     EXPECT_FALSE(run());
@@ -298,14 +370,21 @@ TEST_F(DownloadReceptionTest, aLineThatGoesAwayDuringTheResetIsTold) {
     EXPECT_EQ(waiter.now(), 4000);
 }
 
-TEST_F(DownloadReceptionTest, aPortThatCannotBeReopenedIsAFault) {
+TEST_F(InstrumentWaitTest, aPortThatCannotBeReopenedIsTold) {
     automatic(7);
     line.failOpen = Fault(8002, "Invalid port number");
+    line.openProblem = "COM1 is not there.";
     line.goodOpenings = 1;
-    EXPECT_THROW(run(), Fault);
+    const auto received = run();
+    ASSERT_FALSE(received);
+    EXPECT_EQ(received.error().kind, EndKind::badPort);
+    EXPECT_EQ(
+        prompt.texts(),
+        std::vector<std::string>{
+            "Communication port not valid.\r\nTry selecting a different COM port\r\nCOM1 is not there."});
 }
 
-TEST_F(DownloadReceptionTest, atTheSameInstantTheTimeOutComesBeforeTheCancelAndTheCharacter) {
+TEST_F(InstrumentWaitTest, atTheSameInstantTheTimeOutComesBeforeTheCancelAndTheCharacter) {
     automatic(7);
     line.sendAt(2500, "KWT");
     waiter.cancelAt(2500);
