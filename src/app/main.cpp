@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/Arguments.h"
 #include "app/Splash.h"
 #include "app/TLY.h"
 #include "app/forms/DataSelect.h"
@@ -16,40 +17,12 @@
 #include "platform/UserSettings.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
 #include <QDir>
-#include <QFileInfo>
 #include <QTimer>
 
+#include <optional>
+
 namespace {
-
-struct Arguments {
-    std::vector<std::string> files;
-    bool plot = false;
-    bool quitAfterFirstFrame = false;
-};
-
-Arguments parse(const QApplication& application) {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        QStringLiteral("Reads, keeps and plots the recordings of portable electrical load recorders."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    const QCommandLineOption plot(QStringLiteral("plot"),
-                                  QStringLiteral("Show the plot of the files instead of the summary."));
-    QCommandLineOption measure(QStringLiteral("quit-after-first-frame"),
-                               QStringLiteral("End when the window has been painted (for measuring)."));
-    parser.addOptions({plot, measure});
-    parser.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Up to three data files to open."),
-                                 QStringLiteral("[files...]"));
-    parser.process(application);
-    Arguments arguments;
-    for (const QString& file : parser.positionalArguments())
-        arguments.files.push_back(QFileInfo(file).absoluteFilePath().toStdString());
-    arguments.plot = parser.isSet(plot);
-    arguments.quitAfterFirstFrame = parser.isSet(measure);
-    return arguments;
-}
 
 // The serial line and what keeps what comes over it.
 struct Link {
@@ -88,11 +61,15 @@ struct Link {
 
 int main(int argc, char** argv) {
     tally::holdStandardStreams();
-    const QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tallyline"));
     QCoreApplication::setApplicationVersion(QStringLiteral(TALLY_VERSION));
+    if (const auto ended = tally::endedByArguments(argc, argv))
+        return *ended;
+    auto check = std::make_optional<tally::DisplayCheck>();
+    const QApplication application(argc, argv);
+    check.reset();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tallyline.png")));
-    const Arguments arguments = parse(application);
+    const tally::Arguments arguments = tally::readArguments(QCoreApplication::arguments());
 
     tally::Splash splash;
     if (tally::Splash::wanted())

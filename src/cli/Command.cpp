@@ -1,9 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Command.h"
 
+#include "core/Fault.h"
+
 #include <memory>
 
 namespace tally::cli {
+
+Ended runAction(Context& context) {
+    try {
+        return {context.action(context)};
+    } catch (const WrongForFile& wrong) {
+        return {status::usage, wrong.what(), true};
+    } catch (const WrongUsage& wrong) {
+        return {status::usage, wrong.what()};
+    } catch (const Refused& refused) {
+        return {status::refused, refused.what()};
+    } catch (const Fault& fault) {
+        return {status::refused, fault.what()};
+    }
+}
 
 CLI::App& addCommand(CLI::App& program, Context& context, const std::string& name,
                      const std::string& description, Action action) {

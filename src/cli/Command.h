@@ -44,6 +44,23 @@ Value valueOrRefused(Expected<Value> result) {
     return *std::move(result);
 }
 
+// Wrong for this file, but perhaps not for others: a range outside it, a window that its interval does not
+// fit.
+class WrongForFile : public WrongUsage {
+public:
+    using WrongUsage::WrongUsage;
+};
+
+// How the chosen command of a context ended.
+struct Ended {
+    int status = status::done;
+    std::string reason = {};   // why it was refused or what is wrong with its arguments
+    bool wrongForFile = false; // the arguments do not fit this file, but may fit others
+};
+
+// Runs the chosen command.
+Ended runAction(Context& context);
+
 // Adds one command, with what it does and the option --at that every command has, to the program.
 //   CLI::App& command = addCommand(program, context, "name", "what it does", action);
 // The options write into variables that the action shares (a std::shared_ptr).

@@ -22,6 +22,7 @@ void addExport(CLI::App& program, Context& context);
 // table, opendss and gridlabd, below export.
 void addTableExports(CLI::App& exports, Context& context);
 void addSurvey(CLI::App& program, Context& context);
+void addBatch(CLI::App& program, Context& context);
 void addTypes(CLI::App& program, Context& context);
 void addPorts(CLI::App& program, Context& context);
 void addDownload(CLI::App& program, Context& context);

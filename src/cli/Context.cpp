@@ -32,7 +32,78 @@ private:
     ReadingTime time_;
 };
 
-Context::Context(int& argc, char** argv) : argc_(argc), argv_(argv), files_(std::make_unique<SafeFile>()) {}
+class Context::ToldFiles : public Files {
+public:
+    explicit ToldFiles(Context& context) : context_(context) {}
+    bool exists(const std::string& path) const override { return files().exists(path); }
+    bool same(const std::string& path, const std::string& other) const override {
+        return files().same(path, other);
+    }
+    std::string read(const std::string& path, std::uint64_t most) const override {
+        return files().read(path, most);
+    }
+    void write(const std::string& path, const std::string& bytes) override {
+        const std::string& to = place.empty() ? path : place;
+        const bool replaced = exists(to);
+        files().write(to, bytes);
+        ownName = path;
+        if (replaced)
+            context_.warn(to + " was replaced");
+    }
+
+    std::string place;
+    std::string ownName;
+
+private:
+    Files& files() const { return context_.files(); }
+
+    Context& context_;
+};
+
+// The settings of the program for one worker, who asks when no other does.
+class Context::WorkerSettings : public Settings {
+public:
+    explicit WorkerSettings(Context& shared) : shared_(shared) {}
+    std::string get(const std::string& section, const std::string& key) const override {
+        const std::lock_guard lock(shared_.settingsInUse_);
+        return shared_.settings().get(section, key);
+    }
+    void set(const std::string& section, const std::string& key, const std::string& value) override {
+        const std::lock_guard lock(shared_.settingsInUse_);
+        shared_.settings().set(section, key, value);
+    }
+
+private:
+    Context& shared_;
+};
+
+Context::Context(int& argc, char** argv)
+    : argc_(argc),
+      argv_(argv),
+      files_(std::make_unique<SafeFile>()),
+      results_(std::make_unique<ToldFiles>(*this)) {}
+
+Context::Context(Context& shared)
+    : argc_(shared.argc_),
+      argv_(shared.argv_),
+      shared_(&shared),
+      files_(std::make_unique<SafeFile>()),
+      results_(std::make_unique<ToldFiles>(*this)),
+      clock_(std::make_unique<FixedClock>(shared.clock().localTime())),
+      settings_(std::make_unique<WorkerSettings>(shared)) {}
+
+Files& Context::results() {
+    return *results_;
+}
+
+void Context::placeResult(const std::string& path) {
+    results_->place = path;
+    results_->ownName.clear();
+}
+
+const std::string& Context::ownName() const {
+    return results_->ownName;
+}
 
 Context::~Context() = default;
 
@@ -59,6 +130,10 @@ Settings& Context::settings() {
 }
 
 void Context::warn(std::string_view text) {
+    if (shared_ != nullptr) {
+        warnings_.emplace_back(text);
+        return;
+    }
     // The words as they are; a lone CR would make a terminal write one line over the other.
     std::string lines(text);
     for (std::size_t at = 0; (at = lines.find('\r', at)) != std::string::npos; ++at)
@@ -70,12 +145,12 @@ void Context::warn(std::string_view text) {
 }
 
 void Context::needEventLoop() {
-    if (!application_)
+    if (!application_ && shared_ == nullptr)
         application_ = std::make_unique<QCoreApplication>(argc_, argv_);
 }
 
 void Context::needPainting() {
-    if (application_)
+    if (application_ || shared_ != nullptr)
         return;
     qInstallMessageHandler(passMessageOn);
     // No command needs a display, and none may open one.

@@ -33,25 +33,25 @@ std::string directoryOf(Context& context, const Options& options) {
 
 int exportCsv(Context& context, const Options& options) {
     const OpenFiles open = openFiles(context, {*options.file}, *options.range);
-    const ExportPlace place{context.files(), directoryOf(context, options)};
+    const ExportPlace place{context.results(), directoryOf(context, options)};
     return report(context, CsvData(open.recordings, 0, open.part(), place));
 }
 
 int exportText(Context& context, const Options& options) {
     const OpenFiles open = openFiles(context, {*options.file}, *options.range);
     const Table table = Print(open.recordings, 0, open.part());
-    return report(context, Export(open.recordings, 0, table, options.perLine, context.files()));
+    return report(context, Export(open.recordings, 0, table, options.perLine, context.results()));
 }
 
 int exportMetering(Context& context, const Options& options) {
     const OpenFiles open = openFiles(context, *options.files, *options.range);
     const PowerBasis basis = options.power->basis(context);
-    const ExportPlace place{context.files(), directoryOf(context, options)};
+    const ExportPlace place{context.results(), directoryOf(context, options)};
     const MeteringPlan plan = valueOrRefused(planMetering(open.recordings, open.part(), basis.factor, place));
     const Power power = valueOrRefused(powerOf(open.recordings, plan.range, basis));
     options.power->warn(context);
     warnTogether(context, open);
-    return report(context, expmv90(plan, power, options.identifier, context.files()));
+    return report(context, expmv90(plan, power, options.identifier, context.results()));
 }
 
 void addDirectory(CLI::App& command, Options& options) {

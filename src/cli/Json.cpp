@@ -12,7 +12,26 @@ std::shared_ptr<bool> addJson(CLI::App& command) {
     return json;
 }
 
+namespace {
+
+void outLine(Context& context, const Json& document) {
+    Json named = {{"path", context.documentPath()}};
+    const bool keyed = document.is_object();
+    if (keyed && !document.contains("path"))
+        named.update(document);
+    else if (!keyed)
+        named["result"] = document;
+    const Json& line = keyed && document.contains("path") ? document : named;
+    context.out(line.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n");
+}
+
+} // namespace
+
 void outJson(Context& context, const Json& document) {
+    if (!context.documentPath().empty()) {
+        outLine(context, document);
+        return;
+    }
     // A byte that is no character becomes a replacement character rather than an error.
     context.out(document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n");
 }

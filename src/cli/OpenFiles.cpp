@@ -26,10 +26,10 @@ int indexOf(const std::string& text, int whenEmpty) {
     return index;
 }
 
-WrongUsage outsideFile(const IndexRange& range, int count) {
-    return WrongUsage("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
-                      " is turned round or outside the file, which has the readings 0 to " +
-                      std::to_string(count - 1));
+WrongForFile outsideFile(const IndexRange& range, int count) {
+    return WrongForFile("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
+                        " is turned round or outside the file, which has the readings 0 to " +
+                        std::to_string(count - 1));
 }
 
 // A recording knows its file by the full path, from wherever it was named.
@@ -91,6 +91,9 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
 std::optional<IndexRange> indexRange(const RangeOptions& range, int count) {
     if (!range.given())
         return std::nullopt;
+    const bool both = !range.from.empty() && !range.to.empty();
+    if (both && indexOf(range.from, 0) > indexOf(range.to, 0))
+        throw WrongUsage("The range " + range.from + " to " + range.to + " is turned round");
     const IndexRange given = {indexOf(range.from, 0), indexOf(range.to, count - 1)};
     if (given.first < 0 || given.last < given.first || given.last >= count)
         throw outsideFile(given, count);
@@ -123,7 +126,7 @@ void warnTogether(Context& context, const OpenFiles& open) {
 
 void writeFile(Context& context, const std::string& path, const std::string& bytes) {
     try {
-        context.files().write(path, bytes);
+        context.results().write(path, bytes);
     } catch (const Fault& fault) {
         throw Refused(std::string(fault.what()) + "\n" + path + " was not written.");
     }

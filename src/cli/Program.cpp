@@ -2,7 +2,7 @@
 #include "cli/Program.h"
 
 #include "cli/Command.h"
-#include "core/Fault.h"
+#include "cli/HelpText.h"
 #include "platform/StandardStreams.h"
 
 namespace tally::cli {
@@ -21,7 +21,7 @@ void warnUsage(Context& context, const CLI::App& program) {
     else
         for (const CLI::Option* option : chosen->get_options())
             if (option->get_positional())
-                line += " " + option->get_name(true, false);
+                line += " " + positionalText(*option);
     context.warn(line + " [--option VALUE]; see tallyline-cli --help");
 }
 
@@ -34,22 +34,18 @@ int parseFailure(const CLI::App& program, Context& context, const CLI::ParseErro
     return status::usage;
 }
 
-int runAction(Context& context, const CLI::App& program) {
-    try {
-        const int result = context.action(context);
+int run(Context& context, const CLI::App& program) {
+    const Ended ended = runAction(context);
+    if (ended.reason.empty()) {
         if (context.flush())
-            return result;
+            return ended.status;
         context.warn("Standard output cannot be written");
-    } catch (const WrongUsage& wrong) {
-        context.warn(wrong.what());
-        warnUsage(context, program);
-        return status::usage;
-    } catch (const Refused& refused) {
-        context.warn(refused.what());
-    } catch (const Fault& fault) {
-        context.warn(fault.what());
+        return status::refused;
     }
-    return status::refused;
+    context.warn(ended.reason);
+    if (ended.status == status::usage)
+        warnUsage(context, program);
+    return ended.status;
 }
 
 } // namespace
@@ -61,6 +57,7 @@ int runProgram(int argc, char** argv) {
                      "tallyline-cli");
     program.set_version_flag("--version", std::string("tallyline-cli ") + TALLY_VERSION);
     program.require_subcommand(0, 1);
+    program.formatter(std::make_shared<HelpText>()); // before the commands, which take it over
     for (const AddCommand add : allCommands())
         add(program, context);
     try {
@@ -74,7 +71,7 @@ int runProgram(int argc, char** argv) {
         warnUsage(context, program);
         return status::usage;
     }
-    return runAction(context, program);
+    return run(context, program);
 }
 
 } // namespace tally::cli

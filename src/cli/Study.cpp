@@ -30,9 +30,9 @@ study::Study studyOfFiles(Context& context, const Options& options) {
     const FileFacts& first = open.recordings.info(0);
     const int interval = modeRow(first.modeLetter).minutes;
     if (!study::isDemandWindow(asked.window, interval))
-        throw WrongUsage("--window: " + std::to_string(asked.window) +
-                         " minutes are no multiple of the interval of " + std::to_string(interval) +
-                         " minutes");
+        throw WrongForFile("--window: " + std::to_string(asked.window) +
+                           " minutes are no multiple of the interval of " + std::to_string(interval) +
+                           " minutes");
     return valueOrRefused(study::studyOf(open.recordings, indexRange(*options.range, first.count), asked));
 }
 
