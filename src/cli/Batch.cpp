@@ -3,6 +3,7 @@
 #include "cli/Commands.h"
 
 #include <algorithm>
+#include <map>
 #include <thread>
 
 namespace tally::cli {
@@ -90,8 +91,11 @@ bool removeSingle(CLI::App& command) {
     return writes;
 }
 
+// What each command does over many files.
+using Actions = std::map<const CLI::App*, Action>;
+
 // Makes a command of one file one of many.
-void overMany(CLI::App& command, Context& context, AddCommand add, const std::vector<std::string>& words) {
+void overMany(CLI::App& command, Actions& actions, AddCommand add, const std::vector<std::string>& words) {
     const bool writes = removeSingle(command);
     const Form form = formOf(words);
     auto options = std::make_shared<Options>();
@@ -103,7 +107,7 @@ void overMany(CLI::App& command, Context& context, AddCommand add, const std::ve
     own.push_back(
         command
             .add_option("-j,--jobs", options->workers, "how many work at once (else one for each processor)")
-            ->check(CLI::PositiveNumber));
+            ->check(CLI::Range(1, 10000)));
     if (writes || form.ownName) {
         own.push_back(command.add_option("-o,--output", options->folder,
                                          "the folder for the results; made when missing"));
@@ -114,30 +118,28 @@ void overMany(CLI::App& command, Context& context, AddCommand add, const std::ve
     if (form.endings.size() > 1)
         own.push_back(command.add_option("--format", options->format, "what is written")
                           ->check(CLI::IsMember(form.endings)));
-    command.callback([&command, &context, add, words, form, options, own] {
-        context.action = [&command, add, words, form, options, own](Context& running) {
-            BatchRun run{{add, words, argumentsOf(command, own), isGiven(command, "--json"),
-                          !options->folder.empty() && !form.ownName, form.ownName},
-                         options->paths,
-                         options->folder,
-                         options->format,
-                         options->workers,
-                         form.paints};
-            if (run.ending.empty() && !form.endings.empty())
-                run.ending = form.endings.front();
-            return runBatch(running, run);
-        };
-    });
+    actions[&command] = [&command, add, words, form, options, own](Context& running) {
+        BatchRun run{{add, words, argumentsOf(command, own), isGiven(command, "--json"),
+                      !options->folder.empty() && !form.ownName, form.ownName},
+                     options->paths,
+                     options->folder,
+                     options->format,
+                     options->workers,
+                     form.paints};
+        if (run.ending.empty() && !form.endings.empty())
+            run.ending = form.endings.front();
+        return runBatch(running, run);
+    };
 }
 
 // The same for all commands of a group.
-void overManyEach(CLI::App& command, Context& context, AddCommand add, std::vector<std::string> words) {
+void overManyEach(CLI::App& command, Actions& actions, AddCommand add, std::vector<std::string> words) {
     words.push_back(command.get_name());
     const auto below = command.get_subcommands([](const CLI::App*) { return true; });
     if (below.empty())
-        overMany(command, context, add, words);
+        overMany(command, actions, add, words);
     for (CLI::App* one : below)
-        overManyEach(*one, context, add, words);
+        overManyEach(*one, actions, add, words);
 }
 
 } // namespace
@@ -145,10 +147,17 @@ void overManyEach(CLI::App& command, Context& context, AddCommand add, std::vect
 void addBatch(CLI::App& program, Context& context) {
     CLI::App* batch = program.add_subcommand("batch", "run a command over many files");
     batch->require_subcommand(1);
+    auto actions = std::make_shared<Actions>();
     for (const AddCommand add : commands) {
         add(*batch, context);
-        overManyEach(*batch->get_subcommands([](const CLI::App*) { return true; }).back(), context, add, {});
+        overManyEach(*batch->get_subcommands([](const CLI::App*) { return true; }).back(), *actions, add, {});
     }
+    // Runs after the callback of the command itself, which sets what it does with one file.
+    batch->callback([actions, &context] {
+        for (const auto& [command, action] : *actions)
+            if (command->parsed())
+                context.action = action;
+    });
 }
 
 } // namespace tally::cli

@@ -71,7 +71,7 @@ Plot draw(Context& context, OpenFiles& open, const Options& options) {
 void writePicture(Context& context, const Plot& plot, const std::string& path, QSize size) {
     context.needPainting();
     std::string why;
-    if (!exportPicture(plot, {}, path, size, context.files(), &why))
+    if (!exportPicture(plot, {}, path, size, context.results(), &why))
         throw Refused(why);
 }
 
