@@ -43,7 +43,8 @@ bool isSeparator(char c) {
     return c == ' ' || c == '\n' || c == '\r' || c == ',';
 }
 
-// What any program would write: from_chars over the items, turned round into tenths.
+// What any program would write: from_chars over the items, turned round into tenths. Both texts stand in the
+// cache: this measures reading numbers, not the disk.
 std::vector<std::int16_t> plainLoop(const std::string& text, std::size_t at) {
     std::vector<std::int16_t> newestFirst;
     newestFirst.reserve(maximumReadings);
@@ -68,10 +69,10 @@ void readingGoal(const std::string& name, char mode, bool low) {
     const auto text = std::make_shared<std::string>(quoted(buildDataText(recordings, 0, recordings.all(0))));
     const std::size_t body = text->find('\r', text->find('H')) + 1;
     const auto check = readDataText(*text);
-    if (std::get<Recording>(check).readings.size() != plainLoop(*text, body).size())
+    if (check.value().readings.size() != plainLoop(*text, body).size())
         throw std::logic_error("the two readers disagree on " + name);
     goal(
-        name, [text] { keep(readDataText(*text)); }, [text, body] { keep(plainLoop(*text, body)); }, 0.3);
+        name, [text] { keep(readDataText(*text)); }, [text, body] { keep(plainLoop(*text, body)); }, 0.12);
 }
 
 } // namespace

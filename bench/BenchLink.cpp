@@ -36,11 +36,13 @@ void registerGoals() {
     goal(
         "validation", [text] { keep(validate(*text, true)); },
         [text] {
-            // No such character: all of them are looked at.
+            // No such character: all of them are looked at. The text stands in the cache, where this costs
+            // next to nothing: it stands for the fastest that looking at every character can be, not for a
+            // check.
             keep(std::memchr(text->data(), 1, text->size()));
             benchmark::ClobberMemory();
         },
-        20);
+        12);
 }
 
 } // namespace tally::bench

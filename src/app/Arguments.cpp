@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Arguments.h"
 
+#include "platform/FilePath.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include <cstdio>
 #include <cstdlib>
@@ -76,12 +77,16 @@ std::optional<int> endedByArguments(int& argc, char** argv) {
     return std::nullopt;
 }
 
-Arguments readArguments(const QStringList& arguments) {
+Arguments readArguments(const QStringList& arguments, char** argv) {
     Parser parser;
     parser.parse(arguments);
     Arguments read;
-    for (const QString& file : parser.positionalArguments())
-        read.files.push_back(QFileInfo(file).absoluteFilePath().toStdString());
+    const QStringList files = parser.positionalArguments();
+    for (qsizetype at = 1, next = 0; next < files.size(); ++at)
+        if (arguments.at(at) == files.at(next)) {
+            read.files.push_back(absolutePath(argv[at]));
+            ++next;
+        }
     read.plot = parser.isSet(parser.plot);
     read.quitAfterFirstFrame = parser.isSet(parser.measure);
     return read;

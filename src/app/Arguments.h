@@ -20,8 +20,9 @@ struct Arguments {
 // knows. To be asked first of all, since nothing of it needs a display.
 std::optional<int> endedByArguments(int& argc, char** argv);
 
-// The arguments that are left once the toolkit has taken its own.
-Arguments readArguments(const QStringList& arguments);
+// The arguments that are left once the toolkit has taken its own, as characters and as they were given: the
+// names of files are bytes, which need not be characters.
+Arguments readArguments(const QStringList& arguments, char** argv);
 
 // While it lives, a window system that cannot be reached is said in a line and ends the program with status
 // 1; the toolkit would abort it.

@@ -98,13 +98,13 @@ void Menus::showMru(const std::array<std::string, 4>& paths, bool shown) {
         const std::string& path = paths[std::size_t(index) - 1];
         // "&" would mark an access key.
         mru(index)->setText(words(path).replace(QLatin1Char('&'), QStringLiteral("&&")));
-        mru(index)->setData(words(path));
+        mru(index)->setData(QByteArray::fromStdString(path));
         mru(index)->setVisible(shown && !path.empty());
     }
 }
 
 std::string Menus::mruPath(int index) const {
-    return mru(index)->data().toString().toStdString();
+    return mru(index)->data().toByteArray().toStdString();
 }
 
 } // namespace tally

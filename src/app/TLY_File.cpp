@@ -86,10 +86,12 @@ void TLY_File::openAll(const std::vector<std::string>& paths) {
 }
 
 Done TLY_File::open(const std::string& path, std::string_view whenClosed) {
-    const OpenOutcome outcome = Fileopen(services_.recordings, services_.files, path);
-    if (outcome != OpenOutcome::opened) {
-        const bool closed = outcome == OpenOutcome::notFound || outcome == OpenOutcome::cannotRead;
-        return refuse(std::string(closed && !whenClosed.empty() ? whenClosed : openMessage(outcome)));
+    if (const auto slot = Fileopen(services_.recordings, services_.files, path); !slot) {
+        Refusal refusal = slot.error();
+        const OpenProblem why = slot.error().why;
+        if (!whenClosed.empty() && (why == OpenProblem::notFound || why == OpenProblem::cannotRead))
+            refusal.text = whenClosed;
+        return tl::make_unexpected(refusal);
     }
     addRecentFile(services_.settings, path);
     return opened();
@@ -109,6 +111,7 @@ Done TLY_File::opened() {
     parts_.namesChanged();
     const Done shown = parts_.views.showSummary(slot);
     parts_.views.showTogether();
+    showIncomplete();
     if (info.notesUnreadable)
         parts_.status.remark(QStringLiteral("The notes of the file could not be read."));
     if (info.unreadable > 0)
@@ -117,6 +120,22 @@ Done TLY_File::opened() {
                            "leading number, or 0")
                 .arg(info.unreadable));
     return shown;
+}
+
+// Stays until the file is closed.
+void TLY_File::showIncomplete() {
+    const Recordings& recordings = services_.recordings;
+    QStringList lines;
+    for (int slot = 0; slot < Recordings::slotCount && recordings.isOpen(slot); ++slot) {
+        const FileFacts& info = recordings.info(slot);
+        if (!info.complete)
+            lines.append(words(info.path + ": " + incompleteNotice(info)));
+    }
+    const QString key = QStringLiteral("incomplete");
+    if (lines.isEmpty())
+        parts_.notices.remove(key);
+    else
+        parts_.notices.put(key, lines.join(QLatin1Char('\n')));
 }
 
 void TLY_File::showMru() {
@@ -136,6 +155,7 @@ void TLY_File::reset() {
     parts_.views.reset();
     parts_.forced.show();
     parts_.notices.remove(savedKey);
+    showIncomplete();
     parts_.namesChanged();
     parts_.menus.apply(MenuEvent::close);
     if (parts_.downloads.pending())

@@ -59,6 +59,7 @@ public:
 private:
     Done open(const std::string& path, std::string_view whenClosed = {});
     Done opened();
+    void showIncomplete();
     void reset();
     void savePending();
     Done saveReadings(int slot, const Range& wanted);

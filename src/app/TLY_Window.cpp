@@ -22,11 +22,13 @@ namespace {
 constexpr const char* section = "Window";
 constexpr const char* key = "geometry";
 
+// File names are bytes, which need not be characters.
 std::vector<std::string> dataFiles(const QMimeData& data) {
     std::vector<std::string> paths;
     for (const QUrl& url : data.urls())
         if (url.isLocalFile())
-            paths.push_back(url.toLocalFile().toStdString());
+            paths.push_back(
+                QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()).toStdString());
     return paths;
 }
 

@@ -5,6 +5,7 @@
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
 #include "app/forms/Words.h"
+#include "platform/FilePath.h"
 #include "platform/Folders.h"
 #include "platform/JournalFolder.h"
 #include "platform/PortList.h"
@@ -69,7 +70,7 @@ int main(int argc, char** argv) {
     const QApplication application(argc, argv);
     check.reset();
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tallyline.png")));
-    const tally::Arguments arguments = tally::readArguments(QCoreApplication::arguments());
+    const tally::Arguments arguments = tally::readArguments(QCoreApplication::arguments(), argv);
 
     tally::Splash splash;
     if (tally::Splash::wanted())

@@ -3,7 +3,7 @@
 #include "cli/InstrumentLink.h"
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
-#include "core/DataText.h"
+#include "core/DataFile.h"
 #include "link/InsertErrors.h"
 #include "link/ValidationReport.h"
 
@@ -55,7 +55,7 @@ int check(Context& context, const CheckOptions& options) {
         context.warn(found.report);
         flags = found.flags;
     }
-    std::string text = unquoted(context.files().read(options.file, mostDataBytes));
+    std::string text = unquoted(context.files().read(options.file, maximumDataBytes));
     LinkPrompt prompt(context, {});
     InsertErrors(text, flags, prompt);
     const ValidationCounts counts = validate(text, flags.enableChange999sTo000);

@@ -17,7 +17,7 @@ Ended runAction(Context& context) {
     } catch (const Refused& refused) {
         return {status::refused, refused.what()};
     } catch (const Fault& fault) {
-        return {status::refused, fault.what()};
+        return {status::refused, faultMessage(fault)};
     }
 }
 

@@ -28,7 +28,8 @@ Json factsOf(const Recordings& recordings) {
             {"interval", mode.minutes},
             {"whenFull", std::string(mode.whenFull)},
             {"notes", recordings.gNotes[0]},
-            {"unreadable", info.unreadable}};
+            {"unreadable", info.unreadable},
+            {"complete", info.complete}};
 }
 
 std::string textOf(const Recordings& recordings) {

@@ -4,10 +4,10 @@
 #include "core/Aligned.h"
 #include "core/Fault.h"
 #include "core/Fileopen.h"
+#include "core/ModeTable.h"
 #include "core/NotesFile.h"
+#include "platform/FilePath.h"
 #include "view/FilesTogether.h"
-
-#include <QFileInfo>
 
 #include <charconv>
 
@@ -15,14 +15,14 @@ namespace tally::cli {
 
 namespace {
 
-int indexOf(const std::string& text, int whenEmpty) {
-    if (text.empty())
-        return whenEmpty;
+int indexOf(const std::optional<std::string>& text, int whenNone) {
+    if (!text)
+        return whenNone;
     int index = 0;
-    const auto end = text.data() + text.size();
-    const auto [stopped, error] = std::from_chars(text.data(), end, index);
+    const auto end = text->data() + text->size();
+    const auto [stopped, error] = std::from_chars(text->data(), end, index);
     if (error != std::errc() || stopped != end)
-        throw WrongUsage("'" + text + "' is no reading index");
+        throw WrongUsage("'" + *text + "' is no reading index");
     return index;
 }
 
@@ -32,17 +32,25 @@ WrongForFile outsideFile(const IndexRange& range, int count) {
                         std::to_string(count - 1));
 }
 
-// A recording knows its file by the full path, from wherever it was named.
-std::string fullPath(const std::string& path) {
-    return path.empty() ? path : QFileInfo(QString::fromStdString(path)).absoluteFilePath().toStdString();
-}
-
-void warnOfUnreadable(Context& context, const FileFacts& info) {
+void warnOfFile(Context& context, const FileFacts& info) {
+    if (const std::string cut = incompleteNotice(info); !cut.empty())
+        context.warn(info.path + ": " + cut);
     if (info.unreadable > 0)
         context.warn(info.path + ": " + std::to_string(info.unreadable) +
                      " item(s) could not be read as numbers; each counts with its leading number, or 0");
     if (info.notesUnreadable)
         context.warn(notesPath(info.path) + ": the notes file cannot be read");
+}
+
+// Of a range inside the file that holds none of its whole intervals.
+WrongUsage noWholeInterval(const IndexRange& range, const FileFacts& info) {
+    const int whole = info.count % valuesPerInterval(info.modeLetter);
+    return WrongUsage("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
+                      " holds no whole interval: a Min/Max/Avg file is taken in threes, counted from the "
+                      "newest reading, and the oldest " +
+                      std::to_string(whole) +
+                      " of this file are less than three. Take a range that reaches " + "reading " +
+                      std::to_string(whole));
 }
 
 } // namespace
@@ -69,11 +77,11 @@ std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command) {
 OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
     OpenFiles open;
     for (const std::string& typed : paths) {
-        const std::string path = fullPath(typed);
-        const OpenOutcome outcome = Fileopen(open.recordings, context.files(), path);
-        if (outcome != OpenOutcome::opened)
-            throw Refused(std::string(openMessage(outcome)) + (paths.size() > 1 ? "\n(" + typed + ")" : ""));
-        warnOfUnreadable(context, open.recordings.info(open.recordings.ginx));
+        // A recording knows its file by the full path, from wherever it was named.
+        const std::string path = absolutePath(typed);
+        if (const auto slot = Fileopen(open.recordings, context.files(), path); !slot)
+            throw Refused(slot.error().message());
+        warnOfFile(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;
     open.display.opened(open.recordings, 0);
@@ -84,7 +92,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
     OpenFiles open = openFiles(context, paths);
     const auto given = indexRange(range, open.recordings.info(0).count);
     if (given && !open.display.applyRange(open.recordings, given->first, given->last))
-        throw outsideFile(*given, open.recordings.info(0).count);
+        throw noWholeInterval(*given, open.recordings.info(0));
     return open;
 }
 
@@ -128,7 +136,7 @@ void writeFile(Context& context, const std::string& path, const std::string& byt
     try {
         context.results().write(path, bytes);
     } catch (const Fault& fault) {
-        throw Refused(std::string(fault.what()) + "\n" + path + " was not written.");
+        throw Refused(std::string(fault.what()) + "\n" + path + " was not written.\n" + faultAdvice(fault));
     }
 }
 

@@ -15,9 +15,9 @@ namespace tally::cli {
 
 // The options --from and --to of a command, as they were typed.
 struct RangeOptions {
-    std::string from;
-    std::string to;
-    bool given() const { return !from.empty() || !to.empty(); }
+    std::optional<std::string> from;
+    std::optional<std::string> to;
+    bool given() const { return from || to; }
 };
 
 // The files that a command names, opened, with the range applied.

@@ -52,7 +52,10 @@ void processFeeder(Context& context, SurveyDesk& desk, int number, const FeederO
     desk.proceed(number, feeder.name);
     for (int phase = 0; phase < phaseCount; ++phase) {
         const std::string& file = feeder.files[static_cast<std::size_t>(phase)];
-        if (desk.load(phase, file, context.files(), prompt) != LoadOutcome::loaded)
+        const LoadOutcome outcome = desk.load(phase, file, context.files(), prompt);
+        if (outcome == LoadOutcome::voltage)
+            throw Refused(prompt.told());
+        if (outcome != LoadOutcome::loaded)
             throw Refused(prompt.told() + "\n(" + desk.refusal() + ")");
     }
     desk.showResult();

@@ -9,7 +9,6 @@
 #include "link/Instruments.h"
 
 #include <algorithm>
-#include <variant>
 
 namespace tally {
 
@@ -65,9 +64,9 @@ std::string quotedText(std::string_view text) {
 
 int countReadings(std::string_view file) {
     const auto read = readDataText(file);
-    if (const auto* recording = std::get_if<Recording>(&read))
-        return recording->facts.count;
-    if (std::get<DataRefusal>(read) == DataRefusal::outOfRange)
+    if (read)
+        return read->facts.count;
+    if (read.error() == DataRefusal::outOfRange || read.error() == DataRefusal::touching)
         throw fault::overflow();
     return 0;
 }

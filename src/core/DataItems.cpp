@@ -13,7 +13,8 @@ namespace tally {
 
 namespace {
 
-constexpr std::size_t mostItems = 43050;
+constexpr std::size_t maximumItems = 43050;
+constexpr std::size_t maximumKept = Recordings::maximumReadings;
 constexpr std::size_t placesHigh = 4;
 
 bool isDigit(char c) {
@@ -24,6 +25,57 @@ bool isLineEnd(char c) {
     return c == '\n' || c == '\r';
 }
 
+std::size_t digitsFrom(std::string_view text, std::size_t at) {
+    const std::size_t begin = at;
+    while (at < text.size() && isDigit(text[at]))
+        ++at;
+    return at - begin;
+}
+
+// A run of HIGH fields that touch, cut as a save writes them: sign and one to four digits, no zero before
+// others, and all four places filled where another field stands before it.
+class TouchingFields {
+public:
+    explicit TouchingFields(std::string_view run) : rest_(run) {}
+
+    bool atEnd() const { return rest_.empty(); }
+
+    // The next field; empty where no save writes what stands there.
+    std::string_view next() {
+        std::size_t sign = 0;
+        if (digits_ == 0) {
+            sign = rest_.starts_with('-') ? 1 : 0;
+            digits_ = digitsFrom(rest_, sign);
+        }
+        if (digits_ == 0)
+            return {};
+        // Fours from the right, so that what is less stands first.
+        const std::size_t digits = (digits_ - 1) % placesHigh + 1;
+        const std::size_t length = sign + digits;
+        const bool padded = rest_[sign] == '0' && length > 1;
+        if (padded || (!first_ && length < placesHigh))
+            return {};
+        const std::string_view field = rest_.substr(0, length);
+        rest_.remove_prefix(length);
+        digits_ -= digits;
+        first_ = false;
+        return field;
+    }
+
+    static bool can(std::string_view run) {
+        TouchingFields fields(run);
+        while (!fields.atEnd())
+            if (fields.next().empty())
+                return false;
+        return true;
+    }
+
+private:
+    std::string_view rest_;
+    std::size_t digits_ = 0; // left of the digits behind the last sign
+    bool first_ = true;
+};
+
 // Goes through the text once. The file lists the newest reading first: readings are stored downwards from the
 // end of a work list, so that they stand oldest first without being turned round.
 class ItemReader {
@@ -31,7 +83,7 @@ public:
     ItemReader(std::string_view text, bool low)
         : text_(withoutClosingQuote(text)),
           low_(low),
-          work_(std::min(mostItems, text_.size() + 1)),
+          work_(std::min(maximumItems, text_.size() + 1)),
           next_(work_.size()) {}
 
     DataItems read() {
@@ -43,12 +95,16 @@ public:
                 break;
             if (text_[at_] == terminator) {
                 items_.ended = true;
+                items_.complete = true;
                 noteMiddle();
                 break;
             }
             readToken();
         }
-        items_.ended = items_.ended || next_ == 0;
+        if (next_ == 0) {
+            items_.ended = true;
+            items_.complete = text_.find(terminator, at_) != std::string_view::npos;
+        }
         keepNewest();
         return std::move(items_);
     }
@@ -101,27 +157,33 @@ private:
     // One run of characters between separators: an item, or several that touch.
     void readToken() {
         const std::size_t begin = at_;
-        std::size_t digits = 0;
         std::size_t points = 0;
+        std::size_t others = 0; // neither digit nor minus
+        std::size_t digits = 0; // one after the other
+        bool several = false;   // a sign behind the first place, or more digits than a field has
+        bool digitsTouch = false;
         for (; at_ < text_.size() && !isDataSeparator(text_[at_]) && text_[at_] != terminator; ++at_) {
-            digits += isDigit(text_[at_]) ? 1 : 0;
-            points += text_[at_] == '.' ? 1 : 0;
+            const char c = text_[at_];
+            digits = isDigit(c) ? digits + 1 : 0;
+            points += c == '.' ? 1 : 0;
+            others += isDigit(c) || c == '-' ? 0 : 1;
+            digitsTouch = digitsTouch || digits > placesHigh;
+            several = several || digitsTouch || (c == '-' && at_ != begin);
         }
         const std::string_view token = text_.substr(begin, at_ - begin);
         if (low_ && points > 1)
             cutAfterPoints(token);
-        else if (!low_ && digits == token.size() && digits > placesHigh)
-            cutIntoFours(token);
+        else if (!low_ && others == 0 && several && TouchingFields::can(token))
+            cutIntoFields(token);
+        else if (!low_ && others == 0 && digitsTouch)
+            items_.touching = true;
         else
             store(token);
     }
 
-    void cutIntoFours(std::string_view token) {
-        std::size_t length = token.size() % placesHigh;
-        for (length = length == 0 ? placesHigh : length; !token.empty() && !full(); length = placesHigh) {
-            store(token.substr(0, length));
-            token.remove_prefix(length);
-        }
+    void cutIntoFields(std::string_view token) {
+        for (TouchingFields fields(token); !fields.atEnd() && !full();)
+            store(fields.next());
     }
 
     // The character after each point is its number's last one, damaged or not. What follows the last point is
@@ -140,7 +202,7 @@ private:
         }
     }
 
-    bool full() const { return next_ == 0 || items_.outOfRange; }
+    bool full() const { return next_ == 0 || items_.outOfRange || items_.touching; }
 
     void store(std::string_view item) {
         const DataNumber number = readDataNumber(item);
@@ -156,10 +218,17 @@ private:
             ++items_.unreadable;
     }
 
+    // The work list itself where it is nearly full, else a list of the right size.
+    // The work list itself where it is nearly full, else a list of the right size.
     void keepNewest() {
-        const std::size_t count =
-            std::min(work_.size() - next_, static_cast<std::size_t>(Recordings::maximumReadings));
-        items_.readings.assign(work_.end() - static_cast<std::ptrdiff_t>(count), work_.end());
+        const std::size_t first = std::max(next_, work_.size() - std::min(work_.size(), maximumKept));
+        const auto begin = work_.begin() + static_cast<std::ptrdiff_t>(first);
+        if (first > work_.size() / 2) {
+            items_.readings.assign(begin, work_.end());
+        } else {
+            work_.erase(work_.begin(), begin);
+            items_.readings = std::move(work_);
+        }
     }
 
     std::string_view text_;

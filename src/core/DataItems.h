@@ -11,12 +11,16 @@ namespace tally {
 struct DataItems {
     std::vector<std::int16_t> readings; // the newest 42,966 at most, oldest first
     int unreadable = 0;                 // items that were no numbers, and a terminator in the middle
-    bool outOfRange = false; // a value did not fit 16-bit tenths; the readings are then not all there
-    bool ended = false;      // by the terminator or by 43,050 items, not by the end of the text
+    // A value did not fit 16-bit tenths, or numbers touch in a way that no save writes; the readings are then
+    // not all there.
+    bool outOfRange = false;
+    bool touching = false;
+    bool ended = false;    // by the terminator or by 43,050 items, not by the end of the text
+    bool complete = false; // the terminator stands behind them
 };
 
 // Reads what stands after header and "T:". `low`: the readings carry one decimal, so that numbers which touch
-// are told apart by their points, else by their four places.
+// are told apart by their points, else by the four places that a save gives each.
 DataItems readDataItems(std::string_view text, bool low);
 
 // White space or comma.

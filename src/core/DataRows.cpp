@@ -2,88 +2,134 @@
 #include "core/DataRows.h"
 
 #include <cstring>
-#include <limits>
+
+#if defined(__SSE2__)
+
+#include <emmintrin.h>
 
 namespace tally {
 
 namespace {
 
-// Eight characters in one word, the first one lowest, whatever the machine's byte order.
+// Sixteen characters are four fields of four, each a lane of 32 bits with its first character lowest.
+using Lanes = __m128i;
+
 std::uint64_t load(const char* text) {
     std::uint64_t word = 0;
     std::memcpy(&word, text, sizeof word);
-#if defined(__BYTE_ORDER__) && __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__
-    word = __builtin_bswap64(word);
-#endif
     return word;
 }
 
-constexpr std::uint64_t every(std::uint64_t byte) {
-    return byte * 0x0101010101010101U;
+Lanes loadFour(const char* text) {
+    return _mm_loadu_si128(reinterpret_cast<const Lanes*>(text));
 }
 
-// Two fields of four characters each, at the same time.
-struct Pair {
-    std::uint64_t wrong;  // not 0 when a field is anything but blanks followed by digits
-    std::uint64_t values; // first field in bits 0 to 15, second in bits 32 to 47
+bool anyByte(Lanes lanes) {
+    return _mm_movemask_epi8(_mm_cmpeq_epi8(lanes, _mm_setzero_si128())) != 0xFFFF;
+}
+
+// Reads fields of blanks followed by digits, and gathers what is wrong with them.
+class RowReader {
+public:
+    // `mayBeBlank`: the bits of the characters of a field that may be blanks. `scale`: tenths in the last
+    // place.
+    RowReader(int mayBeBlank, short scale)
+        : mayBeBlank_(_mm_set1_epi32(mayBeBlank)),
+          weights_(_mm_set_epi16(scale, short(100 * scale), scale, short(100 * scale), scale,
+                                 short(100 * scale), scale, short(100 * scale))) {}
+
+    // Four fields; stored as last[0] to last[-3].
+    void read(Lanes text, std::int16_t* last) {
+        const Lanes blanks = _mm_cmpeq_epi8(text, _mm_set1_epi8(' '));
+        const Lanes digits = _mm_andnot_si128(blanks, _mm_xor_si128(text, _mm_set1_epi8('0')));
+        largestDigit_ = _mm_max_epu8(largestDigit_, digits);
+        // Before a blank stands a blank or the field's beginning.
+        const Lanes begins =
+            _mm_and_si128(_mm_or_si128(_mm_slli_epi32(blanks, 8), _mm_set1_epi32(0xFF)), mayBeBlank_);
+        wrong_ = _mm_or_si128(wrong_, _mm_andnot_si128(begins, blanks));
+        const Lanes zeros = _mm_cmpeq_epi8(text, _mm_set1_epi8('0'));
+        padded_ = _mm_or_si128(padded_, _mm_and_si128(zeros, begins));
+        blankEverywhere_ = _mm_and_si128(blankEverywhere_, blanks);
+        const Lanes first = _mm_and_si128(digits, _mm_set1_epi16(0xFF));
+        const Lanes tens =
+            _mm_add_epi16(_mm_mullo_epi16(first, _mm_set1_epi16(10)), _mm_srli_epi16(digits, 8));
+        const Lanes tenths = _mm_madd_epi16(tens, weights_);
+        // What does not fit 16 bits becomes the largest number, which no field gives.
+        const Lanes packed = _mm_packs_epi32(tenths, tenths);
+        largest_ = _mm_max_epi16(largest_, packed);
+        _mm_storel_epi64(reinterpret_cast<Lanes*>(last - 3), _mm_shufflelo_epi16(packed, 0x1B));
+    }
+
+    // Whether all were fields, and whether one has a "0" before other digits beside one without a blank.
+    bool good() const {
+        const Lanes nine = _mm_set1_epi8(9);
+        const Lanes others = _mm_xor_si128(_mm_max_epu8(largestDigit_, nine), nine);
+        const Lanes tooLarge = _mm_cmpeq_epi16(largest_, _mm_set1_epi16(0x7FFF));
+        return !anyByte(_mm_or_si128(_mm_or_si128(wrong_, others), tooLarge));
+    }
+    bool zerosMayTouch() const {
+        const Lanes filled = _mm_andnot_si128(blankEverywhere_, _mm_set1_epi32(0xFF));
+        return anyByte(padded_) && anyByte(filled);
+    }
+
+private:
+    Lanes mayBeBlank_;
+    Lanes weights_;
+    Lanes wrong_ = _mm_setzero_si128();
+    Lanes largestDigit_ = _mm_setzero_si128();
+    Lanes largest_ = _mm_setzero_si128();
+    Lanes padded_ = _mm_setzero_si128();
+    Lanes blankEverywhere_ = _mm_set1_epi8(-1);
 };
 
-Pair readPair(std::uint64_t word) {
-    // A blank becomes a "0" when bit 4 is set; a digit stays.
-    const std::uint64_t digits = (word | every(0x10)) ^ every(0x30);
-    const std::uint64_t blanks = (~word & every(0x10)) >> 4;
-    std::uint64_t wrong = ((digits + every(0x76)) | digits) & every(0x80);
-    wrong |= digits & every(0x70);
-    // Only 0x20 is a blank.
-    wrong |= digits & (blanks * 0x0F);
-    // A blank has a blank or the field's beginning before it, and is not the field's end.
-    wrong |= blanks & ~((blanks << 8) | 0x0000000100000001U);
-    wrong |= blanks & 0x0100000001000000U;
-    const std::uint64_t tens = digits * 10 + (digits >> 8);
-    const std::uint64_t pairs = tens & 0x00FF00FF00FF00FFU;
-    const std::uint64_t values = pairs * 100 + (pairs >> 16);
-    return {wrong, values & 0x0000FFFF0000FFFFU};
+// Two fields "dd d.d" without their points; what is no point is gathered.
+std::uint64_t withoutPoints(const char* text, std::uint64_t& noPoint) {
+    const std::uint64_t left = load(text);
+    const std::uint64_t right = load(text + 5);
+    noPoint |= (left ^ 0x2E000000U) | (right ^ 0x2E000000U);
+    const auto joined = [](std::uint64_t word) { return (word & 0x00FFFFFFU) | ((word >> 8) & 0xFF000000U); };
+    return joined(left) | (joined(right) << 32);
 }
 
-constexpr std::uint64_t mostWhole = std::numeric_limits<std::int16_t>::max() / 10;
-
-// "dd d.d" without the point and its check, as a field of four digits.
-std::uint64_t withoutPoint(std::uint64_t word) {
-    return (word & 0x00FFFFFFU) | ((word >> 8) & 0xFF000000U);
-}
-
-// What is not 0 when the fourth character is no point or the one before it no digit.
-std::uint64_t pointWrong(std::uint64_t word) {
-    return ((word ^ 0x2E000000U) & 0xFF000000U) | (~word & 0x00100000U);
+Lanes lanesOf(std::uint64_t low, std::uint64_t high) {
+    return _mm_set_epi64x(static_cast<std::int64_t>(high), static_cast<std::int64_t>(low));
 }
 
 } // namespace
 
 bool DataRow::readHigh(const char* text, std::int16_t* last) {
-    std::uint64_t wrong = 0;
-    for (int field = 0; field < fields; field += 2) {
-        const Pair pair = readPair(load(text + 4 * field));
-        const std::uint64_t first = pair.values & 0xFFFFU;
-        const std::uint64_t second = pair.values >> 32;
-        // The difference wraps round to a huge number when a value is too large.
-        wrong |= pair.wrong | ((mostWhole - first) >> 32) | ((mostWhole - second) >> 32);
-        last[-field] = static_cast<std::int16_t>(first * 10);
-        last[-field - 1] = static_cast<std::int16_t>(second * 10);
-    }
-    return wrong == 0;
+    RowReader reader(0x00FFFFFF, 10);
+    reader.read(loadFour(text), last);
+    reader.read(loadFour(text + 16), last - 4);
+    reader.read(loadFour(text + 24), last - 6);
+    return reader.good() && !reader.zerosMayTouch();
 }
 
 bool DataRow::readLow(const char* text, std::int16_t* last) {
-    std::uint64_t wrong = 0;
-    for (int field = 0; field < fields; field += 2) {
-        const std::uint64_t left = load(text + 5 * field);
-        const std::uint64_t right = load(text + 5 * field + 5);
-        const Pair pair = readPair(withoutPoint(left) | (withoutPoint(right) << 32));
-        wrong |= pair.wrong | pointWrong(left) | pointWrong(right);
-        last[-field] = static_cast<std::int16_t>(pair.values & 0xFFFFU);
-        last[-field - 1] = static_cast<std::int16_t>(pair.values >> 32);
-    }
-    return wrong == 0;
+    RowReader reader(0x0000FFFF, 1);
+    std::uint64_t noPoint = 0;
+    const std::uint64_t middle = withoutPoints(text + 30, noPoint);
+    reader.read(lanesOf(withoutPoints(text, noPoint), withoutPoints(text + 10, noPoint)), last);
+    reader.read(lanesOf(withoutPoints(text + 20, noPoint), middle), last - 4);
+    reader.read(lanesOf(middle, withoutPoints(text + 40, noPoint)), last - 6);
+    return reader.good() && (noPoint & 0xFF000000U) == 0;
 }
 
 } // namespace tally
+
+#else
+
+namespace tally {
+
+// Elsewhere the items are read one by one.
+bool DataRow::readHigh(const char*, std::int16_t*) {
+    return false;
+}
+
+bool DataRow::readLow(const char*, std::int16_t*) {
+    return false;
+}
+
+} // namespace tally
+
+#endif

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <tuple>
 #include <utility>
 
 namespace tally {
@@ -39,11 +40,11 @@ std::string_view withoutFormItem(std::string_view text) {
 void orderTriples(std::vector<std::int16_t>& readings) {
     for (std::size_t end = readings.size(); end >= 3; end -= 3) {
         std::int16_t* triple = readings.data() + end - 3;
-        const auto [least, most] = std::minmax({triple[0], triple[1], triple[2]});
-        const int middle = triple[0] + triple[1] + triple[2] - least - most;
-        triple[0] = static_cast<std::int16_t>(middle);
-        triple[1] = most;
-        triple[2] = least;
+        const auto [lower, upper] = std::pair(std::min(triple[0], triple[1]), std::max(triple[0], triple[1]));
+        const std::int16_t third = triple[2];
+        triple[0] = std::max(lower, std::min(upper, third));
+        triple[1] = std::max(upper, third);
+        triple[2] = std::min(lower, third);
     }
 }
 
@@ -58,6 +59,17 @@ ReadingTime startTime(const FileFacts& facts) {
     return facts.headerTime + upward - std::int64_t{interval} * (intervals + 1);
 }
 
+// Smallest and largest. In locals, so that many are looked at at once.
+std::pair<std::int16_t, std::int16_t> extremes(const std::vector<std::int16_t>& readings) {
+    std::int16_t smallest = readings.front();
+    std::int16_t largest = smallest;
+    for (const std::int16_t reading : readings) {
+        smallest = std::min(smallest, reading);
+        largest = std::max(largest, reading);
+    }
+    return {smallest, largest};
+}
+
 Recording makeRecording(const DataHeader& header, ReadingTime time, char form, bool low, DataItems items) {
     Recording recording;
     FileFacts& facts = recording.facts;
@@ -69,11 +81,11 @@ Recording makeRecording(const DataHeader& header, ReadingTime time, char form, b
     facts.form = form;
     facts.low = low;
     facts.unreadable = items.unreadable;
+    facts.complete = items.complete;
     facts.count = static_cast<int>(items.readings.size());
     if (isMinMaxAvg(facts.modeLetter) && form != 'T')
         orderTriples(items.readings);
-    facts.largest = *std::max_element(items.readings.begin(), items.readings.end());
-    facts.smallest = *std::min_element(items.readings.begin(), items.readings.end());
+    std::tie(facts.smallest, facts.largest) = extremes(items.readings);
     facts.start = startTime(facts);
     recording.readings = std::move(items.readings);
     return recording;
@@ -81,55 +93,56 @@ Recording makeRecording(const DataHeader& header, ReadingTime time, char form, b
 
 } // namespace
 
-std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes) {
+tl::expected<DataHeader, DataRefusal> findDataHeader(std::string_view bytes) {
     const auto begin = bytes.find_first_of(familyInitials);
     if (begin == std::string_view::npos)
-        return DataRefusal::noHeader;
+        return tl::make_unexpected(DataRefusal::noHeader);
     const auto end = bytes.find_first_of("\r\n\x1a", begin);
     // A header is one line that ends with CR; anything else was cut or damaged.
     if (end == std::string_view::npos || bytes[end] != '\r')
-        return DataRefusal::noHeader;
+        return tl::make_unexpected(DataRefusal::noHeader);
     DataHeader header;
     header.text = bytes.substr(begin, end - begin);
     header.end = end + 1;
     if (header.end < bytes.size() && bytes[header.end] == '\n')
         ++header.end;
     if (header.text.size() < column::mode.end())
-        return DataRefusal::badMode;
+        return tl::make_unexpected(DataRefusal::badMode);
     header.typeLetter = header.text[column::type.at];
     header.modeLetter = modeLetterOf(header.text);
     if (!isMode(header.modeLetter))
-        return DataRefusal::badMode;
+        return tl::make_unexpected(DataRefusal::badMode);
     if (!repairOlderLayout(header.text))
-        return DataRefusal::badTime;
+        return tl::make_unexpected(DataRefusal::badTime);
     return header;
 }
 
-std::variant<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort) {
-    const auto found = findDataHeader(bytes);
-    if (const auto* refusal = std::get_if<DataRefusal>(&found))
-        return *refusal;
-    const auto& header = std::get<DataHeader>(found);
-    const auto time = parseHeaderTime(headerField(header.text, column::time));
+tl::expected<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort) {
+    const auto header = findDataHeader(bytes);
+    if (!header)
+        return tl::make_unexpected(header.error());
+    const auto time = parseHeaderTime(headerField(header->text, column::time));
     if (!time)
-        return DataRefusal::badTime;
+        return tl::make_unexpected(DataRefusal::badTime);
 
-    std::string_view text = bytes.substr(header.end);
+    std::string_view text = bytes.substr(header->end);
     text.remove_prefix(std::min(text.find_first_not_of("\r\n"), text.size()));
     if (text.empty())
-        return DataRefusal::noReadings;
+        return tl::make_unexpected(DataRefusal::noReadings);
     const char form = text.front();
     if (form == 'T')
         text = withoutFormItem(text);
     const bool low = firstLine(text).find('.') != std::string_view::npos;
     DataItems items = readDataItems(text, low);
     if (items.outOfRange)
-        return DataRefusal::outOfRange;
+        return tl::make_unexpected(DataRefusal::outOfRange);
+    if (items.touching)
+        return tl::make_unexpected(DataRefusal::touching);
     if (cutShort && !items.ended)
-        return DataRefusal::tooLong;
+        return tl::make_unexpected(DataRefusal::tooLong);
     if (items.readings.empty())
-        return DataRefusal::noReadings;
-    return makeRecording(header, *time, form, low, std::move(items));
+        return tl::make_unexpected(DataRefusal::noReadings);
+    return makeRecording(*header, *time, form, low, std::move(items));
 }
 
 } // namespace tally

@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <variant>
+#include <tl/expected.hpp>
 #include <vector>
 
 namespace tally {
@@ -25,6 +25,7 @@ enum class DataRefusal {
     badTime,    // a header time that is no date
     noReadings, // nothing after the header
     outOfRange, // a value that does not fit 16-bit tenths
+    touching,   // numbers that touch where no save lets them
     tooLong     // the part that was read holds neither all readings nor the terminator
 };
 
@@ -36,14 +37,11 @@ struct DataHeader {
     std::size_t end = 0; // where the line after the header begins
 };
 
-// How many bytes of a file are read at most; many times what the readings of one file take.
-inline constexpr std::size_t mostDataBytes = std::size_t{16} << 20;
-
 // Finds the header: skips to the first "H", "P" or "K". Whether its time is a date is left to readDataText.
-std::variant<DataHeader, DataRefusal> findDataHeader(std::string_view bytes);
+tl::expected<DataHeader, DataRefusal> findDataHeader(std::string_view bytes);
 
 // Reads a whole data text (bytes as they stand in the file). `cutShort` says that the file goes on beyond
 // them.
-std::variant<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort = false);
+tl::expected<Recording, DataRefusal> readDataText(std::string_view bytes, bool cutShort = false);
 
 } // namespace tally

@@ -36,8 +36,33 @@ Fault pathNotFound() {
 }
 } // namespace fault
 
+std::string faultAdvice(const Fault& fault) {
+    switch (fault.number()) {
+    case 53:
+        return "Check its name and folder; it may have been moved or renamed.";
+    case 57:
+        return "Disk error: it could not be read or written to its end. Try again, or use another disk.";
+    case 61:
+        return "Make room on the disk, or choose a folder on another one.";
+    case 70:
+        return "You have no right to it. Ask for the right, or choose another folder.";
+    case 75:
+        return "It is a folder or a device, or cannot be opened. Choose a file.";
+    case 76:
+        return "Its folder is not there. Make it, or choose another one.";
+    default:
+        return {};
+    }
+}
+
+std::string faultMessage(const Fault& fault) {
+    if (fault.subject().empty())
+        return fault.what();
+    return fault.what() + ("\r\n" + fault.subject()) + "\r\n" + faultAdvice(fault);
+}
+
 std::string faultReport(const Fault& fault, int callPoint) {
-    std::string report = "Error number " + std::to_string(fault.number()) + ": " + fault.what();
+    std::string report = "Error number " + std::to_string(fault.number()) + ": " + faultMessage(fault);
     if (callPoint != 0)
         report += "\r\ngErrorCallPoint = " + std::to_string(callPoint);
     return report;

@@ -1,22 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Fileopen.h"
 
-#include "core/DataText.h"
+#include "core/DataFile.h"
 #include "core/Fault.h"
+#include "core/ModeTable.h"
 #include "core/NotesFile.h"
 
-#include <optional>
 #include <utility>
 
 namespace tally {
 
 namespace {
 
-constexpr std::string_view modeMixingText = "Mode mixing not allowed";
-constexpr std::string_view notVoltageText = "Not Voltage file";
-constexpr std::string_view notFoundText = "File not found";
-constexpr std::string_view badFileText = "Error in processing file";
-constexpr std::string_view slotsFullText = "Three files are open already. Use Close first.";
+constexpr const char* modeMixingText = "Mode mixing not allowed";
+constexpr const char* notVoltageText = "Not Voltage file";
+constexpr const char* notFoundText = "File not found";
+constexpr const char* badFileText = "Error in processing file";
+constexpr const char* slotsFullText = "Three files are open already. Use Close first.";
+
+using Opened = tl::expected<int, OpenRefusal>;
+
+tl::unexpected<OpenRefusal> refuse(OpenProblem why, const char* text, const std::string& path,
+                                   std::string advice) {
+    return tl::make_unexpected(OpenRefusal{{text, path, std::move(advice)}, why});
+}
+
+std::string modeName(char letter) {
+    return std::string("mode ") + letter + " (" + std::to_string(modeRow(letter).minutes) + " min, " +
+           (isMinMaxAvg(letter) ? "Min/Max/Avg" : "Average") + ")";
+}
 
 // Notes are an addition: what is wrong with their file never keeps the readings away.
 Notes notesBeside(const Files& files, const std::string& path, bool& unreadable) {
@@ -39,70 +51,55 @@ void fillSlot(Recordings& recordings, int slot, Recording&& recording, Notes&& n
     recordings.ginx = slot;
 }
 
-OpenOutcome readInto(Recordings& recordings, const Files& files, const std::string& path, bool voltageOnly,
-                     int slot) {
-    // One byte more than is used tells whether the file goes on.
-    std::string bytes = files.read(path, mostDataBytes + 1);
-    const bool cutShort = bytes.size() > mostDataBytes;
-    if (cutShort)
-        bytes.resize(mostDataBytes);
-
-    const auto header = findDataHeader(bytes);
-    if (const auto* found = std::get_if<DataHeader>(&header)) {
-        if (slot != 0 && found->modeLetter != recordings.gInfo[0].modeLetter)
-            return OpenOutcome::modeMixing;
-        if (voltageOnly && found->typeLetter != 'V')
-            return OpenOutcome::notVoltage;
+Opened readInto(Recordings& recordings, const Files& files, const std::string& path, bool voltageOnly,
+                int slot) {
+    const DataBytes data = readDataBytes(files, path);
+    if (const auto header = findDataHeader(data.bytes)) {
+        const char open = recordings.gInfo[0].modeLetter;
+        if (slot != 0 && header->modeLetter != open)
+            return refuse(OpenProblem::modeMixing, modeMixingText, path,
+                          "It is of " + modeName(header->modeLetter) + ", what is open of " + modeName(open) +
+                              ". Open files of one mode together; use Close before files of another.");
+        if (voltageOnly && header->typeLetter != 'V')
+            return refuse(OpenProblem::notVoltage, notVoltageText, path,
+                          "It is a recording of current. Choose a file of a voltage recorder.");
     }
-    auto text = readDataText(bytes, cutShort);
-    auto* recording = std::get_if<Recording>(&text);
-    if (recording == nullptr)
-        return OpenOutcome::badFile;
+    auto recording = readDataText(data.bytes, data.cutShort);
+    if (!recording)
+        return refuse(OpenProblem::badFile, badFileText, path, dataAdvice(recording.error()));
     recording->facts.path = path;
     Notes notes = notesBeside(files, path, recording->facts.notesUnreadable);
-    fillSlot(recordings, slot, std::move(*recording), std::move(notes));
-    return OpenOutcome::opened;
+    fillSlot(recordings, slot, *std::move(recording), std::move(notes));
+    return slot;
 }
 
-OpenOutcome outcomeOf(int number) {
-    if (number == fault::fileNotFound().number() || number == fault::pathNotFound().number())
-        return OpenOutcome::notFound;
-    for (const Fault& why : {fault::permissionDenied(), fault::pathFileAccess(), fault::deviceIo()})
-        if (number == why.number())
-            return OpenOutcome::cannotRead;
-    return OpenOutcome::badFile;
+tl::unexpected<OpenRefusal> unread(const Fault& fault, const std::string& path) {
+    const auto is = [&](const Fault& other) { return fault.number() == other.number(); };
+    if (is(fault::fileNotFound()) || is(fault::pathNotFound()))
+        return refuse(OpenProblem::notFound, notFoundText, path, faultAdvice(fault::fileNotFound()));
+    const bool there = is(fault::permissionDenied()) || is(fault::pathFileAccess()) || is(fault::deviceIo());
+    return refuse(there ? OpenProblem::cannotRead : OpenProblem::badFile, badFileText, path,
+                  there ? faultAdvice(fault) : fault.what());
 }
 
 } // namespace
 
-std::string_view openMessage(OpenOutcome outcome) {
-    switch (outcome) {
-    case OpenOutcome::opened:
-        break;
-    case OpenOutcome::modeMixing:
-        return modeMixingText;
-    case OpenOutcome::notVoltage:
-        return notVoltageText;
-    case OpenOutcome::notFound:
-        return notFoundText;
-    case OpenOutcome::cannotRead:
-    case OpenOutcome::badFile:
-        return badFileText;
-    case OpenOutcome::slotsFull:
-        return slotsFullText;
-    }
-    return {};
-}
-
-OpenOutcome Fileopen(Recordings& recordings, const Files& files, const std::string& path, bool voltageOnly) {
+Opened Fileopen(Recordings& recordings, const Files& files, const std::string& path, bool voltageOnly) {
     const int slot = recordings.freeSlot();
     if (slot < 0)
-        return OpenOutcome::slotsFull;
+        return refuse(OpenProblem::slotsFull, slotsFullText, path, {});
     try {
         return readInto(recordings, files, path, voltageOnly, slot);
     } catch (const Fault& fault) {
-        return outcomeOf(fault.number());
+        return unread(fault, path);
     }
+}
+
+std::string incompleteNotice(const FileFacts& info) {
+    if (info.complete)
+        return {};
+    return "ends without its end mark; it may have been cut; " + std::to_string(info.count) +
+           " readings, the oldest number may be incomplete";
 }
 
 } // namespace tally

@@ -3,17 +3,15 @@
 
 #include "core/DataText.h"
 #include "core/Files.h"
+#include "core/Refusal.h"
 
-#include <optional>
 #include <string>
-#include <string_view>
 
 namespace tally {
 
-inline constexpr std::string_view unknownFileError = "Unknown File Error; Check";
+inline constexpr const char* unknownFileError = "Unknown File Error; Check";
 
-// Reads a data file for the load survey, which keeps no slot. Nothing on any failure, which is reported as
-// unknownFileError.
-std::optional<Recording> Fileopenera(const Files& files, const std::string& path);
+// Reads a data file for the load survey, which keeps no slot. Every refusal has the text unknownFileError.
+Expected<Recording> Fileopenera(const Files& files, const std::string& path);
 
 } // namespace tally

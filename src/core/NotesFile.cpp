@@ -3,6 +3,7 @@
 
 #include "core/DataItems.h"
 #include "core/Fault.h"
+#include "core/PathBeside.h"
 #include "core/Text1252.h"
 
 #include <algorithm>
@@ -13,7 +14,7 @@ namespace {
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view extension = "not";
-constexpr std::size_t mostNotesBytes = std::size_t{1} << 20;
+constexpr std::size_t maximumNotesBytes = std::size_t{1} << 20;
 
 bool isBlank(char c) {
     return c == ' ' || c == '\t';
@@ -100,12 +101,7 @@ Notes clean(const Notes& notes) {
 } // namespace
 
 std::string notesPath(const std::string& dataPath) {
-    std::size_t end = dataPath.size();
-    for (std::size_t cut = 0; cut < extension.size() && end > 0; ++cut)
-        do
-            --end;
-        while (end > 0 && (static_cast<unsigned char>(dataPath[end]) & 0xC0) == 0x80);
-    return dataPath.substr(0, end) + std::string(extension);
+    return pathBeside(dataPath, extension);
 }
 
 Notes parseNotes(std::string_view bytes) {
@@ -135,7 +131,7 @@ Notes readNotes(const Files& files, const std::string& dataPath) {
     const std::string path = notesPath(dataPath);
     if (path == dataPath || !files.exists(path))
         return {};
-    return parseNotes(files.read(path, mostNotesBytes));
+    return parseNotes(files.read(path, maximumNotesBytes));
 }
 
 void saveNotes(Recordings& recordings, Files& files, int slot, const Notes& notes) {

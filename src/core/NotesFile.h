@@ -12,7 +12,7 @@ namespace tally {
 
 using Notes = std::array<std::string, 4>; // Location, Circuit, Name, Other (UTF-8)
 
-// The data file's path with its last three characters replaced by "not".
+// The notes file that belongs to a data file.
 std::string notesPath(const std::string& dataPath);
 
 // Four items, comma or line separated, plain or quoted (bytes); what is missing is empty.

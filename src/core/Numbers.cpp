@@ -24,14 +24,6 @@ double roundHalfEven(double value) {
     return std::fmod(below, 2.0) == 0.0 ? below : below + 1;
 }
 
-template <typename Whole>
-Whole toWhole(double value) {
-    const double rounded = roundHalfEven(value);
-    if (!(rounded >= std::numeric_limits<Whole>::min() && rounded <= std::numeric_limits<Whole>::max()))
-        throw fault::overflow();
-    return static_cast<Whole>(rounded);
-}
-
 bool isBlank(char c) {
     return c == ' ' || c == '\t' || c == '\n' || c == '\r';
 }
@@ -145,11 +137,11 @@ std::string formatReal(Real value, std::string_view pattern) {
     std::string digits = roundDigits(digitsOf(std::fabs(value)), decimals);
     const auto split = std::min(digits.find('.'), digits.size());
     std::string whole = digits.substr(0, split);
-    const auto least = static_cast<std::size_t>(std::count(wholePlaces.begin(), wholePlaces.end(), '0'));
-    if (whole == "0" && least == 0)
+    const auto minimum = static_cast<std::size_t>(std::count(wholePlaces.begin(), wholePlaces.end(), '0'));
+    if (whole == "0" && minimum == 0)
         whole.clear();
-    if (whole.size() < least)
-        whole.insert(0, least - whole.size(), '0');
+    if (whole.size() < minimum)
+        whole.insert(0, minimum - whole.size(), '0');
     if (wholePlaces.find(',') != std::string_view::npos)
         groupThousands(whole);
     const bool zero = digits.find_first_not_of("0.") == std::string::npos;
@@ -160,11 +152,11 @@ std::string formatReal(Real value, std::string_view pattern) {
 } // namespace
 
 std::int16_t toInt16(double value) {
-    return toWhole<std::int16_t>(value);
-}
-
-std::int32_t toInt32(double value) {
-    return toWhole<std::int32_t>(value);
+    const double rounded = roundHalfEven(value);
+    if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
+          rounded <= std::numeric_limits<std::int16_t>::max()))
+        throw fault::overflow();
+    return static_cast<std::int16_t>(rounded);
 }
 
 std::int16_t textToInt16(std::string_view text) {
@@ -179,10 +171,6 @@ std::int16_t textToInt16(std::string_view text) {
         !(isDigit(part.back()) || part.back() == '.'))
         throw fault::typeMismatch();
     return toInt16(parse(part));
-}
-
-std::int16_t addInt16(std::int16_t a, std::int16_t b) {
-    return toInt16(static_cast<double>(a) + static_cast<double>(b));
 }
 
 double Int(double value) {

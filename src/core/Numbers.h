@@ -8,16 +8,11 @@
 
 namespace tally {
 
-// The nearest 16-bit (32-bit) whole number, halves to even. Throws Overflow outside the range, also for no
-// number.
+// The nearest 16-bit whole number, halves to even. Throws Overflow outside the range, also for no number.
 std::int16_t toInt16(double value);
-std::int32_t toInt32(double value);
 
 // The 16-bit whole number that a whole text stands for. Throws Type mismatch when it is no number, Overflow.
 std::int16_t textToInt16(std::string_view text);
-
-// The sum of two 16-bit numbers as a 16-bit number. Throws Overflow.
-std::int16_t addInt16(std::int16_t a, std::int16_t b);
 
 // The largest whole number not above the value.
 double Int(double value);
@@ -41,7 +36,7 @@ std::string plainTenths(std::int32_t tenths);
 std::string Str(double value);
 
 // A number through a pattern of literal text around one run of "#", "0", "," and "." places ("  000.0",
-// "###,##0"). "0" places set the least number of digits, "," groups by thousands; halves are rounded away
+// "###,##0"). "0" places set the minimum number of digits, "," groups by thousands; halves are rounded away
 // from zero.
 std::string Format(double value, std::string_view pattern);
 std::string Format(float value, std::string_view pattern);

@@ -27,6 +27,7 @@ struct FileFacts {
     char form = ' ';              // 12: first character after the header; "T" for the T form
     int unreadable = 0;           // items that were no numbers, and a terminator in the middle
     bool notesUnreadable = false; // there is a notes file, but it could not be read
+    bool complete = true;         // the file has its end mark; without it the file may have been cut
 
     char unit() const { return typeLetter == 'V' ? 'V' : 'A'; }
     const char* rangeWord() const { return low ? "LOW" : "HIGH"; }

@@ -18,12 +18,15 @@ constexpr std::string_view leadingBreaks = "\r\n\n\n";
 constexpr std::string_view formItem = "T: ";
 constexpr int valuesPerLine = 10;
 
+// The largest whole number whose tenths fit 16 bits; one more would never be read back.
+constexpr int maximumWhole = 3276;
+
 // Tenths as "##0.0" (LOW) or "###0", right-aligned to its field.
 void appendValue(std::string& text, int tenths, bool low) {
     std::array<char, 8> field{};
     std::size_t at = field.size();
     // "###0" rounds halves away from zero.
-    int rest = low ? std::abs(tenths) : (std::abs(tenths) + 5) / 10;
+    int rest = low ? std::abs(tenths) : std::min((std::abs(tenths) + 5) / 10, maximumWhole);
     const bool negative = tenths < 0 && rest != 0;
     if (low) {
         field[--at] = static_cast<char>('0' + rest % 10);

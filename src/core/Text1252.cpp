@@ -53,8 +53,8 @@ Character characterAt(std::string_view text, std::size_t at) {
             return {};
         code = (code << 6) | (next & 0x3F);
     }
-    constexpr std::array<char32_t, 5> least = {0, 0, 0x80, 0x800, 0x10000};
-    if (code < least[length] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
+    constexpr std::array<char32_t, 5> minimum = {0, 0, 0x80, 0x800, 0x10000};
+    if (code < minimum[length] || code > 0x10FFFF || (code >= 0xD800 && code <= 0xDFFF))
         return {};
     return {code, length};
 }

@@ -2,6 +2,7 @@
 #include "export/Export.h"
 
 #include "core/ModeTable.h"
+#include "core/PathBeside.h"
 #include "export/ScreenTime.h"
 #include "view/RunningTime.h"
 
@@ -110,8 +111,7 @@ Expected<Exported> Export(const Recordings& recordings, int slot, const Table& t
     if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
         return refuse(std::string(noFileToExport));
     const FileFacts& info = recordings.info(slot);
-    const std::string path =
-        info.path.substr(0, info.path.size() - std::min<std::size_t>(3, info.path.size())) + "prn";
+    const std::string path = pathBeside(info.path, "prn");
     if (const auto free = checkNotOpen(recordings, path, files); !free)
         return tl::make_unexpected(free.error());
     if (!onePerLine) {

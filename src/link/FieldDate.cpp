@@ -7,7 +7,6 @@
 #include "link/ReceivedText.h"
 
 #include <optional>
-#include <variant>
 
 namespace tally {
 
@@ -37,9 +36,8 @@ bool completeHeaderTime(std::string& gText, Prompt& prompt) {
     }
     // With a time in its header the text reads as a recording.
     setHeaderTime(gText, *start);
-    const auto read = readDataText(gText);
-    const auto* recording = std::get_if<Recording>(&read);
-    if (recording != nullptr) {
+    const auto recording = readDataText(gText);
+    if (recording) {
         const char letter = recording->facts.modeLetter;
         const auto count = static_cast<std::int64_t>(recording->readings.size());
         setHeaderTime(gText, *start + modeRow(letter).minutes * count / valuesPerInterval(letter));

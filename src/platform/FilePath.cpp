@@ -7,6 +7,8 @@
 
 #include <array>
 #include <climits>
+#include <filesystem>
+#include <system_error>
 #include <unistd.h>
 
 namespace tally {
@@ -16,6 +18,12 @@ FilePath splitPath(const std::string& path) {
     if (slash == std::string::npos)
         return {".", path};
     return {slash == 0 ? "/" : path.substr(0, slash), path.substr(slash + 1)};
+}
+
+std::string absolutePath(const std::string& path) {
+    std::error_code error;
+    const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+    return path.empty() || error ? path : absolute.lexically_normal().string();
 }
 
 std::string throughLinks(std::string path) {

@@ -13,6 +13,9 @@ struct FilePath {
 
 FilePath splitPath(const std::string& path);
 
+// The full path of a file, without "." and ".." on its way; an empty one stays empty.
+std::string absolutePath(const std::string& path);
+
 // Where a path leads when its last part is a link, also one to a file that is not there yet. A ring of links
 // is given as it stands.
 std::string throughLinks(std::string path);

@@ -2,6 +2,8 @@
 #include "platform/IniText.h"
 
 #include <QStringDecoder>
+#include <charconv>
+#include <optional>
 
 namespace tally {
 
@@ -15,11 +17,25 @@ std::string_view trim(std::string_view text) {
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
+// "\xE4": a byte of a file name that is no character.
+std::optional<char> escapedByte(std::string_view text) {
+    unsigned byte = 0;
+    if (text.size() < 4 || text.substr(0, 2) != "\\x" ||
+        std::from_chars(text.data() + 2, text.data() + 4, byte, 16).ptr != text.data() + 4)
+        return {};
+    return static_cast<char>(byte);
+}
+
 std::string unescape(std::string_view text) {
     constexpr std::string_view codes = "\\\"rnt";
     constexpr std::string_view stands = "\\\"\r\n\t";
     std::string out;
     for (std::size_t i = 0; i < text.size(); ++i) {
+        if (const auto byte = escapedByte(text.substr(i))) {
+            out += *byte;
+            i += 3;
+            continue;
+        }
         const auto code =
             text[i] == '\\' && i + 1 < text.size() ? codes.find(text[i + 1]) : std::string::npos;
         if (code == std::string::npos) {
@@ -32,25 +48,30 @@ std::string unescape(std::string_view text) {
     return out;
 }
 
-std::string escape(std::string_view text) {
-    constexpr std::string_view special = "\\\"\r\n\t";
-    constexpr std::string_view codes = "\\\"rnt";
-    std::string out;
-    for (const char c : text) {
-        const auto at = special.find(c);
-        if (at == std::string_view::npos)
-            out += c;
-        else
-            (out += '\\') += codes[at];
-    }
-    return out;
-}
-
 bool isUtf8(std::string_view text) {
     QStringDecoder decoder(QStringDecoder::Utf8);
     [[maybe_unused]] const QString decoded =
         decoder.decode(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
     return !decoder.hasError();
+}
+
+std::string escape(std::string_view text) {
+    constexpr std::string_view special = "\\\"\r\n\t";
+    constexpr std::string_view codes = "\\\"rnt";
+    constexpr std::string_view hexadecimal = "0123456789ABCDEF";
+    const bool characters = isUtf8(text);
+    std::string out;
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const auto at = special.find(c);
+        if (!characters && byte >= 0x80)
+            out += {'\\', 'x', hexadecimal[byte >> 4], hexadecimal[byte & 0xF]};
+        else if (at == std::string_view::npos)
+            out += c;
+        else
+            (out += '\\') += codes[at];
+    }
+    return out;
 }
 
 // One line; false when it is none of ours. `section` follows the headings.

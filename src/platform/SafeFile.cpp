@@ -45,6 +45,34 @@ Fault readFault(int error) {
     }
 }
 
+std::string bytesOf(const std::string& path, std::uint64_t maximum) {
+    // Without waiting: a pipe would wait for its writer.
+    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.isOpen())
+        throw readFault(errno);
+    struct stat facts = {};
+    if (fstat(file.get(), &facts) != 0)
+        throw fault::deviceIo();
+    if (!S_ISREG(facts.st_mode))
+        throw fault::pathFileAccess();
+    std::string bytes;
+    // One more than there should be, so that the end shows.
+    bytes.reserve(std::min<std::uint64_t>(maximum, static_cast<std::uint64_t>(facts.st_size) + 1));
+    while (bytes.size() < maximum) {
+        const std::size_t had = bytes.size();
+        const std::size_t left = bytes.capacity() > had ? bytes.capacity() - had : mostAtOnce;
+        bytes.resize(had + std::min<std::uint64_t>(left, maximum - had));
+        const ssize_t got = ::read(file.get(), bytes.data() + had, bytes.size() - had);
+        // What was read before an error is no shorter file.
+        if (got < 0 && errno != EINTR)
+            throw fault::deviceIo();
+        bytes.resize(had + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
+        if (got == 0)
+            break;
+    }
+    return bytes;
+}
+
 } // namespace
 
 bool SafeFile::exists(const std::string& path) const {
@@ -59,36 +87,20 @@ bool SafeFile::same(const std::string& path, const std::string& other) const {
     return !found.empty() && found == canonical(other);
 }
 
-std::string SafeFile::read(const std::string& path, std::uint64_t most) const {
-    // Without waiting: a pipe would wait for its writer.
-    const Descriptor file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file.isOpen())
-        throw readFault(errno);
-    struct stat facts = {};
-    if (fstat(file.get(), &facts) != 0)
-        throw fault::deviceIo();
-    if (!S_ISREG(facts.st_mode))
-        throw fault::pathFileAccess();
-    std::string bytes;
-    // One more than there should be, so that the end shows.
-    bytes.reserve(std::min<std::uint64_t>(most, static_cast<std::uint64_t>(facts.st_size) + 1));
-    while (bytes.size() < most) {
-        const std::size_t had = bytes.size();
-        const std::size_t left = bytes.capacity() > had ? bytes.capacity() - had : mostAtOnce;
-        bytes.resize(had + std::min<std::uint64_t>(left, most - had));
-        const ssize_t got = ::read(file.get(), bytes.data() + had, bytes.size() - had);
-        // What was read before an error is no shorter file.
-        if (got < 0 && errno != EINTR)
-            throw fault::deviceIo();
-        bytes.resize(had + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
-        if (got == 0)
-            break;
+std::string SafeFile::read(const std::string& path, std::uint64_t maximum) const {
+    try {
+        return bytesOf(path, maximum);
+    } catch (const Fault& fault) {
+        throw fault.about(path);
     }
-    return bytes;
 }
 
 void SafeFile::write(const std::string& path, const std::string& bytes) {
-    replaceFile(path, bytes);
+    try {
+        replaceFile(path, bytes);
+    } catch (const Fault& fault) {
+        throw fault.about(path);
+    }
 }
 
 } // namespace tally

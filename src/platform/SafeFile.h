@@ -14,7 +14,7 @@ public:
     bool same(const std::string& path, const std::string& other) const override;
     // Regular files only, so that a pipe or a device never stalls the program. Throws File not found,
     // Permission denied, Path/File access error, Device I/O error.
-    std::string read(const std::string& path, std::uint64_t most) const override;
+    std::string read(const std::string& path, std::uint64_t maximum) const override;
     // On the disk when it returns. Throws Disk full, Permission denied, Path not found, Path/File access
     // error, Device I/O error; the old file then stands as it was.
     void write(const std::string& path, const std::string& bytes) override;

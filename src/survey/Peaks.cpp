@@ -117,6 +117,8 @@ void findStationPeak(SurveyData& survey) {
         if (coversFeeder(survey, feeder))
             peak.feeders[static_cast<std::size_t>(feeder)] =
                 currentsAt(survey.feeders[static_cast<std::size_t>(feeder)], index);
+        else if (survey.isLoaded(feeder))
+            peak.leftOut.push_back(feeder);
     survey.stationTotals.resize(count);
     std::transform(totals.begin(), totals.end(), survey.stationTotals.begin(),
                    [](std::int32_t total) { return static_cast<float>(total); });

@@ -39,6 +39,7 @@ struct StationPeak {
     std::int16_t total = 0; // tenths of amps
     ReadingTime time;
     std::array<std::optional<PhaseCurrents>, feederCount> feeders; // those that are part of it
+    std::vector<int> leftOut; // feeders 0 to 3 that are loaded, but stand after the current one
 };
 
 // What a load survey keeps while the application runs. A new survey begins with an empty one.

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "survey/SurveyDesk.h"
 
+#include "core/Fileopen.h"
 #include "core/Fileopenera.h"
 #include "core/ModeTable.h"
 #include "survey/Peaks.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace tally {
 
@@ -107,6 +107,8 @@ void SurveyDesk::addNotices(const PhaseFile& file, const std::string& place, con
     for (const Taken& taken : taken_)
         if (files.same(fileOf(taken).facts.path, file.facts.path))
             add(" is also taken for " + placeOf(survey_, taken.feeder, taken.phase));
+    if (const std::string cut = incompleteNotice(file.facts); !cut.empty())
+        add(" " + cut);
     if (file.facts.unreadable > 0)
         add(" has " + std::to_string(file.facts.unreadable) +
             " item(s) that are no numbers; each counts with its leading number, or 0");
@@ -121,18 +123,29 @@ void SurveyDesk::addNotices(const PhaseFile& file, const std::string& place, con
             std::to_string(first->readings.size()) + "; the shortest count is scanned");
 }
 
+LoadOutcome SurveyDesk::refuse(LoadOutcome why, const std::string& path, const std::string& advice) {
+    refusal_ = nameOf(path) + ": " + advice;
+    return why;
+}
+
 LoadOutcome SurveyDesk::load(int phase, const std::string& path, const Files& files, Prompt& prompt) {
-    std::optional<Recording> recording = Fileopenera(files, path);
+    Expected<Recording> recording = Fileopenera(files, path);
     if (!recording) {
-        refusal_ = nameOf(path) + " could not be read";
-        prompt.tell(std::string(unknownFileError));
-        return LoadOutcome::unreadable;
+        prompt.tell(unknownFileError);
+        return refuse(LoadOutcome::unreadable, path, recording.error().advice);
     }
     const PhaseFile* first = reference();
     if (first != nullptr && recording->facts.modeLetter != first->facts.modeLetter) {
-        refusal_ = nameOf(path) + ": Mode mixing not allowed";
-        prompt.tell(std::string(unknownFileError));
-        return LoadOutcome::otherMode;
+        prompt.tell(unknownFileError);
+        return refuse(LoadOutcome::otherMode, path,
+                      "Mode mixing not allowed. Choose a file of the mode of " + nameOf(first->facts.path) +
+                          ".");
+    }
+    if (recording->facts.unit() == 'V') {
+        prompt.tell("Not a current file\r\n" + path +
+                    "\r\nIt is a recording of voltage. Choose the recording of the phase's current.");
+        return refuse(LoadOutcome::voltage, path,
+                      "a recording of voltage. Choose the recording of the phase's current.");
     }
     PhaseFile file{std::move(recording->facts), std::move(recording->readings)};
     file.facts.path = path;

@@ -35,7 +35,7 @@ struct SurveyControls {
     bool printStation = false;                                     // Command5
 };
 
-enum class LoadOutcome { loaded, cancelled, unreadable, otherMode };
+enum class LoadOutcome { loaded, cancelled, unreadable, otherMode, voltage };
 
 // The steps of a survey in the order in which the dialog allows them.
 class SurveyDesk {
@@ -47,7 +47,7 @@ public:
     // The files taken for the current feeder's phases (paths), as the dialog shows them; cleared with its
     // result.
     const std::array<std::string, phaseCount>& shownFiles() const { return shownFiles_; }
-    // Why the last file was refused; empty when it was taken.
+    // Why the last file was refused and what may be done, in one line; empty when it was taken.
     const std::string& refusal() const { return refusal_; }
 
     // PROCEED with feeder 0 to 3 and the name typed; an empty one becomes the default name.
@@ -68,6 +68,7 @@ private:
         int phase;
     };
 
+    LoadOutcome refuse(LoadOutcome why, const std::string& path, const std::string& advice);
     const PhaseFile& fileOf(const Taken& taken) const;
     const PhaseFile* reference() const;
     void addNotices(const PhaseFile& file, const std::string& place, const Files& files);

@@ -132,7 +132,11 @@ std::string stationReport(const SurveyData& survey) {
         text.append(label).append(tabsTo(stop, label)).append(amps(red, " 0000")).append(afterRed);
         text.append(amps(white, " 0000")).append(afterWhite).append(amps(blue, " 0000")).append(lineEnd);
     }
-    return text + "Station: " + survey.stationName + std::string(lineEnd);
+    text += "Station: " + survey.stationName + std::string(lineEnd);
+    for (const int feeder : peak.leftOut)
+        text += "Left out: " + stationLine(survey, static_cast<std::size_t>(feeder)).substr(3) +
+                ". The peak covers the feeders up to the one that was loaded last." + std::string(lineEnd);
+    return text;
 }
 
 SurveyPaper feedersPaper(const SurveyData& survey, ReadingTime date) {

@@ -46,16 +46,32 @@ TEST_F(WindowTest, DefaultDirectoryThatIsGoneIsSaidQuietlyAndTheCurrentOneUsed) 
 TEST_F(WindowTest, MissingFileIsSaidAndNothingChanges) {
     prompt.files.push_back("/d/gone.dat");
     click("mnuItemOpen");
-    EXPECT_THAT(prompt.texts(), ElementsAre("File not found"));
+    EXPECT_THAT(prompt.texts(), ElementsAre(StartsWith("File not found\r\n/d/gone.dat\r\n")));
     EXPECT_EQ(settings.get("Settings", "mrufile1"), "");
     EXPECT_FALSE(enabled("mnuView"));
+}
+
+TEST_F(WindowTest, FileWithoutItsEndMarkOpensWithANoticeThatStays) {
+    const std::string whole = dataFile('a', fewReadings);
+    open("/d/a.dat", whole.substr(0, whole.find('\x1a')));
+    const QString key = QStringLiteral("incomplete");
+    EXPECT_EQ(
+        window.notices().text(key).toStdString(),
+        "/d/a.dat: ends without its end mark; it may have been cut; 4 readings, the oldest number may be "
+        "incomplete");
+    click("mnuItemViewTable");
+    EXPECT_TRUE(window.notices().has(key));
+    EXPECT_TRUE(prompt.shown.empty());
+    click("mnuItemClose");
+    EXPECT_FALSE(window.notices().has(key));
 }
 
 TEST_F(WindowTest, RefusedFileChangesNeitherListNorMenusNorView) {
     open("/d/a.dat", dataFile('a', fewReadings));
     open("/d/f.dat", dataFile('f', fewReadings));
     open("/d/x.dat", "no recording at all");
-    EXPECT_THAT(prompt.texts(), ElementsAre("Mode mixing not allowed", "Error in processing file"));
+    EXPECT_THAT(prompt.texts(), ElementsAre(StartsWith("Mode mixing not allowed\r\n/d/f.dat\r\n"),
+                                            StartsWith("Error in processing file\r\n/d/x.dat\r\n")));
     EXPECT_EQ(recordings.openCount(), 1);
     EXPECT_THAT(mruShown(window), ElementsAre("/d/a.dat"));
     EXPECT_EQ(window.screen().displaying(), "summary of a.dat");
@@ -84,7 +100,7 @@ TEST_F(WindowTest, RecentEntryThatIsGoneIsSaidAndStays) {
     click("mnuItemClose");
     files.contents.clear();
     window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->trigger();
-    EXPECT_THAT(prompt.texts(), ElementsAre("File not found or disk error"));
+    EXPECT_THAT(prompt.texts(), ElementsAre(StartsWith("File not found or disk error\r\n/d/")));
     EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
 }
 
@@ -95,7 +111,8 @@ TEST_F(WindowTest, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
     for (const Fault& why : {fault::permissionDenied(), fault::pathFileAccess(), fault::deviceIo()}) {
         files.failRead = why;
         entry->trigger();
-        EXPECT_EQ(prompt.shown.back().text, "File not found or disk error") << why.what();
+        EXPECT_THAT(prompt.shown.back().text, StartsWith("File not found or disk error\r\n/d/"))
+            << why.what();
     }
     files.failRead.reset();
     files.contents["/d/1.dat"] = "rubbish";

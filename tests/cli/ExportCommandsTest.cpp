@@ -114,7 +114,8 @@ TEST_F(ExportCommands, AFolderThatIsNotThereIsNamedAsTheCause) {
     const auto run = runProgram("tallyline-cli", {"export", "csv", low, "--dir", folder.path("none")});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "Path not found\n");
+    EXPECT_EQ(run.err, "Path not found\n" + folder.path("none/Lotusint.csv") +
+                           "\nIts folder is not there. Make it, or choose another one.\n");
 }
 
 TEST_F(ExportCommands, WrongArgumentsAreWrongUsage) {

@@ -66,6 +66,7 @@ TEST_F(FileCommands, SaveWritesTheRangeWithTheTimeOfItsNewestReading) {
 
 TEST_F(FileCommands, BadRangesAreWrongUsage) {
     for (const auto& range : std::vector<std::vector<std::string>>{{"--from", "x"},
+                                                                   {"--from", ""},
                                                                    {"--from", "3", "--to", "1"},
                                                                    {"--to", "4"},
                                                                    {"--from", "-1"},
@@ -82,17 +83,65 @@ TEST_F(FileCommands, BadRangesAreWrongUsage) {
 TEST_F(FileCommands, RefusalsSayTheFixedWordsAndWriteNothing) {
     const auto missing = runProgram("tallyline-cli", {"info", folder.path("none.dat")});
     EXPECT_EQ(missing.status, 1);
-    EXPECT_EQ(missing.err, "File not found\n");
+    EXPECT_EQ(missing.err, "File not found\n" + folder.path("none.dat") +
+                               "\nCheck its name and folder; it may have been moved or renamed.\n");
     EXPECT_EQ(missing.out, "");
     const auto damaged = runProgram("tallyline-cli", {"info", folder.write("bad.dat", "no recording")});
     EXPECT_EQ(damaged.status, 1);
-    EXPECT_EQ(damaged.err, "Error in processing file\n");
+    EXPECT_EQ(damaged.err,
+              "Error in processing file\n" + folder.path("bad.dat") +
+                  "\nIt has no header of an instrument. The file was not changed. Try another copy of "
+                  "it, or download again.\n");
     const auto mixed = runProgram("tallyline-cli", {"plot", high, low, "--json"});
     EXPECT_EQ(mixed.status, 1);
-    EXPECT_EQ(mixed.err.substr(0, mixed.err.find('\n')), "Mode mixing not allowed");
+    EXPECT_EQ(mixed.err.find("Mode mixing not allowed\n" + low + "\n"), 0U) << mixed.err;
     const auto nowhere = runProgram("tallyline-cli", {"save", high, "-o", folder.path("no/such/out.dat")});
     EXPECT_EQ(nowhere.status, 1);
-    EXPECT_NE(nowhere.err.find("Path not found"), std::string::npos) << nowhere.err;
+    EXPECT_EQ(nowhere.err,
+              "Path not found\n" + folder.path("no/such/out.dat") +
+                  " was not written.\nIts folder is not there. Make it, or choose another one.\n");
+}
+
+// Five readings of a Min/Max/Avg file: the triple 2 to 4, and two that are left of an older one.
+TEST_F(FileCommands, ARangeThatHoldsNoWholeTripleIsExplained) {
+    const auto triples = folder.write("g.dat", header('g') + "  12  30  20  11  21\x1a");
+    const auto run = runProgram("tallyline-cli", {"readings", triples, "--from", "0", "--to", "0"});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.out, "");
+    EXPECT_NE(
+        run.err.find("the oldest 2 of this file are less than three. Take a range that reaches reading 2\n"),
+        std::string::npos)
+        << run.err;
+}
+
+TEST_F(FileCommands, AFileWithoutItsEndMarkIsSaidToBeIncomplete) {
+    const auto cut = folder.write("cut.dat", fourHigh.substr(0, fourHigh.size() - 2));
+    const auto run = runProgram("tallyline-cli", {"info", cut, "--json"});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.out.find("\"complete\": false"), std::string::npos) << run.out;
+    EXPECT_EQ(run.err,
+              cut + ": ends without its end mark; it may have been cut; 4 readings, the oldest number may "
+                    "be incomplete\n");
+    EXPECT_NE(runProgram("tallyline-cli", {"info", high, "--json"}).out.find("\"complete\": true"),
+              std::string::npos);
+    // Saved, it is whole.
+    EXPECT_EQ(runProgram("tallyline-cli", {"save", cut, "-o", folder.path("whole.dat")}).status, 0);
+    EXPECT_EQ(runProgram("tallyline-cli", {"info", folder.path("whole.dat")}).err, "");
+}
+
+// Latin-1 names: the bytes E4 and F6 alone are no UTF-8, and are shown as the same replacement character.
+TEST_F(FileCommands, NamesThatAreNoUtf8AreTakenAsTheyStand) {
+    const std::string one = folder.write("k\xE4.dat", fourHigh);
+    const std::string other = folder.path("k\xF6.dat");
+    const auto saved = runProgram("tallyline-cli", {"save", one, "-o", other, "--from", "0", "--to", "1"});
+    EXPECT_EQ(saved.status, 0) << saved.err;
+    EXPECT_EQ(TemporaryFolder::read(one), fourHigh);
+    EXPECT_NE(TemporaryFolder::read(other).find("  20  10\x1a"), std::string::npos);
+    EXPECT_EQ(runProgram("tallyline-cli", {"notes", one, "--location", "North"}).status, 0);
+    EXPECT_EQ(TemporaryFolder::read(folder.path("k\xE4.not")), "North\r\n\r\n\r\n\r\n");
+    EXPECT_NE(runProgram("tallyline-cli", {"info", one}).out.find("k\xE4.dat\n"), std::string::npos);
+    EXPECT_NE(runProgram("tallyline-cli", {"info", one, "--json"}).out.find("k\xEF\xBF\xBD.dat"),
+              std::string::npos);
 }
 
 TEST_F(FileCommands, WrongCallsEndWithTwoAndAUsageLine) {

@@ -102,7 +102,8 @@ TEST_F(LinkCommands, checkThatOverflowsSaysSo) {
 TEST_F(LinkCommands, checkOfAMissingFileIsRefused) {
     const auto run = runProgram("tallyline-cli", {"check", folder.path("none")});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "File not found\n");
+    EXPECT_EQ(run.err, "File not found\n" + folder.path("none") +
+                           "\nCheck its name and folder; it may have been moved or renamed.\n");
 }
 
 TEST_F(LinkCommands, portsListsEight) {

@@ -114,6 +114,18 @@ TEST_F(SurveyCommand, FilesThatAreRefusedEndIt) {
     }
 }
 
+TEST_F(SurveyCommand, AVoltageFileIsNoPhase) {
+    std::string text = dataFile({1200, 1210, 1190});
+    text[text.find("PQX") + 2] = 'V';
+    const std::string volts = folder.write("volts.dat", text);
+    const auto run = runProgram(
+        "tallyline-cli", {"survey", "--station", "n", "--feeder", ":" + red + "," + volts + "," + blue});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out, "");
+    EXPECT_EQ(run.err, "Not a current file\n" + volts +
+                           "\nIt is a recording of voltage. Choose the recording of the phase's current.\n");
+}
+
 TEST_F(SurveyCommand, WrongArgumentsAreWrongUsage) {
     const std::string good = feeder("");
     for (const auto& arguments : std::vector<std::vector<std::string>>{

@@ -33,6 +33,8 @@ TEST(DataItems, EndsAtTheTerminatorOrAtTheEndOfTheText) {
     EXPECT_EQ(high("1 2\x1a"), (Readings{20, 10}));
     EXPECT_TRUE(readDataItems("1 2\x1a", false).ended);
     EXPECT_FALSE(readDataItems("1 2", false).ended);
+    EXPECT_TRUE(readDataItems("1 2\x1a", false).complete);
+    EXPECT_FALSE(readDataItems("1 2", false).complete);
 }
 
 TEST(DataItems, ATerminatorInTheMiddleEndsTheReadingAndIsCounted) {
@@ -54,6 +56,37 @@ TEST(DataItems, DigitsThatTouchAreCutIntoFoursFromTheRightInAHighFile) {
     EXPECT_EQ(high("123412341234"), (Readings{12340, 12340, 12340}));
     EXPECT_EQ(high("112341234"), (Readings{12340, 12340, 10}));
     EXPECT_EQ(high("1234"), (Readings{12340}));
+}
+
+TEST(DataItems, NegativeNumbersThatTouchAreCutInAHighFile) {
+    EXPECT_EQ(high("12-100 5"), (Readings{50, -1000, 120}));
+    EXPECT_EQ(high("-100-999-1000-3276"), (Readings{-32760, -10000, -9990, -1000}));
+    EXPECT_EQ(high("-51234"), (Readings{12340, -50})) << "the first one may be short";
+    EXPECT_EQ(high("-10001234-100"), (Readings{-1000, 12340, -10000}));
+    EXPECT_EQ(high("-1001234-100"), (Readings{-1000, 12340, -1000}));
+    EXPECT_EQ(readDataItems("12-100-3276 7", false).unreadable, 0);
+}
+
+// A short number has a blank before it, so it touches nothing.
+TEST(DataItems, ANumberThatDoesNotFillItsFieldIsNotCutOff) {
+    const DataItems items = readDataItems("12-50 7", false);
+    EXPECT_EQ(items.readings, (Readings{70, 120}));
+    EXPECT_EQ(items.unreadable, 1);
+    EXPECT_FALSE(items.touching);
+}
+
+TEST(DataItems, DigitsThatNoSaveWritesAreNotCut) {
+    for (const char* run : {"40000", "00000", "100001", "12340123", "-01234", "1234-00001", "99991234-12345"})
+        EXPECT_TRUE(readDataItems(run, false).touching) << run;
+    EXPECT_EQ(high("01234"), (Readings{12340, 0})) << "a single 0 comes first";
+    EXPECT_EQ(high("0123 0007"), (Readings{70, 1230})) << "nothing touches here";
+    EXPECT_EQ(high("0123-100"), (Readings{1230})) << "but this is no number";
+}
+
+TEST(DataItems, AFullRowIsNoneWhenAFieldBeginsWithZero) {
+    const std::string row = "   40000   5   6   7   8   9  10  11  12";
+    ASSERT_EQ(row.size(), 40U);
+    EXPECT_TRUE(readDataItems(row + "\n\r" + row + "\x1a" + std::string(64, ' '), false).touching);
 }
 
 TEST(DataItems, OnlyDigitsAloneAreCutInAHighFile) {

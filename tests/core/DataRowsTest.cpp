@@ -25,8 +25,8 @@ bool read(bool low, const std::string& row, Values& newestFirst) {
 
 TEST(DataRows, HighFieldsAreWholeUnits) {
     Values values;
-    ASSERT_TRUE(read(false, "   0   7  42 123 99912340007   1  103276", values));
-    EXPECT_EQ(values, (Values{0, 70, 420, 1230, 9990, 12340, 70, 10, 100, 32760}));
+    ASSERT_TRUE(read(false, "   0   7  42 123 99912341007   1  103276", values));
+    EXPECT_EQ(values, (Values{0, 70, 420, 1230, 9990, 12340, 10070, 10, 100, 32760}));
 }
 
 TEST(DataRows, LowFieldsHaveOneDecimal) {
@@ -56,9 +56,12 @@ void everyByteInEveryPlace(bool low, const std::string& row, std::size_t width) 
                                  (!low || (item.size() >= 3 && item.find('.') == item.size() - 2 &&
                                            item.rfind('.') == item.size() - 2));
             const DataNumber number = readDataNumber(item);
+            // No save writes zeros before other digits where fields touch.
+            const bool next = field + 1 < DataRow::fields && changed[(field + 1) * width] != ' ';
+            const bool padded = !low && item.size() > 1 && item[0] == '0' && (next || item.size() == width);
             Values values;
             const bool good = read(low, changed, values);
-            ASSERT_EQ(good, pattern && number.fits) << "byte " << byte << " at " << place;
+            ASSERT_EQ(good, pattern && number.fits && !padded) << "byte " << byte << " at " << place;
             if (good) {
                 ASSERT_EQ(values[field], number.tenths) << changed;
             }
@@ -66,7 +69,7 @@ void everyByteInEveryPlace(bool low, const std::string& row, std::size_t width) 
 }
 
 TEST(DataRows, AnyOtherByteInAHighRowIsSeen) {
-    everyByteInEveryPlace(false, "   0   7  42 123 99912340007   1  103276", 4);
+    everyByteInEveryPlace(false, "   0   7  42 123 99912341007   1  103276", 4);
 }
 
 TEST(DataRows, AnyOtherByteInALowRowIsSeen) {

@@ -13,18 +13,17 @@ using testing::headerLine;
 using Readings = std::vector<std::int16_t>;
 
 Recording good(const std::string& bytes) {
-    const auto result = readDataText(bytes);
-    if (const auto* recording = std::get_if<Recording>(&result))
-        return *recording;
-    ADD_FAILURE() << "refused: " << static_cast<int>(std::get<DataRefusal>(result));
+    auto recording = readDataText(bytes);
+    if (recording)
+        return *std::move(recording);
+    ADD_FAILURE() << "refused: " << static_cast<int>(recording.error());
     return {};
 }
 
 void expectRefused(const std::string& bytes, DataRefusal why) {
     const auto result = readDataText(bytes);
-    const auto* refusal = std::get_if<DataRefusal>(&result);
-    ASSERT_NE(refusal, nullptr);
-    EXPECT_EQ(*refusal, why);
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error(), why);
 }
 
 TEST(DataText, FactsOfTheHeader) {
@@ -239,9 +238,9 @@ TEST(DataText, AHeaderCutShortIsRefused) {
     const std::string whole = headerLine();
     for (std::size_t length = 1; length <= whole.size(); ++length) {
         const auto open = readDataText(whole.substr(0, length));
-        ASSERT_TRUE(std::holds_alternative<DataRefusal>(open)) << length;
+        ASSERT_FALSE(open) << length;
         const auto closed = readDataText(whole.substr(0, length) + "\r 1\x1a");
-        ASSERT_EQ(std::holds_alternative<Recording>(closed), length >= 44) << length;
+        ASSERT_EQ(closed.has_value(), length >= 44) << length;
     }
 }
 
@@ -279,19 +278,51 @@ TEST(DataText, BinaryRubbishIsRefused) {
         state = state * 1664525U + 1013904223U;
         rubbish += static_cast<char>(state >> 24);
     }
-    EXPECT_TRUE(std::holds_alternative<DataRefusal>(readDataText(rubbish)));
+    EXPECT_FALSE(readDataText(rubbish));
 }
 
 TEST(DataText, APartOfALongFileIsTakenOnlyWhenItHoldsAllReadings) {
     const std::string unfinished = headerLine() + "\r   1   2   3";
     const auto refused = readDataText(unfinished, true);
-    ASSERT_TRUE(std::holds_alternative<DataRefusal>(refused));
-    EXPECT_EQ(std::get<DataRefusal>(refused), DataRefusal::tooLong);
-    EXPECT_TRUE(std::holds_alternative<Recording>(readDataText(unfinished + "\x1a", true)));
+    ASSERT_FALSE(refused);
+    EXPECT_EQ(refused.error(), DataRefusal::tooLong);
+    EXPECT_TRUE(readDataText(unfinished + "\x1a", true));
     std::string full = headerLine() + "\r";
     for (int i = 0; i < 43050; ++i)
         full += "   1";
-    EXPECT_TRUE(std::holds_alternative<Recording>(readDataText(full, true)));
+    EXPECT_TRUE(readDataText(full, true));
+}
+
+TEST(DataText, AFileIsCompleteWhenItsEndMarkIsThere) {
+    EXPECT_TRUE(good(dataFile({}, "  12  30   7")).facts.complete);
+    EXPECT_TRUE(good(headerLine() + "\r  12  30\x1a").facts.complete);
+    EXPECT_FALSE(good(headerLine() + "\r  12  30").facts.complete);
+    EXPECT_FALSE(good("\"\r\n\n\n" + headerLine() + "\r  12  30\"\r\n").facts.complete);
+    EXPECT_FALSE(good(headerLine() + "\rT:  12  30\r\n").facts.complete);
+}
+
+TEST(DataText, AFileWithMoreItemsThanAreReadIsCompleteAllTheSame) {
+    std::string text = headerLine() + "\r";
+    for (int i = 0; i < 43060; ++i)
+        text += "   1";
+    EXPECT_FALSE(good(text).facts.complete);
+    EXPECT_TRUE(good(text + "\x1a").facts.complete);
+}
+
+// Cut at any byte, a file opens as incomplete or not at all.
+TEST(DataText, AFileCutAnywhereIsNeverComplete) {
+    const std::string whole = dataFile({}, "  12  30   7 104");
+    const auto mark = whole.find('\x1a');
+    for (std::size_t length = 0; length <= mark; ++length) {
+        const auto cut = readDataText(whole.substr(0, length));
+        EXPECT_FALSE(cut && cut->facts.complete) << length;
+    }
+    EXPECT_TRUE(good(whole.substr(0, mark + 1)).facts.complete);
+}
+
+TEST(DataText, NumbersThatTouchAsNoSaveWritesThemAreRefused) {
+    expectRefused(dataFile({}, "   40000"), DataRefusal::touching);
+    expectRefused(dataFile({}, "  1200001 5"), DataRefusal::touching);
 }
 
 } // namespace

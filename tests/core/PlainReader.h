@@ -29,7 +29,27 @@ inline bool hasDigit(const std::string& text) {
     return text.find_first_of("0123456789") != std::string::npos;
 }
 
-// The items that one run of characters stands for.
+// Whether a run of touching characters is what a save writes for some numbers, and which: each as its
+// shortest decimal, four characters or more but for the first.
+inline bool plainFields(const std::string& run, std::vector<std::string>& fields) {
+    if (run.empty())
+        return true;
+    for (std::size_t length = fields.empty() ? 1 : 4; length <= std::min<std::size_t>(5, run.size());
+         ++length) {
+        const std::string field = run.substr(0, length);
+        const std::size_t digits = length - (field[0] == '-' ? 1 : 0);
+        if (field.find_first_not_of("-0123456789") != std::string::npos || !hasDigit(field) || digits > 4 ||
+            std::to_string(std::atoi(field.c_str())) != field)
+            continue;
+        fields.push_back(field);
+        if (plainFields(run.substr(length), fields))
+            return true;
+        fields.pop_back();
+    }
+    return false;
+}
+
+// The items that one run of characters stands for; none when they cannot be told apart.
 inline std::vector<std::string> plainItems(std::string token, bool low) {
     std::vector<std::string> items;
     if (low && std::count(token.begin(), token.end(), '.') > 1) {
@@ -46,13 +66,15 @@ inline std::vector<std::string> plainItems(std::string token, bool low) {
             items.push_back(item);
         return items;
     }
-    if (!low && token.find_first_not_of("0123456789") == std::string::npos) {
-        while (token.size() > 4) {
-            items.insert(items.begin(), token.substr(token.size() - 4));
-            token.resize(token.size() - 4);
+    if (!low && token.find_first_not_of("-0123456789") == std::string::npos) {
+        if (plainFields(token, items))
+            return items;
+        std::size_t digits = 0;
+        for (const char c : token) {
+            digits = c == '-' ? 0 : digits + 1;
+            if (digits > 4)
+                return {};
         }
-        items.insert(items.begin(), token);
-        return items;
     }
     return {token};
 }
@@ -108,7 +130,10 @@ inline std::optional<PlainReading> plainRead(const std::string& bytes) {
         }
         if (token.empty())
             continue;
-        for (const std::string& item : plainItems(token, reading.low)) {
+        const std::vector<std::string> items = plainItems(token, reading.low);
+        if (items.empty())
+            return std::nullopt;
+        for (const std::string& item : items) {
             std::size_t length = plainIn(item[0], "+-") ? 1 : 0;
             length = std::min(item.find_first_not_of("0123456789", length), item.size());
             if (length < item.size() && item[length] == '.')

@@ -20,7 +20,7 @@ class Saving : public ::testing::Test {
 protected:
     void open(const std::string& bytes, const std::string& path = "/d/a.dat") {
         files.contents[path] = bytes;
-        ASSERT_EQ(Fileopen(recordings, files, path), OpenOutcome::opened);
+        ASSERT_TRUE(Fileopen(recordings, files, path));
     }
     // What is saved from now on; the whole file before it is called.
     void range(int first, int last) { wanted = Range{first, last}; }
@@ -32,7 +32,7 @@ protected:
     Recordings reopened() {
         Recordings fresh;
         files.contents["/d/saved.dat"] = tally::quoted(built());
-        EXPECT_EQ(Fileopen(fresh, files, "/d/saved.dat"), OpenOutcome::opened);
+        EXPECT_TRUE(Fileopen(fresh, files, "/d/saved.dat"));
         return fresh;
     }
 
@@ -98,7 +98,7 @@ TEST_F(Saving, FieldsAreThoseOfThePatterns) {
     for (const bool low : {false, true}) {
         open(dataFile({}, low ? " 1.0" : "   1"));
         const std::string empty = built();
-        for (int tenths : {0, 4, 5, 14, 15, 99, 100, 9994, 9995, 32767, -4, -5, -15, -32768}) {
+        for (int tenths : {0, 4, 5, 14, 15, 99, 100, 9994, 9995, 32764, -4, -5, -15, -32764}) {
             recordings.gReadings[0] = {static_cast<std::int16_t>(tenths)};
             std::string field = Format(tenths / 10.0, low ? "##0.0" : "###0");
             const std::size_t width = low ? 5 : 4;
@@ -109,6 +109,42 @@ TEST_F(Saving, FieldsAreThoseOfThePatterns) {
         }
         recordings.closeAll();
     }
+}
+
+// 3276.7 is the largest reading there is; 3277 would be none.
+TEST_F(Saving, WhatWouldBeRoundedBeyondAReadingIsWrittenAsTheLargestWholeOne) {
+    open(dataFile({}, "   1   2"));
+    recordings.gReadings[0] = {32767, -32768};
+    EXPECT_TRUE(built().ends_with("\r-32763276\x1a"));
+    EXPECT_EQ(reopened().gReadings[0], (Readings{32760, -32760}));
+    recordings.gInfo[0].low = true;
+    EXPECT_EQ(reopened().gReadings[0], (Readings{32767, -32768}));
+}
+
+TEST_F(Saving, NegativeNumbersOfFourAndMoreCharactersAreReadBack) {
+    open(dataFile({}, "   1"));
+    const Readings readings = {-1000, -9990, 120,    -10000, 12340, -32760, -10,
+                               0,     -1000, -10000, -500,   10000, 0};
+    recordings.gReadings[0] = readings;
+    recordings.gInfo[0].count = static_cast<int>(readings.size());
+    range(0, static_cast<int>(readings.size()) - 1);
+    const Recordings again = reopened();
+    EXPECT_EQ(again.gReadings[0], readings);
+    EXPECT_EQ(again.gInfo[0].unreadable, 0);
+}
+
+// Every pair of neighbours that a HIGH file can hold at the borders of the field's width.
+TEST_F(Saving, AnyTwoNeighboursAreReadBack) {
+    open(dataFile({}, "   1   1   1"));
+    const Readings kinds = {0,   10,  90,   100,  990,   1000,  9990,   10000, 32760,
+                            -10, -90, -100, -990, -1000, -9990, -10000, -32760};
+    for (const std::int16_t first : kinds)
+        for (const std::int16_t second : kinds)
+            for (const std::int16_t third : kinds) {
+                recordings.gReadings[0] = {first, second, third};
+                ASSERT_EQ(reopened().gReadings[0], recordings.gReadings[0])
+                    << first << " " << second << " " << third;
+            }
 }
 
 TEST_F(Saving, NumbersThatTouchInASavedFileAreReadBack) {

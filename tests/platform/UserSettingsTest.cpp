@@ -41,17 +41,10 @@ TEST_F(UserSettingsTest, KeysStandInTheFileAsTheyAre) {
 }
 
 TEST_F(UserSettingsTest, EveryTextComesBack) {
-    const std::vector<std::string> texts = {"13800",
-                                            " blanks ",
-                                            "C:\\data\\new",
-                                            "say \"twice\"",
-                                            "two\r\nlines",
-                                            "tab\tand = sign",
-                                            "Zoë",
-                                            "\"",
-                                            "a;b",
-                                            "[x]",
-                                            ""};
+    const std::vector<std::string> texts = {
+        "13800",   " blanks ", "C:\\data\\new", "say \"twice\"", "two\r\nlines",     "tab\tand = sign",
+        "Zoë",     "\"",       "a;b",           "[x]",           "/d/k\xE4ufer.dat", "/\xFF\\\"/C:\\xE4",
+        "C:\\xE4", ""};
     for (const auto& text : texts) {
         UserSettings(files, path).set("Security", "userid", text);
         EXPECT_EQ(UserSettings(files, path).get("Security", "userid"), text);

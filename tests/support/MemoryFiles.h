@@ -22,13 +22,13 @@ public:
         return std::filesystem::path(path).lexically_normal() ==
                std::filesystem::path(other).lexically_normal();
     }
-    std::string read(const std::string& path, std::uint64_t most) const override {
+    std::string read(const std::string& path, std::uint64_t maximum) const override {
         if (failRead)
             throw *failRead;
         const auto found = contents.find(path);
         if (found == contents.end())
             throw fault::fileNotFound();
-        return found->second.substr(0, most);
+        return found->second.substr(0, maximum);
     }
     void write(const std::string& path, const std::string& bytes) override {
         if (failWrite)

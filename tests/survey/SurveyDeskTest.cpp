@@ -5,6 +5,7 @@
 #include "core/Fault.h"
 #include "support/MemoryFiles.h"
 #include "support/QueuedPrompt.h"
+#include "survey/SurveyReport.h"
 
 #include <gtest/gtest.h>
 
@@ -160,7 +161,8 @@ TEST_F(Desk, AMissingOrDamagedFileIsRefusedAndChangesNothing) {
         EXPECT_EQ(load(0, path), LoadOutcome::unreadable) << path;
         EXPECT_EQ(prompt.shown.back().text, unknownFile);
     }
-    EXPECT_EQ(desk.refusal(), "empty.dat could not be read");
+    EXPECT_EQ(desk.refusal(), "empty.dat: It has no header of an instrument. The file was not "
+                              "changed. Try another copy of it, or download again.");
     EXPECT_EQ(prompt.shown.size(), 5U);
     EXPECT_EQ(usable(), "-ooo P ppp - - - -");
     EXPECT_EQ(survey.phasesLoaded, 0);
@@ -175,9 +177,55 @@ TEST_F(Desk, AFileOfAnotherModeIsRefused) {
     load(0, "/d/r.dat");
     EXPECT_EQ(load(1, "/d/other.dat"), LoadOutcome::otherMode);
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{unknownFile});
-    EXPECT_EQ(desk.refusal(), "other.dat: Mode mixing not allowed");
+    EXPECT_EQ(desk.refusal(), "other.dat: Mode mixing not allowed. Choose a file of the mode of r.dat.");
     EXPECT_EQ(survey.phasesLoaded, 1);
     EXPECT_EQ(usable(), "-ooo - -pp - - - -");
+}
+
+TEST_F(Desk, AVoltageFileIsNoPhase) {
+    std::string volts = dataFile({1200, 1210, 1190});
+    volts[volts.find("PQX") + 2] = 'V';
+    files.contents["/d/volts.dat"] = volts;
+    desk.proceed(0, "");
+    load(0, "/d/r.dat");
+    EXPECT_EQ(load(1, "/d/volts.dat"), LoadOutcome::voltage);
+    EXPECT_EQ(prompt.texts(),
+              std::vector<std::string>{"Not a current file\r\n/d/volts.dat\r\nIt is a recording of voltage. "
+                                       "Choose the recording of the phase's current."});
+    EXPECT_EQ(desk.refusal(),
+              "volts.dat: a recording of voltage. Choose the recording of the phase's current.");
+    EXPECT_EQ(survey.phasesLoaded, 1);
+    EXPECT_EQ(usable(), "-ooo - -pp - - - -") << "the feeder stays as it was";
+    EXPECT_EQ(load(1, "/d/w.dat"), LoadOutcome::loaded);
+}
+
+TEST_F(Desk, AFileWithoutItsEndMarkIsTakenWithANotice) {
+    const std::string whole = dataFile({1, 2, 3});
+    files.contents["/d/cut.dat"] = whole.substr(0, whole.find('\x1a'));
+    desk.proceed(0, "");
+    EXPECT_EQ(load(0, "/d/cut.dat"), LoadOutcome::loaded);
+    EXPECT_EQ(survey.notices, std::vector<std::string>{
+                                  "Feeder1, red phase: cut.dat ends without its end mark; it may have been "
+                                  "cut; 3 readings, the oldest number may be incomplete"});
+}
+
+// The peak covers the feeders up to the current one: feeder 3, loaded before feeder 1, is not part of it.
+TEST_F(Desk, AStationPeakNamesTheFeedersThatItLeavesOut) {
+    for (const int feeder : {2, 0}) {
+        desk.proceed(feeder, feeder == 2 ? "Mill" : "");
+        loadAll();
+        desk.showResult();
+    }
+    desk.showStationPeak();
+    EXPECT_EQ(survey.stationPeak->leftOut, std::vector<int>{2});
+    EXPECT_TRUE(stationReport(survey).ends_with(
+        "Station: \r\n"
+        "Left out: F3:  Mill. The peak covers the feeders up to the one that was loaded last.\r\n"));
+    desk.proceed(3, "");
+    loadAll();
+    desk.showResult();
+    desk.showStationPeak();
+    EXPECT_TRUE(survey.stationPeak->leftOut.empty());
 }
 
 TEST_F(Desk, AFeederOfAnotherModeThanFeederOneIsRefused) {

@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -105,6 +106,18 @@ float single(const Json& json, const char* name) {
     return float(value);
 }
 
+// Runs in order, none touching another: each mark is drawn once, however often a file names it.
+void mergeRuns(std::vector<std::pair<int, int>>& runs) {
+    std::sort(runs.begin(), runs.end());
+    std::size_t kept = 0;
+    for (const auto& run : runs)
+        if (kept > 0 && run.first <= runs[kept - 1].second + 1)
+            runs[kept - 1].second = std::max(runs[kept - 1].second, run.second);
+        else
+            runs[kept++] = run;
+    runs.resize(kept);
+}
+
 PlotSeries seriesOf(const Json& json, int points) {
     expect(json, {"legend", "values", "forced"}, "A series");
     PlotSeries series;
@@ -119,6 +132,7 @@ PlotSeries seriesOf(const Json& json, int points) {
         const int last = whole(run[1], 0, int(series.values.size()) - 1, "forced");
         series.forced.emplace_back(whole(run[0], 0, last, "forced"), last);
     }
+    mergeRuns(series.forced);
     return series;
 }
 
