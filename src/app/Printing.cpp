@@ -3,6 +3,7 @@
 
 #include "app/Screen.h"
 #include "core/ModeTable.h"
+#include "view/FilesTogether.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"
 
@@ -21,8 +22,17 @@ TextReport Printing::report(const std::string& title, const std::string& heading
             .date = formatTime(services_.clock.localTime(), "%b-%d-%Y")};
 }
 
-void Printing::print(const std::string& title, const std::string& heading, const std::string& text) {
-    paper().printWithDialog(report(title, heading, text));
+// What must be known about the files together, where what is shown comes from all of them.
+std::string Printing::remark() const {
+    const View view = services_.display.view();
+    return isPlot(view) || isPowerView(view) ? togetherLine(services_.recordings) : "";
+}
+
+void Printing::print(const std::string& title, const std::string& heading, const std::string& text,
+                     const std::string& remark) {
+    TextReport made = report(title, heading, text);
+    made.remark = remark;
+    paper().printWithDialog(made);
 }
 
 void Printing::preview(const std::string& title, const std::string& text) {
@@ -34,19 +44,26 @@ TextReport Printing::shownText() const {
     std::string title = screen_.displaying();
     if (!title.empty())
         title[0] = upperCase(title[0]);
-    return report(title, shown.heading().toStdString(), shown.text().toStdString());
+    TextReport made = report(title, shown.heading().toStdString(), shown.text().toStdString());
+    made.remark = remark();
+    return made;
+}
+
+ChartReport Printing::shownChart() const {
+    const Chart& chart = screen_.chart();
+    return {chart.plot(), chart.notes(), user(), remark(), chart.sight()};
 }
 
 void Printing::printShown() {
     if (screen_.page() == Screen::Page::chart)
-        paper().printWithDialog(screen_.chart().plot(), screen_.chart().notes(), user());
+        paper().printWithDialog(shownChart());
     else if (screen_.page() == Screen::Page::text)
         paper().printWithDialog(shownText());
 }
 
 void Printing::previewShown() {
     if (screen_.page() == Screen::Page::chart)
-        paper().preview(screen_.chart().plot(), screen_.chart().notes(), user());
+        paper().preview(shownChart());
     else if (screen_.page() == Screen::Page::text)
         paper().preview(shownText());
 }

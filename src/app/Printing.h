@@ -16,7 +16,9 @@ public:
     Printing(const Services& services, Screen& screen, QWidget* window)
         : services_(services), screen_(screen), window_(window) {}
 
-    void print(const std::string& title, const std::string& heading, const std::string& text);
+    // `remark` stands below the title.
+    void print(const std::string& title, const std::string& heading, const std::string& text,
+               const std::string& remark = {});
     void preview(const std::string& title, const std::string& text);
     // The chart or the text on the screen.
     void printShown();
@@ -25,6 +27,8 @@ public:
 private:
     TextReport report(const std::string& title, const std::string& heading, const std::string& text) const;
     TextReport shownText() const;
+    ChartReport shownChart() const;
+    std::string remark() const;
     std::string user() const;
     Paper paper() const { return {services_.prompt, services_.files, window_}; }
 

@@ -60,6 +60,11 @@ void TLY_Chart::connectButtons() {
     QObject::connect(bar.zoomIn, &QAction::triggered, &chart, &Chart::zoomIn);
     QObject::connect(bar.zoomOut, &QAction::triggered, &chart, &Chart::zoomOut);
     QObject::connect(bar.reset, &QAction::triggered, &chart, &Chart::resetView);
+    // The whole plot is the whole recording too.
+    QObject::connect(bar.reset, &QAction::triggered, &screen_, [this] {
+        if (isPlot(services_.display.view()) && services_.display.zoomed())
+            Q_EMIT screen_.showAllWanted();
+    });
 }
 
 void TLY_Chart::connectMarks() {
@@ -127,7 +132,8 @@ Done TLY_Chart::savePicture() {
     if (!path)
         return {};
     std::string why;
-    if (!exportPicture(chart.plot(), chart.notes(), *path, chart.size(), services_.files, &why))
+    if (!exportPicture(chart.plot(), chart.notes(), *path, chart.size(), services_.files, &why,
+                       chart.sight()))
         return refuse(why);
     return {};
 }

@@ -66,9 +66,12 @@ Done TLY_Export::mnuitemexprep_Click() {
                                    services_.display.powerFactor(), {services_.files, folder_.stored()});
     if (!plan)
         return tl::make_unexpected(plan.error());
+    const bool known = services_.display.powerKnown();
     if (!voltage_.ensureKnown())
         return {};
-    views_.renewPower();
+    // A summary that is shown has an energy line from now on.
+    if (!known)
+        views_.renewPower();
     const auto power = views_.power();
     if (!power)
         return tl::make_unexpected(power.error());

@@ -4,6 +4,7 @@
 #include "app/Printing.h"
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
+#include "view/FilesTogether.h"
 #include "view/Print.h"
 #include "view/Printinfo.h"
 #include "view/Printpwr.h"
@@ -50,7 +51,8 @@ Done TLY_Paper::mnuItemPrintpwrSum_Click() {
     if (!power)
         return tl::make_unexpected(power.error());
     printing_.print("Power summary", {},
-                    Printpwrinfo(services_.recordings, *power, services_.display.zoomed()));
+                    Printpwrinfo(services_.recordings, *power, services_.display.zoomed()),
+                    togetherLine(services_.recordings));
     return {};
 }
 
@@ -63,7 +65,7 @@ Done TLY_Paper::mnuItemPrintPwrTable_Click() {
     if (!power)
         return tl::make_unexpected(power.error());
     const Table table = Printpwr(services_.recordings, *power);
-    printing_.print("Power table", table.heading, table.text);
+    printing_.print("Power table", table.heading, table.text, togetherLine(services_.recordings));
     return {};
 }
 

@@ -81,11 +81,17 @@ std::vector<std::string> togetherWarnings(const Recordings& recordings) {
     return warnings;
 }
 
-std::string togetherRemark(const Recordings& recordings) {
-    std::string remark = shorterFiles(recordings);
+std::string togetherLine(const Recordings& recordings) {
+    std::string line;
     for (const std::string& warning : togetherWarnings(recordings))
-        remark += (remark.empty() ? "" : "; ") + warning;
-    return remark;
+        line += (line.empty() ? "" : "; ") + warning;
+    return line;
+}
+
+std::string togetherRemark(const Recordings& recordings) {
+    const std::string shorter = shorterFiles(recordings);
+    const std::string line = togetherLine(recordings);
+    return shorter + (shorter.empty() || line.empty() ? "" : "; ") + line;
 }
 
 } // namespace tally

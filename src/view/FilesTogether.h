@@ -23,7 +23,10 @@ std::vector<std::string> togetherWarnings(const Recordings& recordings);
 // "b.dat starts 26 h after a.dat; readings are combined by number, not by time"; empty for no minutes.
 std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes);
 
-// All of it on one line, parted by "; ".
+// The warnings on one line, parted by "; ".
+std::string togetherLine(const Recordings& recordings);
+
+// Shorter files and the warnings on one line, parted by "; ".
 std::string togetherRemark(const Recordings& recordings);
 
 } // namespace tally

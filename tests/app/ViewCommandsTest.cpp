@@ -349,6 +349,16 @@ TEST_F(WindowTest, WhileAPartIsShownTheButtonsSayWhichAndShowAllLeavesIt) {
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("    119 "));
 }
 
+TEST_F(WindowTest, WholeLeavesTheZoom) {
+    open("/d/a.dat", dataFile('a', ramp(20)));
+    click("mnuItemViewPlot");
+    mark(5, 9);
+    click("mnuZoom");
+    window.screen().chartBar().reset->trigger();
+    EXPECT_FALSE(display.zoomed());
+    EXPECT_EQ(window.screen().chart().plot().points, 20);
+}
+
 TEST_F(WindowTest, ZoomThatAShorterFileDoesNotReachIsSaidByEveryCommand) {
     open("/d/a.dat", dataFile('a', ramp(20)));
     open("/d/b.dat", dataFile('a', ramp(4)));

@@ -116,6 +116,12 @@ void Chart::clearSpan() {
     update();
 }
 
+std::optional<Sight> Chart::sight() const {
+    if (scene_->isWhole())
+        return std::nullopt;
+    return Sight{scene_->across(), scene_->up(), scene_->timeOf()};
+}
+
 QImage Chart::picture() const {
     const ChartLook look = scene_->look();
     const int selected = std::exchange(scene_->selectedNote, -1);

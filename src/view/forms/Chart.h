@@ -56,6 +56,8 @@ public:
     void addNote(const std::string& text);
     void clearNotes();
 
+    // What is in sight; nothing while that is the whole plot.
+    std::optional<Sight> sight() const;
     // The chart as it is shown, in the colours of paper.
     QImage picture() const;
     // Puts that picture on the clipboard.

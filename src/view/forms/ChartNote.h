@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 
 namespace tally {
 
@@ -13,6 +15,13 @@ struct ChartNote {
     std::string text; // UTF-8, LF breaks a line
 
     bool operator==(const ChartNote&) const = default;
+};
+
+// The part of a plot that is in sight: points and values, and what the x axis says at a point.
+struct Sight {
+    std::pair<double, double> across;
+    std::pair<double, double> up;
+    std::function<std::string(int point)> timeOf;
 };
 
 } // namespace tally

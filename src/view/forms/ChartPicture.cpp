@@ -63,13 +63,14 @@ std::optional<PictureKind> pictureKind(const std::string& path) {
     return {};
 }
 
-std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, PictureKind kind,
-                         QSize size) {
+std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, PictureKind kind, QSize size,
+                         const std::optional<Sight>& sight) {
     if (std::min(size.width(), size.height()) < pictureLeast ||
         std::max(size.width(), size.height()) > pictureMost)
         return {};
     PlotScene scene;
     scene.setPlot(plot);
+    scene.setSight(sight);
     scene.notes = notes;
     QBuffer out;
     out.open(QIODevice::WriteOnly);
@@ -89,13 +90,13 @@ std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, 
 }
 
 bool exportPicture(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& path, QSize size,
-                   Files& files, std::string* why) {
+                   Files& files, std::string* why, const std::optional<Sight>& sight) {
     const auto kind = pictureKind(path);
     if (!kind) {
         *why = "A picture is saved as .png, .pdf or .svg: " + path;
         return false;
     }
-    const std::string bytes = pictureBytes(plot, notes, *kind, size);
+    const std::string bytes = pictureBytes(plot, notes, *kind, size, sight);
     if (bytes.empty()) {
         *why = "A picture is between " + std::to_string(pictureLeast) + " and " +
                std::to_string(pictureMost) + " pixels wide and high, and needs memory for them";

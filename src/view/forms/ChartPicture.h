@@ -22,13 +22,14 @@ std::optional<PictureKind> pictureKind(const std::string& path);
 constexpr int pictureLeast = 100;
 constexpr int pictureMost = 10000;
 
-// The bytes of a picture of the plot, on white. Text stays text in PDF and SVG. Needs a QApplication, no
-// display. Empty when there is not enough memory or the size is out of range.
-std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, PictureKind kind, QSize size);
+// The bytes of a picture of the plot, or of what is in sight of it, on white. Text stays text in PDF and SVG.
+// Needs a QApplication, no display. Empty when there is not enough memory or the size is out of range.
+std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, PictureKind kind, QSize size,
+                         const std::optional<Sight>& sight = {});
 
 // Writes the picture that the path's extension names (.png, .pdf, .svg), the whole of it or nothing. False
 // with a message in why.
 bool exportPicture(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& path, QSize size,
-                   Files& files, std::string* why);
+                   Files& files, std::string* why, const std::optional<Sight>& sight = {});
 
 } // namespace tally

@@ -39,29 +39,26 @@ bool paintText(const TextReport& report, QPagedPaintDevice& device, int from = 1
     return painter.end();
 }
 
-// A chart and what stands around it on paper.
-struct ChartPage {
-    const Plot& plot;
-    const std::vector<ChartNote>& notes;
-    const std::string& user;
-};
-
-bool paintChart(const ChartPage& page, QPagedPaintDevice& device) {
+bool paintChart(const ChartReport& report, QPagedPaintDevice& device) {
     PlotScene scene;
-    scene.setPlot(page.plot);
-    scene.notes = page.notes;
+    scene.setPlot(report.plot);
+    scene.setSight(report.sight);
+    scene.notes = report.notes;
     QCPPainter painter;
     if (!painter.begin(&device))
         return false;
     const double scale = double(device.width()) / chartWidth;
     painter.scale(scale, scale);
     const int height = int(device.height() / scale);
-    const int footer = page.user.empty() ? 0 : footerHeight;
+    int footer = 0;
+    for (const std::string* line : {&report.user, &report.remark})
+        footer += line->empty() ? 0 : footerHeight;
     scene.paint(painter, QSize(chartWidth, height - footer), true);
     painter.setPen(scene.look().text);
     painter.setFont(scene.look().font);
-    painter.drawText(QRect(footer / 2, height - footer, chartWidth, footer), Qt::AlignLeft | Qt::AlignBottom,
-                     QString::fromStdString(page.user));
+    const QRect below(footerHeight / 2, height - footer, chartWidth - footerHeight, footer);
+    painter.drawText(below, Qt::AlignLeft | Qt::AlignTop, QString::fromStdString(report.remark));
+    painter.drawText(below, Qt::AlignLeft | Qt::AlignBottom, QString::fromStdString(report.user));
     return painter.end();
 }
 
@@ -115,8 +112,8 @@ Painting textPainting(const TextReport& report, const QPrinter& printer) {
     return [&report, from, to](QPagedPaintDevice& device) { return paintText(report, device, from, to); };
 }
 
-Painting chartPainting(const ChartPage& page) {
-    return [page](QPagedPaintDevice& device) { return paintChart(page, device); };
+Painting chartPainting(const ChartReport& report) {
+    return [&report](QPagedPaintDevice& device) { return paintChart(report, device); };
 }
 
 void prepare(QPrinter& printer, const QString& name, QPageLayout::Orientation orientation) {
@@ -152,9 +149,8 @@ bool printText(const TextReport& report, QPrinter& printer, Files& files, std::s
     return printPages(printer, textPainting(report, printer), files, why);
 }
 
-bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
-                std::string* why, const std::string& user) {
-    return printPages(printer, chartPainting({plot, notes, user}), files, why);
+bool printChart(const ChartReport& report, QPrinter& printer, Files& files, std::string* why) {
+    return printPages(printer, chartPainting(report), files, why);
 }
 
 std::string pdfOfText(const TextReport& report) {
@@ -204,12 +200,11 @@ bool Paper::printWithDialog(const TextReport& report) {
                        [&](QPrinter& to, std::string* why) { return printText(report, to, files_, why); });
 }
 
-bool Paper::printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user) {
+bool Paper::printWithDialog(const ChartReport& report) {
     QPrinter printer(QPrinter::HighResolution);
-    prepare(printer, QString::fromStdString(plot.displaying), QPageLayout::Landscape);
-    return askAndPrint(printer, [&](QPrinter& to, std::string* why) {
-        return printChart(plot, notes, to, files_, why, user);
-    });
+    prepare(printer, QString::fromStdString(report.plot.displaying), QPageLayout::Landscape);
+    return askAndPrint(printer,
+                       [&](QPrinter& to, std::string* why) { return printChart(report, to, files_, why); });
 }
 
 bool Paper::preview(const TextReport& report) {
@@ -220,15 +215,12 @@ bool Paper::preview(const TextReport& report) {
         [&](QPrinter& to, std::string* why) { return printText(report, to, files_, why); });
 }
 
-bool Paper::preview(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user) {
+bool Paper::preview(const ChartReport& report) {
     QPrinter printer(QPrinter::HighResolution);
-    prepare(printer, QString::fromStdString(plot.displaying), QPageLayout::Landscape);
+    prepare(printer, QString::fromStdString(report.plot.displaying), QPageLayout::Landscape);
     return previewAndPrint(
-        printer,
-        [&](QPrinter& on) {
-            paintChart({plot, notes, user}, on);
-        },
-        [&](QPrinter& to, std::string* why) { return printChart(plot, notes, to, files_, why, user); });
+        printer, [&](QPrinter& on) { paintChart(report, on); },
+        [&](QPrinter& to, std::string* why) { return printChart(report, to, files_, why); });
 }
 
 } // namespace tally

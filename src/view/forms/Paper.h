@@ -7,6 +7,7 @@
 #include "view/forms/ChartNote.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,8 +21,18 @@ struct TextReport {
     std::string title;   // name of the print job and first line of each page; may be empty
     std::string heading; // repeated on each page above the text; may be empty
     std::string text;
-    std::string user; // footer, left
-    std::string date; // footer, middle
+    std::string user;        // footer, left
+    std::string date;        // footer, middle
+    std::string remark = {}; // below the title; may be empty
+};
+
+// A chart on paper.
+struct ChartReport {
+    const Plot& plot;
+    const std::vector<ChartNote>& notes;
+    std::string user = {};           // footer
+    std::string remark = {};         // above it; may be empty
+    std::optional<Sight> sight = {}; // the part that is drawn; nothing is the whole
 };
 
 // Prints a report in "Times New Roman", each field at its column. A printer that writes a PDF file writes it
@@ -29,8 +40,7 @@ struct TextReport {
 // begin, failed on the way, the disk is full.
 bool printText(const TextReport& report, QPrinter& printer, Files& files, std::string* why);
 // Prints the chart on one page, the user's name below it.
-bool printChart(const Plot& plot, const std::vector<ChartNote>& notes, QPrinter& printer, Files& files,
-                std::string* why, const std::string& user = {});
+bool printChart(const ChartReport& report, QPrinter& printer, Files& files, std::string* why);
 // Why nothing can be printed on the printer of this name; empty when it is there.
 std::string printerProblem(const std::string& name);
 // The bytes of the PDF that printText would write on A4.
@@ -43,10 +53,10 @@ public:
     Paper(Prompt& prompt, Files& files, QWidget* parent) : prompt_(prompt), files_(files), parent_(parent) {}
 
     bool printWithDialog(const TextReport& report);
-    bool printWithDialog(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user = {});
+    bool printWithDialog(const ChartReport& report);
     // True when it was also printed from the preview.
     bool preview(const TextReport& report);
-    bool preview(const Plot& plot, const std::vector<ChartNote>& notes, const std::string& user = {});
+    bool preview(const ChartReport& report);
 
 private:
     using Show = std::function<void(QPrinter&)>;

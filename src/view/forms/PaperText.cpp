@@ -42,7 +42,7 @@ std::vector<TextField> fieldsOf(const QString& line) {
 }
 
 PaperText::PaperText(const TextReport& report, const QPagedPaintDevice& device)
-    : title_(linesOf(report.title)),
+    : title_(linesOf(report.title) + linesOf(report.remark)),
       heading_(linesOf(report.heading)),
       lines_(linesOf(report.text)),
       user_(QString::fromStdString(report.user)),

@@ -133,6 +133,13 @@ void PlotScene::pan(double across, double up) {
     up_ = within({up_.first + higher, up_.second + higher}, wholeUp());
 }
 
+void PlotScene::setSight(const std::optional<Sight>& sight) {
+    if (!sight)
+        return resetView();
+    timeOf_ = sight->timeOf;
+    setView(sight->across, sight->up);
+}
+
 bool PlotScene::isWhole() const {
     return across_ == wholeAcross() && up_ == wholeUp();
 }

@@ -36,6 +36,9 @@ public:
     const ChartLook& look() const { return look_; }
     void setLook(const ChartLook& look);
     void setTimeOf(std::function<std::string(int point)> timeOf) { timeOf_ = std::move(timeOf); }
+    const std::function<std::string(int point)>& timeOf() const { return timeOf_; }
+    // Shows a part of the plot; nothing is the whole.
+    void setSight(const std::optional<Sight>& sight);
 
     std::vector<ChartNote> notes;
     int selectedNote = -1;

@@ -45,13 +45,15 @@ TEST_F(PaperPrint, ATextGoesIntoThePdfFileOfThePrinter) {
 
 TEST_F(PaperPrint, AChartTakesOnePage) {
     printer.setPageOrientation(QPageLayout::Landscape);
-    EXPECT_TRUE(printChart(testing::samplePlot(42966, 3), {{0.1, 0.1, "Storm"}}, printer, files, &why))
+    EXPECT_TRUE(printChart({testing::samplePlot(42966, 3), {{0.1, 0.1, "Storm"}}}, printer, files, &why))
         << why;
     EXPECT_THAT(files.contents["out.pdf"], HasSubstr("/Count 1"));
 }
 
-TEST_F(PaperPrint, TheUsersNameStandsBelowTheChart) {
-    EXPECT_TRUE(printChart(testing::samplePlot(100), {}, printer, files, &why, "J. Miller")) << why;
+TEST_F(PaperPrint, TheUsersNameAndTheRemarkStandBelowTheChart) {
+    EXPECT_TRUE(printChart({testing::samplePlot(100), {}, "J. Miller", "b starts 26 h after a"}, printer,
+                           files, &why))
+        << why;
     const QTemporaryDir folder;
     QFile file(folder.filePath(QStringLiteral("chart.pdf")));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
@@ -60,7 +62,9 @@ TEST_F(PaperPrint, TheUsersNameStandsBelowTheChart) {
     QProcess reader;
     reader.start(QStringLiteral("pdftotext"), {file.fileName(), QStringLiteral("-")});
     ASSERT_TRUE(reader.waitForFinished(20000));
-    EXPECT_THAT(reader.readAllStandardOutput().toStdString(), HasSubstr("J. Miller"));
+    const std::string text = reader.readAllStandardOutput().toStdString();
+    EXPECT_THAT(text, HasSubstr("J. Miller"));
+    EXPECT_THAT(text, HasSubstr("b starts 26 h after a"));
 }
 
 TEST_F(PaperPrint, AFullDiskIsToldAndTheOldFileStays) {
@@ -69,7 +73,7 @@ TEST_F(PaperPrint, AFullDiskIsToldAndTheOldFileStays) {
     EXPECT_FALSE(printText(report, printer, files, &why));
     EXPECT_EQ(why, "Disk full: out.pdf");
     why.clear();
-    EXPECT_FALSE(printChart(testing::samplePlot(10), {}, printer, files, &why));
+    EXPECT_FALSE(printChart({testing::samplePlot(10), {}}, printer, files, &why));
     EXPECT_EQ(why, "Disk full: out.pdf");
     EXPECT_EQ(files.contents["out.pdf"], "old");
 }
@@ -113,7 +117,7 @@ TEST_F(PaperPrint, ACancelledDialogPrintsAndTellsNothing) {
     whenOpen(QStringLiteral("printDialog"), [](QDialog& dialog) { dialog.reject(); });
     EXPECT_FALSE(paper.printWithDialog(report));
     whenOpen(QStringLiteral("printDialog"), [](QDialog& dialog) { dialog.reject(); });
-    EXPECT_FALSE(paper.printWithDialog(testing::samplePlot(10), {}));
+    EXPECT_FALSE(paper.printWithDialog(ChartReport{testing::samplePlot(10), {}}));
     EXPECT_TRUE(files.contents.empty());
 }
 
@@ -143,7 +147,7 @@ TEST_F(PaperPrint, AFailureIsToldInABox) {
     Paper paper(prompt, files, nullptr);
     files.failWrite = fault::diskFull();
     acceptInto(path);
-    EXPECT_FALSE(paper.printWithDialog(testing::samplePlot(100), {}));
+    EXPECT_FALSE(paper.printWithDialog(ChartReport{testing::samplePlot(100), {}}));
     ASSERT_EQ(prompt.shown.size(), 1U);
     EXPECT_EQ(prompt.shown[0].text, "Disk full: " + path.toStdString());
 }
