@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "archive/CopyArchive.h"
+#include "platform/archive/ArchiveFile.h"
+#include "platform/archive/OpenArchive.h"
+#include "platform/archive/SqlArchive.h"
+
+namespace tally {
+
+using archive::Engine;
+using archive::Place;
+using archive::StoreFault;
+using archive::StoreTrouble;
+
+namespace {
+
+void copyInto(archive::ArchiveStore& from, const archive::ArchiveTools& tools, const Place& place) {
+    const auto made = initArchive(place);
+    if (!made)
+        throw StoreFault(StoreTrouble::other, made.error().message());
+    const auto target = openArchive(place, tools);
+    if (!target)
+        throw StoreFault(StoreTrouble::other, target.error().message());
+    archive::copyArchive(from, **target);
+}
+
+} // namespace
+
+void SqlArchive::backup(const std::string& path) {
+    if (lookAtFile(path) != FileFound::nothing)
+        throw StoreFault(StoreTrouble::other, "There is a file of this name already: " + path);
+    // The file is made first, for this user alone; a failure takes it away again.
+    const NewFile file(path);
+    Place place;
+    place.engine = Engine::sqlite;
+    place.path = path;
+    // Copying the file itself while somebody writes would give a damaged one.
+    if (connection_->engine() == Engine::sqlite)
+        connection_->run("VACUUM INTO ?", {path}).finish();
+    else
+        copyInto(*this, tools_, place);
+    file.keep();
+}
+
+} // namespace tally
