@@ -5,10 +5,31 @@ namespace tally::cli {
 
 const std::vector<AddCommand>& allCommands() {
     static const std::vector<AddCommand> all = {
-        // clang-format off: a line each, so that two changes do not meet
-        addInfo,  addReadings, addSave,   addCheck,   addTable,  addSummary, addPower, addPlot,
-        addStudy, addLoading,  addNotes,  addForce,   addExport, addSurvey,  addBatch, addTypes,
-        addPorts, addDownload, addStatus, addRecover, addInit,   addJournal,
+        // One a line, so that two changes do not meet.
+        // clang-format off
+        addInfo,
+        addReadings,
+        addSave,
+        addCheck,
+        addTable,
+        addSummary,
+        addPower,
+        addPlot,
+        addStudy,
+        addLoading,
+        addNotes,
+        addForce,
+        addExport,
+        addSurvey,
+        addBatch,
+        addTypes,
+        addPorts,
+        addDownload,
+        addStatus,
+        addRecover,
+        addInit,
+        addJournal,
+        addArchive,
         // clang-format on
     };
     return all;

@@ -30,5 +30,6 @@ void addStatus(CLI::App& program, Context& context);
 void addRecover(CLI::App& program, Context& context);
 void addInit(CLI::App& program, Context& context);
 void addJournal(CLI::App& program, Context& context);
+void addArchive(CLI::App& program, Context& context);
 
 } // namespace tally::cli

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Context.h"
 
+#include "cli/ArchiveFiles.h"
 #include "platform/Folders.h"
 #include "platform/QtClock.h"
-#include "platform/SafeFile.h"
 #include "platform/UserSettings.h"
 
 #include <QApplication>
@@ -80,14 +80,14 @@ private:
 Context::Context(int& argc, char** argv)
     : argc_(argc),
       argv_(argv),
-      files_(std::make_unique<SafeFile>()),
+      files_(std::make_unique<ArchiveFiles>()),
       results_(std::make_unique<ToldFiles>(*this)) {}
 
 Context::Context(Context& shared)
     : argc_(shared.argc_),
       argv_(shared.argv_),
       shared_(&shared),
-      files_(std::make_unique<SafeFile>()),
+      files_(std::make_unique<ArchiveFiles>()),
       results_(std::make_unique<ToldFiles>(*this)),
       clock_(std::make_unique<FixedClock>(shared.clock().localTime())),
       settings_(std::make_unique<WorkerSettings>(shared)) {}
@@ -106,6 +106,10 @@ const std::string& Context::ownName() const {
 }
 
 Context::~Context() = default;
+
+Files& Context::files() {
+    return *files_;
+}
 
 Clock& Context::clock() {
     if (!clock_)

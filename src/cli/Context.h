@@ -18,6 +18,8 @@ class QCoreApplication;
 
 namespace tally::cli {
 
+class ArchiveFiles;
+
 // What commands run with: files, clock and settings of this machine, standard output and standard error.
 // Whatever costs time at the start is made when it is first asked for.
 class Context {
@@ -30,7 +32,9 @@ public:
     Context(const Context&) = delete;
     Context& operator=(const Context&) = delete;
 
-    Files& files() { return *files_; }
+    Files& files();
+    // The same, where recordings of the archive can be put beside them.
+    ArchiveFiles& archived() { return *files_; }
     // For what a command makes: a file that was replaced is told.
     Files& results();
     // Sends what a command writes under a name of its own to this path.
@@ -77,7 +81,7 @@ private:
     char** argv_;
     Context* shared_ = nullptr;
     std::mutex settingsInUse_; // by workers
-    std::unique_ptr<Files> files_;
+    std::unique_ptr<ArchiveFiles> files_;
     std::unique_ptr<ToldFiles> results_;
     std::unique_ptr<Clock> clock_;
     std::unique_ptr<Settings> settings_;

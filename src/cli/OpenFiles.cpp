@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/OpenFiles.h"
 
+#include "cli/ArchiveFiles.h"
+#include "cli/ArchivePlace.h"
 #include "core/Aligned.h"
 #include "core/Fault.h"
 #include "core/Fileopen.h"
@@ -64,13 +66,17 @@ std::shared_ptr<RangeOptions> addRange(CLI::App& command) {
 
 std::shared_ptr<std::string> addFile(CLI::App& command) {
     auto file = std::make_shared<std::string>();
-    command.add_option("FILE", *file, "a data file")->required();
+    command.add_option("FILE", *file, "a data file, or archive:ID")->required();
+    addArchiveOption(command);
     return file;
 }
 
 std::shared_ptr<std::vector<std::string>> addFiles(CLI::App& command) {
     auto files = std::make_shared<std::vector<std::string>>();
-    command.add_option("FILE", *files, "one to three data files of one mode")->required()->expected(1, 3);
+    command.add_option("FILE", *files, "one to three data files of one mode, or archive:ID")
+        ->required()
+        ->expected(1, 3);
+    addArchiveOption(command);
     return files;
 }
 
@@ -78,7 +84,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
     OpenFiles open;
     for (const std::string& typed : paths) {
         // A recording knows its file by the full path, from wherever it was named.
-        const std::string path = absolutePath(typed);
+        const std::string path = isArchived(typed) ? fetchArchived(context, typed) : absolutePath(typed);
         if (const auto slot = Fileopen(open.recordings, context.files(), path); !slot)
             throw Refused(slot.error().message());
         warnOfFile(context, open.recordings.info(open.recordings.ginx));

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "archive/Day.h"
+#include "cli/ArchiveCommands.h"
+#include "cli/ArchivePlace.h"
+#include "core/Numbers.h"
+
+namespace tally::cli {
+
+namespace {
+
+std::string placeText(const archive::Entry& entry) {
+    const auto& belonging = entry.belonging;
+    if (belonging.station.empty() || belonging.circuit.empty())
+        return belonging.station + belonging.circuit;
+    return belonging.station + " / " + belonging.circuit;
+}
+
+} // namespace
+
+std::optional<int> dateOf(const std::string& typed) {
+    if (typed.empty())
+        return std::nullopt;
+    const auto day = archive::parseDay(typed);
+    if (!day)
+        throw WrongUsage("'" + typed + "' is no date; write it as YYYY-MM-DD");
+    return day;
+}
+
+std::optional<int> DateOptions::from() const {
+    const auto from = dateOf(fromText);
+    const auto to = dateOf(toText);
+    if (from && to && *to < *from)
+        throw WrongUsage("The dates " + fromText + " to " + toText + " are turned round");
+    return from;
+}
+
+std::optional<int> DateOptions::to() const {
+    return dateOf(toText);
+}
+
+void addDates(CLI::App& command, DateOptions& dates) {
+    command.add_option("--from", dates.fromText, "first date, YYYY-MM-DD");
+    command.add_option("--to", dates.toText, "last date, YYYY-MM-DD");
+}
+
+Json figure(const std::optional<double>& value) {
+    return value ? Json(*value) : Json(nullptr);
+}
+
+std::string figureText(const std::optional<double>& value, int decimals) {
+    return value ? Format(*value, decimals == 3 ? "0.000" : "0.0") : "-";
+}
+
+Json jsonOf(const archive::Entry& entry) {
+    Json paths = Json::array();
+    for (const archive::Source& source : entry.sources)
+        paths.push_back(source.path);
+    const archive::Figures& figures = entry.figures;
+    return {{"id", entry.name()},
+            {"serial", entry.serial},
+            {"station", entry.belonging.station},
+            {"circuit", entry.belonging.circuit},
+            {"unit", std::string(1, entry.unit)},
+            {"interval", entry.interval},
+            {"start", archive::timeText(entry.start)},
+            {"end", archive::timeText(entry.end)},
+            {"count", entry.count},
+            {"min", inUnits(entry.lowest)},
+            {"max", inUnits(static_cast<std::int32_t>(figures.highest))},
+            {"maxAt", archive::timeText(figures.highestAt)},
+            {"mean", figure(archive::meanOf(figures))},
+            {"loadFactor", figure(archive::loadFactorOf(figures, entry.unit))},
+            {"notes", entry.notes},
+            {"paths", paths}};
+}
+
+std::string lineOf(const archive::Entry& entry) {
+    const auto clock = [](ReadingTime time) { return formatTime(time, "%Y-%m-%d %H:%M"); };
+    return entry.name() + "  " + placeText(entry) + "  Ser. " + entry.serial + "  " + clock(entry.start) + " to " +
+           clock(entry.end) + "  peak " + plainTenths(static_cast<std::int32_t>(entry.figures.highest)) + " " +
+           entry.unit + "  load factor " + figureText(archive::loadFactorOf(entry.figures, entry.unit), 3);
+}
+
+void addArchive(CLI::App& program, Context& context) {
+    CLI::App* archive = program.add_subcommand("archive", "many recordings in one searchable place");
+    addArchiveOption(*archive);
+    archive->require_subcommand(1);
+    archive->fallthrough();
+    for (const AddCommand add :
+         {addArchiveInit, addArchiveAdd, addArchiveFind, addArchiveGet, addArchivePeaks, addArchiveYears,
+          addArchiveTypical, addArchiveStation, addArchiveWhole, addArchiveChange, addArchiveCopies})
+        add(*archive, context);
+}
+
+} // namespace tally::cli

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/ArchiveFeed.h"
+
+#include "core/DataText.h"
+#include "core/Fault.h"
+#include "core/Fileopen.h"
+#include "core/NotesFile.h"
+#include "core/Text1252.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tally::cli {
+
+using archive::Kept;
+
+namespace {
+
+constexpr std::size_t batchSize = 500;
+constexpr std::uint64_t mostNotesBytes = std::uint64_t{1} << 20;
+
+std::optional<std::string> notesBeside(const Files& files, const std::string& path) {
+    const std::string notes = notesPath(path);
+    if (notes == path || !files.exists(notes))
+        return std::nullopt;
+    try {
+        std::string bytes = files.read(notes, mostNotesBytes + 1);
+        // What is so long is no notes file.
+        if (bytes.size() > mostNotesBytes)
+            return std::nullopt;
+        return bytes;
+    } catch (const Fault&) {
+        // Notes are an addition: what is wrong with their file never keeps the readings away.
+        return std::nullopt;
+    }
+}
+
+// Names and paths are bytes; a store holds characters.
+archive::Source sourceOf(const FoundFile& file) {
+    archive::Source source{repairedUtf8(file.path), {}};
+    for (const std::string& name : file.names)
+        source.names.push_back(repairedUtf8(name));
+    return source;
+}
+
+Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const archive::ArchiveTools& tools) {
+    try {
+        const std::string bytes = files.read(file.path, mostDataBytes + 1);
+        if (bytes.size() > mostDataBytes)
+            return refuse(std::string(openMessage(OpenOutcome::badFile)), file.path, "It is too long.");
+        return archive::keptOf(bytes, notesBeside(files, file.path), sourceOf(file), tools);
+    } catch (const Fault& fault) {
+        return refuse(fault.what(), file.path);
+    }
+}
+
+} // namespace
+
+ArchiveFeed::ArchiveFeed(archive::ArchiveStore& store, const archive::ArchiveTools& tools, const Files& files,
+                         std::function<void(const FeedCount&)> progress) :
+    store_(store), tools_(tools), files_(files), progress_(std::move(progress)) {}
+
+void ArchiveFeed::take(FoundFile&& file) {
+    waiting_.push_back(std::move(file));
+    if (waiting_.size() >= batchSize)
+        passOn();
+}
+
+void ArchiveFeed::fail(const std::string& path, const std::string& reason) {
+    count_.failures.push_back({path, reason});
+}
+
+void ArchiveFeed::finish() {
+    passOn();
+    passOn();
+}
+
+void ArchiveFeed::passOn() {
+    auto made = std::exchange(making_, {});
+    make();
+    if (made.valid())
+        write(made.get());
+}
+
+void ArchiveFeed::make() {
+    if (waiting_.empty())
+        return;
+    making_ = std::async(std::launch::async, [this, list = std::exchange(waiting_, {})] {
+        Made made;
+        for (const FoundFile& file : list)
+            made.push_back(keptFrom(file, files_, tools_));
+        return made;
+    });
+}
+
+void ArchiveFeed::write(Made&& batch) {
+    std::vector<Kept> recordings;
+    for (auto& made : batch) {
+        if (made)
+            recordings.push_back(*std::move(made));
+        else
+            fail(made.error().subject, made.error().text +
+                                           (made.error().advice.empty() ? "" : ". " + made.error().advice));
+    }
+    if (!recordings.empty())
+        for (const bool isNew : store_.add(recordings))
+            ++(isNew ? count_.added : count_.already);
+    progress_(count_);
+}
+
+} // namespace tally::cli
