@@ -11,14 +11,15 @@ using archive::Circuit;
 
 archive::Selection CircuitOptions::selection() const {
     archive::Selection selection;
-    if (!circuit.empty())
+    if (command->count("--circuit") > 0)
         selection.circuit = circuit;
-    if (!station.empty())
+    if (command->count("--station") > 0)
         selection.station = station;
     return selection;
 }
 
 CLI::Option* addCircuit(CLI::App& command, CircuitOptions& options) {
+    options.command = &command;
     command.add_option("--station", options.station, "the station, where several have a circuit of this name");
     return command.add_option("--circuit", options.circuit, "the whole name of the circuit");
 }

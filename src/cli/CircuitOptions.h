@@ -13,6 +13,7 @@ namespace tally::cli {
 struct CircuitOptions {
     std::string circuit;
     std::string station;
+    CLI::App* command = nullptr;
 
     archive::Selection selection() const;
 };

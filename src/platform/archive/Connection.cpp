@@ -101,6 +101,7 @@ void Connection::open() {
     execute("SET search_path TO tallyline, public");
     execute("SET client_min_messages TO warning");
     execute("SET enable_partitionwise_join TO on");
+    execute("SET lock_timeout TO " + std::to_string(writerWait));
 }
 
 void Connection::reconnect() {
