@@ -48,11 +48,12 @@ function(tally_qt_room)
     target_precompile_headers(${library} REUSE_FROM ${arg_PCH})
 endfunction()
 
-# tally_tests([QT] [LINK target...]): one test program of the .cpp files in the current folder, named after it:
+# tally_tests([QT] [LINK target...] [FILTER tests]): one test program of the .cpp files in the current folder, named after it:
 # tests/view/forms gives view_forms_tests. It links the room of the same folder, or what LINK names.
+# FILTER: the tests to run here, as --gtest_filter takes them; the others have a runner of their own.
 # Each test runs in its own process, offscreen, with a home of its own, and may take a minute.
 function(tally_tests)
-    cmake_parse_arguments(arg "QT" "" "LINK;ENVIRONMENT" ${ARGN})
+    cmake_parse_arguments(arg "QT" "FILTER" "LINK;ENVIRONMENT" ${ARGN})
     cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${CMAKE_SOURCE_DIR}/tests OUTPUT_VARIABLE room)
     string(REPLACE "/" "_" name ${room})
     if(NOT arg_LINK)
@@ -78,6 +79,7 @@ function(tally_tests)
         DISCOVERY_TIMEOUT 60
         WORKING_DIRECTORY ${CMAKE_BINARY_DIR}
         TEST_PREFIX ${name}.
+        TEST_FILTER "${arg_FILTER}"
         PROPERTIES TIMEOUT 60
         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;HOME=${home};XDG_CONFIG_HOME=${home}/config;XDG_DATA_HOME=${home}/data;XDG_CACHE_HOME=${home}/cache;LC_ALL=C.UTF-8;UBSAN_OPTIONS=print_stacktrace=1;${arg_ENVIRONMENT}")
 endfunction()

@@ -5,22 +5,11 @@
 #include "platform/archive/Samples.h"
 #include "support/Process.h"
 
-#include <QCoreApplication>
 #include <gtest/gtest.h>
 
 #include <cstdlib>
 
 namespace tally::testing {
-
-// Qt looks for its database drivers beside an application object.
-inline void needApplication() {
-    if (QCoreApplication::instance() != nullptr)
-        return;
-    static int count = 1;
-    static char name[] = "platform_archive_tests";
-    static char* arguments[] = {name, nullptr};
-    static const QCoreApplication application(count, arguments);
-}
 
 inline std::string environment(const char* name) {
     const char* value = std::getenv(name);
@@ -32,7 +21,6 @@ class OpenedArchive : public ::testing::Test {
 protected:
     OpenedArchive() : OpenedArchive(true) {}
     explicit OpenedArchive(bool make) {
-        needApplication();
         const std::string server = environment("TALLYLINE_TEST_SERVER");
         if (server.empty())
             place = archive::parsePlace(folder.path("archive.sqlite")).value();
