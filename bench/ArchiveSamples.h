@@ -16,8 +16,8 @@ namespace tally::bench {
 
 inline constexpr std::uint64_t mostBytes = std::uint64_t{1} << 24;
 
-// Made-up recordings of feeders: 28 days of quarters of an hour, 42 of them to a circuit over years with gaps, with
-// notes, written into a folder a circuit. The same every time.
+// Made-up recordings of feeders: 28 days of quarters of an hour, 42 of them to a circuit over years with
+// gaps, with notes, written into a folder a circuit. The same every time.
 class Samples {
 public:
     Samples(std::string folder, int count) : folder_(std::move(folder)) {
@@ -38,8 +38,8 @@ public:
     }
     std::string notes(int number) const {
         const int circuitNumber = number / perCircuit;
-        return "Station " + std::to_string(circuitNumber / 8) + "\r\n" + circuit(circuitNumber) + "\r\nphase " +
-               "RWB"[number % 3] + "\r\nrecording " + std::to_string(number) + "\r\n";
+        return "Station " + std::to_string(circuitNumber / 8) + "\r\n" + circuit(circuitNumber) +
+               "\r\nphase " + "RWB"[number % 3] + "\r\nrecording " + std::to_string(number) + "\r\n";
     }
 
 private:
@@ -58,8 +58,8 @@ private:
     static std::string dataText(int number) {
         const int place = number % perCircuit;
         // 28 days and a gap that grows now and then.
-        const ReadingTime first = toReadingTime({2009, 1, 1, 0, 0}) +
-                                  (std::int64_t{place} * 32 + place / 7 * 11) * 1440;
+        const ReadingTime first =
+            toReadingTime({2009, 1, 1, 0, 0}) + (std::int64_t{place} * 32 + place / 7 * 11) * 1440;
         const ReadingTime last = first + std::int64_t{15} * (readings + 1);
         std::string text = "\"\r\n\n\nPQXa   " + std::to_string(1000 + number % 9000) + std::string(19, ' ') +
                            headerTime(last) + "   Vbatt 3E8\r";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Measures the archive on recordings that it makes up: bench_Archive COUNT FOLDER. One line a goal: NAME ours reference
-// RATIO GOAL ok|over. On servers too when TALLYLINE_TEST_SERVER and TALLYLINE_TEST_PARTITIONS name some.
+// Measures the archive on recordings that it makes up: bench_Archive COUNT FOLDER. One line a goal: NAME ours
+// reference RATIO GOAL ok|over. On servers too when TALLYLINE_TEST_SERVER and TALLYLINE_TEST_PARTITIONS name
+// some.
 #include "ArchiveSamples.h"
 #include "archive/Questions.h"
 #include "archive/Verify.h"
@@ -48,10 +49,11 @@ double medianOf(int times, const std::function<void()>& work) {
 }
 
 // `ratio` is to stay at or under the limit, or at or over it where more is better.
-void report(const std::string& name, double ours, double reference, double ratio, double limit, bool atLeast) {
+void report(const std::string& name, double ours, double reference, double ratio, double limit,
+            bool atLeast) {
     const bool ok = atLeast ? ratio >= limit : ratio <= limit;
-    std::printf("%-36s %12.3f %12.3f %8.3f %s%-6g %s\n", name.c_str(), ours, reference, ratio, atLeast ? ">=" : "<=", limit,
-                ok ? "ok" : "over");
+    std::printf("%-36s %12.3f %12.3f %8.3f %s%-6g %s\n", name.c_str(), ours, reference, ratio,
+                atLeast ? ">=" : "<=", limit, ok ? "ok" : "over");
     std::fflush(stdout);
 }
 
@@ -97,7 +99,8 @@ double addRowByRow(const Place& place, const Samples& samples, int count) {
     return secondsOf([&] {
         for (int number = 0; number < count; ++number) {
             const cli::FoundFile file = samples.file(number);
-            store->add({keptOf(files.read(file.path, mostBytes), samples.notes(number), {file.path, file.names}, tools)
+            store->add({keptOf(files.read(file.path, mostBytes), samples.notes(number),
+                               {file.path, file.names}, tools)
                             .value()});
         }
     });
@@ -114,7 +117,8 @@ double importRows(const Place& full, const Place& empty, const std::string& fold
     std::string load;
     if (full.engine == Engine::sqlite) {
         for (const std::string& table : tables) {
-            shell("sqlite3 -csv '" + full.path + "' 'SELECT * FROM " + table + "' > '" + folder + "/" + table + ".csv'");
+            shell("sqlite3 -csv '" + full.path + "' 'SELECT * FROM " + table + "' > '" + folder + "/" +
+                  table + ".csv'");
             load += ".import --csv " + folder + "/" + table + ".csv " + table + "\n";
         }
         std::FILE* script = std::fopen((folder + "/load.sql").c_str(), "w");
@@ -152,7 +156,8 @@ double typicalOnce(ArchiveStore& store) {
 }
 
 double seasonOnce(ArchiveStore& store) {
-    return medianOf(9, [&] { peaksOf(store, tools, Samples::seasonFrom(), Samples::seasonTo(), Rank::max, 20); });
+    return medianOf(
+        9, [&] { peaksOf(store, tools, Samples::seasonFrom(), Samples::seasonTo(), Rank::max, 20); });
 }
 
 struct CircuitTimes {
@@ -222,7 +227,8 @@ Readers readBeside(const Place& place, const std::function<void()>& work) {
                 try {
                     mine.seconds.push_back(secondsOf([&] {
                         std::vector<Entry> entries;
-                        typicalDaysOf(*store, tools, circuitOf(*store, entries, static_cast<int>(mine.seconds.size() % 20)));
+                        typicalDaysOf(*store, tools,
+                                      circuitOf(*store, entries, static_cast<int>(mine.seconds.size() % 20)));
                     }));
                 } catch (const std::exception& error) {
                     std::fprintf(stderr, "reader: %s\n", error.what());
@@ -242,7 +248,8 @@ Readers readBeside(const Place& place, const std::function<void()>& work) {
     return sum;
 }
 
-void measureReaders(const std::string& name, const Place& place, const Samples& samples, int count, double alone) {
+void measureReaders(const std::string& name, const Place& place, const Samples& samples, int count,
+                    double alone) {
     make(place);
     addTo(place, samples, count / 2);
     const Readers quiet = readBeside(place, [] { std::this_thread::sleep_for(std::chrono::seconds(3)); });
@@ -258,12 +265,14 @@ void measureReaders(const std::string& name, const Place& place, const Samples& 
         });
     });
     report(name + "-readers-errors", busy.errors, 0, busy.errors, 0, false);
-    report(name + "-writer-beside-readers", count / 2 / beside, count / alone, count / 2 / beside / (count / alone), 0.4, true);
+    report(name + "-writer-beside-readers", count / 2 / beside, count / alone,
+           count / 2 / beside / (count / alone), 0.4, true);
     report(name + "-readers-median", median(busy.seconds) * 1000, median(quiet.seconds) * 1000,
            median(busy.seconds) / median(quiet.seconds), 4, false);
 }
 
-void measureEngine(const std::string& name, const Place& place, const Place& other, const Samples& samples, int count) {
+void measureEngine(const std::string& name, const Place& place, const Place& other, const Samples& samples,
+                   int count) {
     make(place);
     const double add = addTo(place, samples, count);
     std::fprintf(stderr, "%s: %.0f recordings a second\n", name.c_str(), count / add);
@@ -282,8 +291,8 @@ void measureEngine(const std::string& name, const Place& place, const Place& oth
     const CircuitTimes small = timesOf(other);
     const CircuitTimes large = timesOf(place);
     const auto compare = [&](const char* what, double CircuitTimes::*time) {
-        report(name + "-" + what + "-large-vs-small", large.*time * 1000, small.*time * 1000, large.*time / small.*time, 2,
-               false);
+        report(name + "-" + what + "-large-vs-small", large.*time * 1000, small.*time * 1000,
+               large.*time / small.*time, 2, false);
     };
     compare("typical", &CircuitTimes::typical);
     compare("growth", &CircuitTimes::growth);
@@ -297,7 +306,8 @@ void measureEngine(const std::string& name, const Place& place, const Place& oth
     measureReaders(name, other, samples, std::min(count, 10000), add * std::min(count, 10000) / count);
 }
 
-void measurePartitions(const Place& server, const std::vector<Place>& partitions, const Samples& samples, int count) {
+void measurePartitions(const Place& server, const std::vector<Place>& partitions, const Samples& samples,
+                       int count) {
     make(server);
     addTo(server, samples, count);
     double typical = 0;
@@ -318,7 +328,8 @@ void measurePartitions(const Place& server, const std::vector<Place>& partitions
     const auto store = opened(server);
     typicalOnce(*store);
     const double splitTypical = typicalOnce(*store);
-    report("partitions-typical-vs-one", splitTypical * 1000, typical * 1000, splitTypical / typical, 10, false);
+    report("partitions-typical-vs-one", splitTypical * 1000, typical * 1000, splitTypical / typical, 10,
+           false);
     const double splitSeason = seasonOnce(*store);
     report("partitions-season-vs-one", splitSeason * 1000, season * 1000, splitSeason / season, 5, false);
 }
@@ -337,7 +348,8 @@ void measureAll(int count, const std::string& folder) {
     measureEngine("sqlite", file, other, samples, count);
     Place lone = file;
     const double size = static_cast<double>(fs::file_size(lone.path));
-    report("sqlite-size-vs-text", size / 1e6, samples.textBytes() / 1e6, size / samples.textBytes(), 1.0, false);
+    report("sqlite-size-vs-text", size / 1e6, samples.textBytes() / 1e6, size / samples.textBytes(), 1.0,
+           false);
     const std::string server = environment("TALLYLINE_TEST_SERVER");
     if (server.empty())
         return;

@@ -19,11 +19,11 @@ struct Selection {
     std::optional<std::string> serial;
     std::optional<std::string> station;
     std::optional<std::string> circuit;
-    std::optional<char> unit;     // 'A' or 'V'
-    std::optional<int> from;      // a reading on this date or later
-    std::optional<int> to;        // a reading on this date or earlier
+    std::optional<char> unit; // 'A' or 'V'
+    std::optional<int> from;  // a reading on this date or later
+    std::optional<int> to;    // a reading on this date or earlier
     std::optional<IdBeginning> id;
-    std::size_t most = 0;         // how many to give at most; 0: all
+    std::size_t most = 0; // how many to give at most; 0: all
 };
 
 // The bytes of a recording, as they were packed.

@@ -31,8 +31,11 @@ void appendAveraged(std::vector<CircuitPoint>& points, const Part& part, int int
             ++count;
         }
         const std::int64_t mean = sum * (fineScale / count);
-        points.push_back({slot, {slot * interval}, mean,
-                          load.maximum.empty() ? mean : highest * fineScale, part.entry->id});
+        points.push_back({slot,
+                          {slot * interval},
+                          mean,
+                          load.maximum.empty() ? mean : highest * fineScale,
+                          part.entry->id});
     }
 }
 

@@ -36,7 +36,9 @@ struct CircuitLoad {
     std::int64_t scale = 1;
     std::vector<CircuitPoint> points;
 
-    double value(std::int64_t scaled) const { return static_cast<double>(scaled) / static_cast<double>(scale * 10); }
+    double value(std::int64_t scaled) const {
+        return static_cast<double>(scaled) / static_cast<double>(scale * 10);
+    }
 };
 
 // `interval`: the coarsest, which all others are parts of; `scaled`: count in fineScale whatever the parts.

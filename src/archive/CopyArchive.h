@@ -13,8 +13,9 @@ struct CopyCount {
     std::int64_t already = 0;
 };
 
-// Puts every recording of one archive into another, in the order of adding, with all that is known of it. `progress`
-// is called after each acknowledged batch. Throws StoreFault; what was acknowledged stays in the target.
+// Puts every recording of one archive into another, in the order of adding, with all that is known of it.
+// `progress` is called after each acknowledged batch. Throws StoreFault; what was acknowledged stays in the
+// target.
 CopyCount copyArchive(ArchiveStore& from, ArchiveStore& to,
                       const std::function<void(const CopyCount&)>& progress = {});
 

@@ -38,13 +38,13 @@ struct Entry {
     Belonging belonging;
     char unit = 'A';
     char mode = 'a';
-    int interval = 15;   // minutes
-    ReadingTime start;   // of the first reading
-    ReadingTime end;     // when the interval of the last one is over
-    int firstDay = 0;    // dates of the first and the last interval
+    int interval = 15; // minutes
+    ReadingTime start; // of the first reading
+    ReadingTime end;   // when the interval of the last one is over
+    int firstDay = 0;  // dates of the first and the last interval
     int lastDay = 0;
-    int count = 0;       // readings, three an interval in a Min/Max/Avg recording
-    int lowest = 0;      // tenths
+    int count = 0;         // readings, three an interval in a Min/Max/Avg recording
+    int lowest = 0;        // tenths
     std::int64_t size = 0; // bytes of the file
     Figures figures;       // of the whole recording
     Notes notes;

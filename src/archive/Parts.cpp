@@ -11,8 +11,8 @@ std::vector<Part> partsOf(ArchiveStore& store, const ArchiveTools& tools, const 
         ids.push_back(entry->id);
     std::vector<Part> parts;
     store.readings(ids, [&](Id id, std::string_view packed) {
-        const auto entry = std::find_if(circuit.begin(), circuit.end(),
-                                        [id](const Entry* one) { return one->id == id; });
+        const auto entry =
+            std::find_if(circuit.begin(), circuit.end(), [id](const Entry* one) { return one->id == id; });
         if (entry != circuit.end())
             parts.push_back({*entry, loadOf(**entry, packed, tools)});
     });

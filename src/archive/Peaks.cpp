@@ -37,10 +37,10 @@ DaysById daysOf(ArchiveStore& store, const std::vector<Id>& ids) {
 CircuitFigures sumApart(const Circuit& circuit, const Range& range, const DaysById& days) {
     CircuitFigures sum;
     for (const Entry* entry : circuit) {
-        const Figures figures = range.holds(*entry) ? entry->figures
-                                                    : days.at(entry->id).between(range.from, range.to);
-        const bool higher = figures.points > 0 &&
-                            (sum.figures.points == 0 || figures.highest > sum.figures.highest);
+        const Figures figures =
+            range.holds(*entry) ? entry->figures : days.at(entry->id).between(range.from, range.to);
+        const bool higher =
+            figures.points > 0 && (sum.figures.points == 0 || figures.highest > sum.figures.highest);
         sum.figures.add(figures);
         if (higher)
             sum.highestFrom = entry->id;
@@ -97,14 +97,13 @@ Peaks peaksOf(ArchiveStore& store, const ArchiveTools& tools, std::optional<int>
     all.entries = store.find(selection);
     const DaysById days = daysOf(store, cutByRange(all.entries, range));
     for (Circuit& circuit : circuitsOf(all.entries, tools)) {
-        const CircuitFigures sum = standApart(circuit) ? sumApart(circuit, range, days)
-                                                       : sumMerged(store, tools, circuit, range);
+        const CircuitFigures sum =
+            standApart(circuit) ? sumApart(circuit, range, days) : sumMerged(store, tools, circuit, range);
         if (sum.figures.points > 0)
             all.peaks.push_back(peakOf(circuit, sum));
     }
-    std::stable_sort(all.peaks.begin(), all.peaks.end(), [by](const Peak& a, const Peak& b) {
-        return figureOf(a, by) > figureOf(b, by);
-    });
+    std::stable_sort(all.peaks.begin(), all.peaks.end(),
+                     [by](const Peak& a, const Peak& b) { return figureOf(a, by) > figureOf(b, by); });
     if (top > 0 && all.peaks.size() > top)
         all.peaks.resize(top);
     return all;

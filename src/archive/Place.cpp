@@ -29,8 +29,8 @@ std::optional<int> numberOf(std::string_view text, int base = 10) {
 std::string decoded(std::string_view text) {
     std::string plain;
     for (std::size_t at = 0; at < text.size(); ++at) {
-        const auto code = text[at] == '%' && at + 2 < text.size() ? numberOf(text.substr(at + 1, 2), 16)
-                                                                      : std::nullopt;
+        const auto code =
+            text[at] == '%' && at + 2 < text.size() ? numberOf(text.substr(at + 1, 2), 16) : std::nullopt;
         plain += code ? static_cast<char>(*code) : text[at];
         at += code ? 2 : 0;
     }
@@ -86,9 +86,10 @@ Expected<Place> parseServer(std::string_view text) {
     place.engine = Engine::postgresql;
     std::string_view rest = text.substr(postgresqlScheme.size());
     if (namesPassword(rest))
-        return noPlace("A password does not belong into the name of an archive; put it into the password file "
-                       "or the environment variable PGPASSWORD",
-                       "");
+        return noPlace(
+            "A password does not belong into the name of an archive; put it into the password file "
+            "or the environment variable PGPASSWORD",
+            "");
     const auto server = takeUpTo(rest, '/');
     if (!server || rest.empty() || rest.find_first_of("/?#") != std::string_view::npos)
         return noPlace("This archive has no database name", text);
@@ -105,8 +106,8 @@ Expected<Place> parseServer(std::string_view text) {
 bool otherScheme(std::string_view text) {
     const auto end = text.find("://");
     return end != std::string_view::npos && end > 0 &&
-           text.substr(0, end).find_first_not_of("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.") ==
-               std::string_view::npos;
+           text.substr(0, end).find_first_not_of(
+               "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789+-.") == std::string_view::npos;
 }
 
 } // namespace
@@ -115,8 +116,8 @@ std::string Place::text() const {
     if (engine == Engine::sqlite)
         return path;
     const bool bracketed = host.find(':') != std::string::npos;
-    return std::string(postgresqlScheme) + (user.empty() ? "" : user + "@") + (bracketed ? "[" + host + "]" : host) +
-           ":" + std::to_string(port) + "/" + database;
+    return std::string(postgresqlScheme) + (user.empty() ? "" : user + "@") +
+           (bracketed ? "[" + host + "]" : host) + ":" + std::to_string(port) + "/" + database;
 }
 
 Expected<Place> parsePlace(std::string_view text) {

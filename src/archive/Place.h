@@ -23,8 +23,8 @@ struct Place {
     std::string text() const;
 };
 
-// Reads "PATH", "sqlite:PATH" or "postgresql://USER@HOST:PORT/NAME" (parts may be percent-encoded). Refused: other
-// schemes, a password, a port outside 1 to 65535, no host or name.
+// Reads "PATH", "sqlite:PATH" or "postgresql://USER@HOST:PORT/NAME" (parts may be percent-encoded). Refused:
+// other schemes, a password, a port outside 1 to 65535, no host or name.
 Expected<Place> parsePlace(std::string_view text);
 
 } // namespace tally::archive

@@ -20,8 +20,8 @@ enum class StoreTrouble {
 // A run-time fault of the store, with words that a person can act upon.
 class StoreFault : public Fault {
 public:
-    StoreFault(StoreTrouble trouble, const std::string& description) :
-        Fault(number, description), trouble_(trouble) {}
+    StoreFault(StoreTrouble trouble, const std::string& description)
+        : Fault(number, description), trouble_(trouble) {}
     StoreTrouble trouble() const { return trouble_; }
 
 private:

@@ -17,9 +17,9 @@ auto figuresOf(const Figures& figures) {
 }
 
 auto factsOf(const Entry& entry) {
-    return std::make_tuple(entry.id, entry.sha, entry.serial, entry.unit, entry.mode, entry.interval, entry.start,
-                           entry.end, entry.firstDay, entry.lastDay, entry.count, entry.lowest, entry.size,
-                           entry.notes, figuresOf(entry.figures));
+    return std::make_tuple(entry.id, entry.sha, entry.serial, entry.unit, entry.mode, entry.interval,
+                           entry.start, entry.end, entry.firstDay, entry.lastDay, entry.count, entry.lowest,
+                           entry.size, entry.notes, figuresOf(entry.figures));
 }
 
 bool namesFit(const Belonging& kept, const Belonging& made) {

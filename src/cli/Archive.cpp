@@ -76,9 +76,10 @@ Json jsonOf(const archive::Entry& entry) {
 
 std::string lineOf(const archive::Entry& entry) {
     const auto clock = [](ReadingTime time) { return formatTime(time, "%Y-%m-%d %H:%M"); };
-    return entry.name() + "  " + placeText(entry) + "  Ser. " + entry.serial + "  " + clock(entry.start) + " to " +
-           clock(entry.end) + "  peak " + plainTenths(static_cast<std::int32_t>(entry.figures.highest)) + " " +
-           entry.unit + "  load factor " + figureText(archive::loadFactorOf(entry.figures, entry.unit), 3);
+    return entry.name() + "  " + placeText(entry) + "  Ser. " + entry.serial + "  " + clock(entry.start) +
+           " to " + clock(entry.end) + "  peak " +
+           plainTenths(static_cast<std::int32_t>(entry.figures.highest)) + " " + entry.unit +
+           "  load factor " + figureText(archive::loadFactorOf(entry.figures, entry.unit), 3);
 }
 
 void addArchive(CLI::App& program, Context& context) {

@@ -82,7 +82,8 @@ int add(Context& context, const Options& options) {
     const auto store = openStore(context);
     const Interrupt interrupt;
     Progress progress(context);
-    ArchiveFeed feed(*store, archiveTools(), context.files(), [&](const FeedCount& count) { progress(count); });
+    ArchiveFeed feed(*store, archiveTools(), context.files(),
+                     [&](const FeedCount& count) { progress(count); });
     try {
         // What comes while the rest is added is seen later, so the look comes first.
         std::optional<FolderWatch> folders;
@@ -99,15 +100,18 @@ int add(Context& context, const Options& options) {
     progress(feed.count());
     const bool cut = interrupt.asked() && !options.watch;
     return finish(context, options, feed.count(),
-                  cut ? interrupted : feed.count().failures.empty() ? status::done : status::refused);
+                  cut                             ? interrupted
+                  : feed.count().failures.empty() ? status::done
+                                                  : status::refused);
 }
 
 } // namespace
 
 void addArchiveAdd(CLI::App& archive, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(archive, shared, "add", "keep data files, and those of whole folders, with their notes",
-                                   [options](Context& context) { return add(context, *options); });
+    CLI::App& command =
+        addCommand(archive, shared, "add", "keep data files, and those of whole folders, with their notes",
+                   [options](Context& context) { return add(context, *options); });
     options->paths = command.add_option("PATH", "data files and folders");
     options->paths->required()->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false);
     command.add_flag("--watch", options->watch, "go on with what comes into the folders, until Ctrl+C");

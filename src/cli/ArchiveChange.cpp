@@ -41,8 +41,9 @@ int remove(Context& context, const RemoveOptions& options) {
     const auto store = openStore(context);
     const archive::Entry entry = entryNamed(*store, options.name);
     if (!options.yes)
-        throw Refused("Removing " + lineOf(entry) +
-                      "\nThe archive then no longer has this recording. Say --yes to do it; nothing was removed.");
+        throw Refused(
+            "Removing " + lineOf(entry) +
+            "\nThe archive then no longer has this recording. Say --yes to do it; nothing was removed.");
     store->remove(entry.id);
     if (*options.json)
         outJson(context, {{"removed", entry.name()}});

@@ -27,8 +27,8 @@ void addArchiveCopies(CLI::App& archive, Context& context); // backup, copy
 
 // A date as it was typed; nothing for none. Throws WrongUsage for what is no date.
 std::optional<int> dateOf(const std::string& typed);
-// --from and --to of a command, as they were typed. `from` and `to` throw WrongUsage for what is no date, or ends
-// that are turned round.
+// --from and --to of a command, as they were typed. `from` and `to` throw WrongUsage for what is no date, or
+// ends that are turned round.
 struct DateOptions {
     std::string fromText;
     std::string toText;

@@ -54,8 +54,8 @@ void addOne(CLI::App& archive, Context& shared, const char* name, const char* wh
 } // namespace
 
 void addArchiveCopies(CLI::App& archive, Context& shared) {
-    addOne(archive, shared, "backup", "write the whole archive into one SQLite file", "FILE", "a file that is not there yet",
-           backup);
+    addOne(archive, shared, "backup", "write the whole archive into one SQLite file", "FILE",
+           "a file that is not there yet", backup);
     addOne(archive, shared, "copy", "put every recording into another archive", "URL",
            "the other archive; it is made in an empty place", copy);
 }

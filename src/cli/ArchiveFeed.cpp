@@ -57,8 +57,8 @@ Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const archive
 } // namespace
 
 ArchiveFeed::ArchiveFeed(archive::ArchiveStore& store, const archive::ArchiveTools& tools, const Files& files,
-                         std::function<void(const FeedCount&)> progress) :
-    store_(store), tools_(tools), files_(files), progress_(std::move(progress)) {}
+                         std::function<void(const FeedCount&)> progress)
+    : store_(store), tools_(tools), files_(files), progress_(std::move(progress)) {}
 
 void ArchiveFeed::take(FoundFile&& file) {
     waiting_.push_back(std::move(file));
@@ -99,8 +99,8 @@ void ArchiveFeed::write(Made&& batch) {
         if (made)
             recordings.push_back(*std::move(made));
         else
-            fail(made.error().subject, made.error().text +
-                                           (made.error().advice.empty() ? "" : ". " + made.error().advice));
+            fail(made.error().subject,
+                 made.error().text + (made.error().advice.empty() ? "" : ". " + made.error().advice));
     }
     if (!recordings.empty())
         for (const bool isNew : store_.add(recordings))

@@ -24,8 +24,8 @@ struct FeedCount {
     std::vector<Failure> failures;
 };
 
-// Reads data files and their notes and keeps them in an archive, a batch at a time: while the store writes one, the
-// next is made beside it.
+// Reads data files and their notes and keeps them in an archive, a batch at a time: while the store writes
+// one, the next is made beside it.
 class ArchiveFeed {
 public:
     // `progress` is called after each batch that was acknowledged or failed file that was told.

@@ -11,8 +11,8 @@ namespace tally::cli {
 
 class Context;
 
-// The files of this machine, and beside them recordings of the archive under names of their own, which cannot be
-// written.
+// The files of this machine, and beside them recordings of the archive under names of their own, which cannot
+// be written.
 class ArchiveFiles : public SafeFile {
 public:
     bool exists(const std::string& path) const override;
@@ -29,8 +29,8 @@ private:
 // Whether a name on the command line means a recording of the archive: "archive:ID".
 bool isArchived(const std::string& typed);
 
-// Makes such a recording, with its notes, readable through the context's files; gives the path to read it from.
-// Throws Refused when there is none.
+// Makes such a recording, with its notes, readable through the context's files; gives the path to read it
+// from. Throws Refused when there is none.
 std::string fetchArchived(Context& context, const std::string& typed);
 
 } // namespace tally::cli

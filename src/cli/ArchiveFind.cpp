@@ -58,7 +58,8 @@ int find(Context& context, const FindOptions& options) {
 std::string pageOf(const Entry& entry, const std::vector<Entry>& origins) {
     std::string text = lineOf(entry) + "\n";
     text += std::string("Names:    ") + (entry.belonging.assigned ? "assigned" : "from the notes") + "\n";
-    text += "Readings: " + std::to_string(entry.count) + ", " + std::to_string(entry.interval) + " min interval\n";
+    text += "Readings: " + std::to_string(entry.count) + ", " + std::to_string(entry.interval) +
+            " min interval\n";
     text += "Mean:     " + figureText(archive::meanOf(entry.figures)) + " " + entry.unit + "\n";
     constexpr std::array<const char*, 4> labels = {"Location: ", "Circuit:  ", "Name:     ", "Other:    "};
     for (std::size_t at = 0; at < labels.size(); ++at)
@@ -107,8 +108,9 @@ void addArchiveFind(CLI::App& archive, Context& shared) {
     CLI::App& command = addCommand(archive, shared, "find", "recordings by words, names and dates",
                                    [options](Context& context) { return find(context, *options); });
     options->command = &command;
-    options->words = command.add_option("WORDS", "each must occur in station, circuit, serial number, notes or names "
-                                                 "of file and folder");
+    options->words =
+        command.add_option("WORDS", "each must occur in station, circuit, serial number, notes or names "
+                                    "of file and folder");
     options->words->expected(0, CLI::detail::expected_max_vector_size)->allow_extra_args(false);
     command.add_option("--serial", options->serial, "the whole serial number");
     command.add_option("--circuit", options->circuit, "the whole name of the circuit");

@@ -44,8 +44,9 @@ int get(Context& context, const Options& options) {
 
 void addArchiveGet(CLI::App& archive, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(archive, shared, "get", "give a recording back byte for byte, with its notes",
-                                   [options](Context& context) { return get(context, *options); });
+    CLI::App& command =
+        addCommand(archive, shared, "get", "give a recording back byte for byte, with its notes",
+                   [options](Context& context) { return get(context, *options); });
     command.add_option("ID", options->name, "the first digits of the recording's name")->required();
     command.add_option("-o,--output", options->output, "the data file to write")->required();
     options->json = addJson(command);

@@ -17,8 +17,10 @@ std::vector<archive::Place> partitionsOf(const Options& options, const archive::
     std::vector<archive::Place> partitions;
     for (const std::string& url : options.partitions) {
         partitions.push_back(archivePlace(url));
-        if (place.engine != archive::Engine::postgresql || partitions.back().engine != archive::Engine::postgresql)
-            throw WrongUsage("Only an archive on PostgreSQL can be split over servers, and only over PostgreSQL servers");
+        if (place.engine != archive::Engine::postgresql ||
+            partitions.back().engine != archive::Engine::postgresql)
+            throw WrongUsage(
+                "Only an archive on PostgreSQL can be split over servers, and only over PostgreSQL servers");
     }
     return partitions;
 }
@@ -46,7 +48,8 @@ void addArchiveInit(CLI::App& archive, Context& shared) {
     auto options = std::make_shared<Options>();
     CLI::App& command = addCommand(archive, shared, "init", "make an archive; nothing when there is one",
                                    [options](Context& context) { return init(context, *options); });
-    command.add_option("--partition-on", options->partitions, "PostgreSQL servers that the recordings are split over");
+    command.add_option("--partition-on", options->partitions,
+                       "PostgreSQL servers that the recordings are split over");
     options->json = addJson(command);
 }
 

@@ -18,8 +18,9 @@ struct Options {
 };
 
 const std::map<std::string, archive::Rank>& ranks() {
-    static const std::map<std::string, archive::Rank> all = {
-        {"max", archive::Rank::max}, {"mean", archive::Rank::mean}, {"load-factor", archive::Rank::loadFactor}};
+    static const std::map<std::string, archive::Rank> all = {{"max", archive::Rank::max},
+                                                             {"mean", archive::Rank::mean},
+                                                             {"load-factor", archive::Rank::loadFactor}};
     return all;
 }
 
@@ -27,7 +28,8 @@ std::size_t topOf(const std::string& typed) {
     if (typed.empty())
         return 0;
     constexpr std::size_t mostDigits = 9;
-    const bool plain = typed.size() <= mostDigits && typed.find_first_not_of("0123456789") == std::string::npos;
+    const bool plain =
+        typed.size() <= mostDigits && typed.find_first_not_of("0123456789") == std::string::npos;
     const std::size_t top = plain ? std::stoul(typed) : 0;
     if (top == 0)
         throw WrongUsage("'" + typed + "' is no number of circuits");
@@ -50,16 +52,17 @@ int peaks(Context& context, const Options& options) {
     const auto from = options.dates.from();
     const auto to = options.dates.to();
     const auto store = openStore(context);
-    const archive::Peaks found = archive::peaksOf(*store, archiveTools(), from, to, ranks().at(options.by), top);
+    const archive::Peaks found =
+        archive::peaksOf(*store, archiveTools(), from, to, ranks().at(options.by), top);
     Json list = Json::array();
     for (const archive::Peak& peak : found.peaks) {
         if (*options.json)
             list.push_back(jsonOf(peak));
         else
             context.out(peak.entry->name() + "  " + peak.entry->belonging.station + "  " +
-                        peak.entry->belonging.circuit + "  max " + figureText(peak.max) + " " + peak.entry->unit +
-                        " at " + formatTime(peak.maxAt, "%Y-%m-%d %H:%M") + "  mean " + figureText(peak.mean) +
-                        "  load factor " + figureText(peak.loadFactor, 3) + "\n");
+                        peak.entry->belonging.circuit + "  max " + figureText(peak.max) + " " +
+                        peak.entry->unit + " at " + formatTime(peak.maxAt, "%Y-%m-%d %H:%M") + "  mean " +
+                        figureText(peak.mean) + "  load factor " + figureText(peak.loadFactor, 3) + "\n");
     }
     if (*options.json)
         outJson(context, list);

@@ -18,7 +18,8 @@ constexpr const char* placeVariable = "TALLYLINE_ARCHIVE";
 } // namespace
 
 void addArchiveOption(CLI::App& command) {
-    // The option stands for the variable, so that whoever opens a recording of the archive need not know of it.
+    // The option stands for the variable, so that whoever opens a recording of the archive need not know of
+    // it.
     command.add_option_function<std::string>(
         "--db", [](const std::string& url) { qputenv(placeVariable, QByteArray::fromStdString(url)); },
         "the archive: PATH, sqlite:PATH or postgresql://USER@HOST:PORT/NAME");
@@ -62,8 +63,8 @@ Entry entryNamed(archive::ArchiveStore& store, const std::string& name) {
     if (found.empty())
         throw Refused("There is no recording " + name + " in the archive");
     if (found.size() > 1)
-        throw Refused("Several recordings begin with " + name + "; give more digits (" + found[0].name() + ", " +
-                      found[1].name() + (found.size() > 2 ? ", ..." : "") + ")");
+        throw Refused("Several recordings begin with " + name + "; give more digits (" + found[0].name() +
+                      ", " + found[1].name() + (found.size() > 2 ? ", ..." : "") + ")");
     store.addSources(found);
     return std::move(found.front());
 }

@@ -11,8 +11,8 @@
 
 namespace tally::cli {
 
-// Adds --db: which archive the call speaks of; without it the one that TALLYLINE_ARCHIVE names, else that of this
-// user.
+// Adds --db: which archive the call speaks of; without it the one that TALLYLINE_ARCHIVE names, else that of
+// this user.
 void addArchiveOption(CLI::App& command);
 
 // The archive of this call. Throws WrongUsage for what is no place.

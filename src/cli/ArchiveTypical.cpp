@@ -42,7 +42,8 @@ std::string textOf(const archive::TypicalDays& days) {
     const std::size_t slots = days.front().slots.size();
     for (std::size_t slot = 0; slot < slots; ++slot) {
         constexpr std::int64_t minutesPerDay = 1440;
-        text += formatTime({minutesPerDay / static_cast<std::int64_t>(slots) * static_cast<std::int64_t>(slot)}, "%H:%M");
+        text += formatTime(
+            {minutesPerDay / static_cast<std::int64_t>(slots) * static_cast<std::int64_t>(slot)}, "%H:%M");
         for (const archive::TypicalDay& day : days)
             text += "  " + (day.slots[slot] ? figureText(day.slots[slot]->mean) : "-");
         text += "\n";
@@ -71,8 +72,9 @@ int typical(Context& context, const Options& options) {
 
 void addArchiveTypical(CLI::App& archive, Context& shared) {
     auto options = std::make_shared<Options>();
-    CLI::App& command = addCommand(archive, shared, "typical", "the load of a circuit over the hours of a day",
-                                   [options](Context& context) { return typical(context, *options); });
+    CLI::App& command =
+        addCommand(archive, shared, "typical", "the load of a circuit over the hours of a day",
+                   [options](Context& context) { return typical(context, *options); });
     addCircuit(command, options->circuit)->required();
     options->json = addJson(command);
 }

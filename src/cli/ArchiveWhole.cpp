@@ -44,10 +44,11 @@ int verify(Context& context, bool json) {
     return verified.bad.empty() ? status::done : status::refused;
 }
 
-void addPlain(CLI::App& archive, Context& shared, const char* name, const char* what, int (*run)(Context&, bool)) {
+void addPlain(CLI::App& archive, Context& shared, const char* name, const char* what,
+              int (*run)(Context&, bool)) {
     auto json = std::make_shared<std::shared_ptr<bool>>();
-    CLI::App& command =
-        addCommand(archive, shared, name, what, [json, run](Context& context) { return run(context, **json); });
+    CLI::App& command = addCommand(archive, shared, name, what,
+                                   [json, run](Context& context) { return run(context, **json); });
     *json = addJson(command);
 }
 

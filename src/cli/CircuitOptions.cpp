@@ -20,7 +20,8 @@ archive::Selection CircuitOptions::selection() const {
 
 CLI::Option* addCircuit(CLI::App& command, CircuitOptions& options) {
     options.command = &command;
-    command.add_option("--station", options.station, "the station, where several have a circuit of this name");
+    command.add_option("--station", options.station,
+                       "the station, where several have a circuit of this name");
     return command.add_option("--circuit", options.circuit, "the whole name of the circuit");
 }
 

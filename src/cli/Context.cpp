@@ -14,9 +14,11 @@ namespace tally::cli {
 
 namespace {
 
-// Qt misses the run-time folder of a session that a script does not have, and nothing here needs one.
+// Qt misses the run-time folder of a session that a script does not have, and nothing here needs one. That a
+// server has gone is told once, in words, and not again for each of its statements.
 void passMessageOn(QtMsgType, const QMessageLogContext&, const QString& text) {
-    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")))
+    if (!text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")) &&
+        !text.startsWith(QLatin1String("Unable to free statement")))
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
@@ -149,13 +151,17 @@ void Context::warn(std::string_view text) {
 }
 
 void Context::needEventLoop() {
-    if (!application_ && shared_ == nullptr)
-        application_ = std::make_unique<QCoreApplication>(argc_, argv_);
+    if (application_ || shared_ != nullptr)
+        return;
+    qInstallMessageHandler(passMessageOn);
+    application_ = std::make_unique<QCoreApplication>(argc_, argv_);
 }
 
 void Context::needPainting() {
-    if (application_ || shared_ != nullptr)
+    if (shared_ != nullptr || qobject_cast<QApplication*>(application_.get()) != nullptr)
         return;
+    // One without painting, which a recording was fetched from the archive with, has done its work.
+    application_.reset();
     qInstallMessageHandler(passMessageOn);
     // No command needs a display, and none may open one.
     qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "export/TableCsv.h"
 
+#include "cli/ArchivePlace.h"
 #include "cli/Commands.h"
 #include "cli/Endings.h"
 #include "cli/OpenFiles.h"
@@ -113,7 +114,8 @@ void addOpendss(CLI::App& exports, Context& shared) {
     CLI::App& command = addCommand(exports, shared, "opendss", "load shapes for OpenDSS, one a file",
                                    [options](Context& context) { return exportOpendss(context, *options); });
     options->files = std::make_shared<std::vector<std::string>>();
-    command.add_option("FILE", *options->files, "data files, any number")->required();
+    command.add_option("FILE", *options->files, "data files, any number, or archive:ID")->required();
+    addArchiveOption(command);
     command.add_option("-o,--output", options->to, "the script to write, .dss; the values stand beside it")
         ->required();
 }

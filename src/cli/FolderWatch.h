@@ -10,8 +10,8 @@
 
 namespace tally::cli {
 
-// Looks again and again for data files that are new or changed below some paths. A file that is still being written
-// waits until it stands as it did a look ago.
+// Looks again and again for data files that are new or changed below some paths. A file that is still being
+// written waits until it stands as it did a look ago.
 class FolderWatch {
 public:
     // What stands there now counts as known.

@@ -28,12 +28,14 @@ struct Walk {
         names.push_back(path.filename().string());
         std::error_code error;
         std::vector<fs::directory_entry> entries;
-        for (fs::directory_iterator each(path, error); !error && each != fs::directory_iterator(); each.increment(error))
+        for (fs::directory_iterator each(path, error); !error && each != fs::directory_iterator();
+             each.increment(error))
             entries.push_back(*each);
         if (error)
             failed(path.string(), "The folder cannot be read");
-        std::sort(entries.begin(), entries.end(),
-                  [](const auto& a, const auto& b) { return a.path().filename().native() < b.path().filename().native(); });
+        std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) {
+            return a.path().filename().native() < b.path().filename().native();
+        });
         for (const fs::directory_entry& entry : entries) {
             if (stopped)
                 return;

@@ -3,8 +3,8 @@
 
 namespace tally::cli {
 
-// While it lives, Ctrl+C and a request to end let the work come to a whole end instead of killing the program. Only
-// one at a time.
+// While it lives, Ctrl+C and a request to end let the work come to a whole end instead of killing the
+// program. Only one at a time.
 class Interrupt {
 public:
     Interrupt();

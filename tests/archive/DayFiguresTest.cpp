@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "archive/Day.h"
 #include "archive/DayFigures.h"
+#include "archive/Day.h"
 
 #include <gtest/gtest.h>
 
@@ -51,7 +51,8 @@ TEST(DayFigures, TakesTheHighestFromTheMaximaAndTheMeanFromTheAverages) {
 }
 
 TEST(DayFigures, SumsOnlyTheDaysThatAreAsked) {
-    const DayFigures figures = dayFiguresOf(load({2024, 5, 1, 23, 45}, 15, std::vector<std::int16_t>(98, 10)));
+    const DayFigures figures =
+        dayFiguresOf(load({2024, 5, 1, 23, 45}, 15, std::vector<std::int16_t>(98, 10)));
     ASSERT_EQ(figures.days.size(), 3U); // one reading, 96, one
     EXPECT_EQ(figures.between(figures.firstDay + 1, figures.firstDay + 1).points, 96);
     EXPECT_EQ(figures.between(figures.firstDay - 5, figures.firstDay).points, 1);
@@ -60,7 +61,8 @@ TEST(DayFigures, SumsOnlyTheDaysThatAreAsked) {
 }
 
 TEST(DayFigures, ComesBackFromItsBytes) {
-    const DayFigures figures = dayFiguresOf(load({1999, 12, 31, 23, 50}, 1, {-5, 10, 32767, -32768, 0, 1, 2, 3, 4, 5, 6, 7}));
+    const DayFigures figures =
+        dayFiguresOf(load({1999, 12, 31, 23, 50}, 1, {-5, 10, 32767, -32768, 0, 1, 2, 3, 4, 5, 6, 7}));
     const auto back = unpackDays(packDays(figures));
     ASSERT_TRUE(back);
     EXPECT_EQ(back->firstDay, figures.firstDay);

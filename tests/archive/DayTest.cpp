@@ -18,8 +18,9 @@ TEST(Day, CountsDatesFrom1970) {
 TEST(Day, ReadsOnlyWholeDates) {
     EXPECT_EQ(parseDay("1970-01-02"), 1);
     EXPECT_EQ(parseDay("2000-02-29"), 11016); // 30 years of 365 days, 7 leap days, 31 + 28 days
-    for (const char* text : {"", "2001-02-29", "2001-2-3", "01-02-2003", "2001-13-01", "2001-00-10", "2001-01-32",
-                             "2001-01-01 ", "20010101", "2001/01/01", "abcd-ef-gh", "-001-01-01"})
+    for (const char* text :
+         {"", "2001-02-29", "2001-2-3", "01-02-2003", "2001-13-01", "2001-00-10", "2001-01-32", "2001-01-01 ",
+          "20010101", "2001/01/01", "abcd-ef-gh", "-001-01-01"})
         EXPECT_EQ(parseDay(text), std::nullopt) << text;
 }
 

@@ -33,8 +33,8 @@ TEST(Identity, FindsByAnyBeginning) {
 }
 
 TEST(Identity, TakesNothingButHexadecimalDigits) {
-    for (const std::string& digits : {std::string(), std::string("xyz"), std::string("12 "), std::string("%"),
-                                      std::string(65, 'a')})
+    for (const std::string& digits :
+         {std::string(), std::string("xyz"), std::string("12 "), std::string("%"), std::string(65, 'a')})
         EXPECT_FALSE(IdBeginning(digits).valid()) << digits;
 }
 

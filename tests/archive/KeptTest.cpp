@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "archive/Day.h"
 #include "archive/Kept.h"
+#include "archive/Day.h"
 #include "archive/PlainTools.h"
 #include "support/DataTexts.h"
 
@@ -14,7 +14,8 @@ using tally::testing::PlainTools;
 
 TEST(Kept, HoldsTheFactsOfAFile) {
     const std::string bytes = dataFile({'a', "03-15-99 10:30", 'A', "4711"}, "  12  30  20");
-    const auto kept = keptOf(bytes, "North\r\n Maple \r\nred\r\n\r\n", {"/data/n/a.dat", {"n", "a.dat"}}, PlainTools());
+    const auto kept =
+        keptOf(bytes, "North\r\n Maple \r\nred\r\n\r\n", {"/data/n/a.dat", {"n", "a.dat"}}, PlainTools());
     ASSERT_TRUE(kept);
     const Entry& entry = kept->entry;
     EXPECT_EQ(entry.serial, "4711");
@@ -71,7 +72,8 @@ TEST(Kept, HoldsNoCharacterThatEndsATextInAStore) {
 }
 
 TEST(Kept, GivesTheLoadBackFromThePackedReadings) {
-    const auto kept = keptOf(dataFile({'g'}, "  10  30  20  11  31  21   9"), std::nullopt, {"/x.dat", {}}, PlainTools());
+    const auto kept =
+        keptOf(dataFile({'g'}, "  10  30  20  11  31  21   9"), std::nullopt, {"/x.dat", {}}, PlainTools());
     ASSERT_TRUE(kept);
     const Load load = loadOf(kept->entry, kept->readings, PlainTools());
     EXPECT_EQ(load.average, (std::vector<std::int16_t>{210, 200}));

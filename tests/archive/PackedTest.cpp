@@ -23,7 +23,13 @@ TEST(Packed, PutsSmallNumbersOfEitherSignIntoOneByte) {
 }
 
 TEST(Packed, GivesBackEveryNumber) {
-    const std::vector<std::int64_t> numbers = {0, -1, 1, 127, -128, 1 << 20, std::numeric_limits<std::int64_t>::max(),
+    const std::vector<std::int64_t> numbers = {0,
+                                               -1,
+                                               1,
+                                               127,
+                                               -128,
+                                               1 << 20,
+                                               std::numeric_limits<std::int64_t>::max(),
                                                std::numeric_limits<std::int64_t>::min()};
     std::string bytes;
     for (const auto number : numbers)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The archive as a user's script works with it. The recordings are small enough to work every figure out on paper.
+// The archive as a user's script works with it. The recordings are small enough to work every figure out on
+// paper.
 #include "cli/Started.h"
 #include "support/Process.h"
 
@@ -53,7 +54,9 @@ struct ArchiveCommand : ::testing::Test {
         return json::parse(run.out, nullptr, false);
     }
     void addBoth() { EXPECT_EQ(archive({"add", folder.path("north"), folder.path("south")}).status, 0); }
-    std::string idOf(const std::string& circuit) { return document({"find", "--circuit", circuit}).at(0).at("id"); }
+    std::string idOf(const std::string& circuit) {
+        return document({"find", "--circuit", circuit}).at(0).at("id");
+    }
 };
 
 TEST_F(ArchiveCommand, AddsFoldersAndSkipsWhatIsBad) {
@@ -143,12 +146,28 @@ TEST_F(ArchiveCommand, FindsByWordsNamesAndDates) {
 
 TEST_F(ArchiveCommand, TakesWrongUsageForWhatItIs) {
     addBoth();
-    for (const std::vector<std::string>& command : std::vector<std::vector<std::string>>{
-             {}, {"nonsense"}, {"add"}, {"find", "--from", "yesterday"}, {"find", "--from", "2024-02-30"},
-             {"find", "--unit", "W"}, {"find", "--from", "2024-03-16", "--to", "2024-03-15"}, {"show"}, {"get", "12"},
-             {"peaks", "--top", "0"}, {"peaks", "--top", "x"}, {"peaks", "--by", "colour"}, {"growth"}, {"typical"},
-             {"station", "North"}, {"station", "North", "--from", "2024-03-15"}, {"assign", "12"}, {"backup"}, {"copy"},
-             {"copy", "mysql://host/load"}, {"init", "--partition-on", "postgresql://x@localhost/y"}}) {
+    for (const std::vector<std::string>& command :
+         std::vector<std::vector<std::string>>{{},
+                                               {"nonsense"},
+                                               {"add"},
+                                               {"find", "--from", "yesterday"},
+                                               {"find", "--from", "2024-02-30"},
+                                               {"find", "--unit", "W"},
+                                               {"find", "--from", "2024-03-16", "--to", "2024-03-15"},
+                                               {"show"},
+                                               {"get", "12"},
+                                               {"peaks", "--top", "0"},
+                                               {"peaks", "--top", "x"},
+                                               {"peaks", "--by", "colour"},
+                                               {"growth"},
+                                               {"typical"},
+                                               {"station", "North"},
+                                               {"station", "North", "--from", "2024-03-15"},
+                                               {"assign", "12"},
+                                               {"backup"},
+                                               {"copy"},
+                                               {"copy", "mysql://host/load"},
+                                               {"init", "--partition-on", "postgresql://x@localhost/y"}}) {
         const Finished run = archive(command);
         EXPECT_EQ(run.status, 2) << (command.empty() ? "" : command[0]) << run.err;
         EXPECT_NE(run.err.find("Usage:"), std::string::npos) << run.err;
@@ -160,7 +179,8 @@ TEST_F(ArchiveCommand, NamesARecordingByAnyUnambiguousBeginning) {
     addBoth();
     const std::string id = idOf("Maple");
     EXPECT_EQ(archive({"show", id}).status, 0);
-    for (const std::string& wrong : {std::string("zz"), std::string(16, id[0] == 'f' ? 'e' : 'f'), std::string()}) {
+    for (const std::string& wrong :
+         {std::string("zz"), std::string(16, id[0] == 'f' ? 'e' : 'f'), std::string()}) {
         const Finished run = archive({"show", wrong});
         EXPECT_EQ(run.status, 1) << wrong;
         EXPECT_NE(run.err, "");
@@ -171,8 +191,10 @@ TEST_F(ArchiveCommand, GivesBackTheFileAndItsNotes) {
     addBoth();
     folder.write("back.dat", "an older file");
     EXPECT_EQ(archive({"get", idOf("Maple"), "-o", folder.path("back.dat")}).status, 0);
-    EXPECT_EQ(TemporaryFolder::read(folder.path("back.dat")), TemporaryFolder::read(folder.path("north/maple.dat")));
-    EXPECT_EQ(TemporaryFolder::read(folder.path("back.not")), TemporaryFolder::read(folder.path("north/maple.not")));
+    EXPECT_EQ(TemporaryFolder::read(folder.path("back.dat")),
+              TemporaryFolder::read(folder.path("north/maple.dat")));
+    EXPECT_EQ(TemporaryFolder::read(folder.path("back.not")),
+              TemporaryFolder::read(folder.path("north/maple.not")));
     // Notes of the file that was there before do not stay beside a recording without notes.
     folder.write("south/plain.dat", dataText("03-17-24 09:45", " 100 200"));
     archive({"add", folder.path("south/plain.dat")});
@@ -200,7 +222,8 @@ TEST_F(ArchiveCommand, AnswersAboutLoads) {
     EXPECT_EQ(coverage["gaps"], json::array());
     EXPECT_EQ(document({"coverage", "--circuit", "elm"})["first"], nullptr);
     const json growth = document({"growth", "--circuit", "oak"});
-    EXPECT_EQ(growth, (json{{{"year", 2024}, {"peak", 200.0}, {"mean", 150.0}, {"days", 1}, {"change", nullptr}}}));
+    EXPECT_EQ(growth,
+              (json{{{"year", 2024}, {"peak", 200.0}, {"mean", 150.0}, {"days", 1}, {"change", nullptr}}}));
     const json typical = document({"typical", "--circuit", "Maple"}); // a Friday
     EXPECT_EQ(typical["weekday"]["days"], 1);
     EXPECT_EQ(typical["weekday"]["mean"].size(), 96U);
@@ -238,7 +261,8 @@ TEST_F(ArchiveCommand, BacksUpAndCopies) {
     const std::string backup = folder.path("backup.sqlite");
     EXPECT_EQ(archive({"backup", backup}).status, 0);
     EXPECT_EQ(archive({"backup", backup}).status, 1);
-    const Finished stats = runProgram("tallyline-cli", {"archive", "stats", "--json", "--db", "sqlite:" + backup});
+    const Finished stats =
+        runProgram("tallyline-cli", {"archive", "stats", "--json", "--db", "sqlite:" + backup});
     EXPECT_EQ(json::parse(stats.out, nullptr, false)["recordings"], 2);
     EXPECT_EQ(document({"copy", folder.path("copy.sqlite")})["added"], 2);
     EXPECT_EQ(archive({"copy", db}).status, 1);
@@ -265,7 +289,8 @@ TEST_F(ArchiveCommand, StandsForAFileInOtherCommands) {
 
 TEST_F(ArchiveCommand, WatchesAFolder) {
     EXPECT_EQ(archive({"init"}).status, 0);
-    testing::Started watching("tallyline-cli", {"archive", "--db", db, "add", "--watch", folder.path("north")});
+    testing::Started watching("tallyline-cli",
+                              {"archive", "--db", db, "add", "--watch", folder.path("north")});
     ASSERT_TRUE(watching.says("1 added")) << watching.said();
     folder.write("north/late.dat", dataText("03-17-24 09:45", " 100 200"));
     ASSERT_TRUE(watching.says("2 added")) << watching.said();

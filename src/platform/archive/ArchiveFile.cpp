@@ -25,8 +25,8 @@ constexpr mode_t onlyOwner = 0600;
 StoreFault cannotMake(const std::string& path, int error) {
     const bool full = error == ENOSPC || error == EDQUOT;
     const bool readOnly = error == EROFS || error == EACCES || error == EPERM;
-    const char* why = full ? "the disk is full"
-                      : readOnly ? "this user may not write there, or the medium is read-only"
+    const char* why = full              ? "the disk is full"
+                      : readOnly        ? "this user may not write there, or the medium is read-only"
                       : error == ENOENT ? "there is no such folder"
                                         : "the system reports an error";
     return {full       ? StoreTrouble::full
@@ -65,8 +65,9 @@ Connection::Mode modeFor(const std::string& path) {
 }
 
 void prepareFile(Connection& connection) {
-    // A batch costs one flush; what was acknowledged then survives a power cut as far as the disk keeps its word.
-    // A backup, or a file that was moved here, may have lost the write-ahead log that readers beside a writer need.
+    // A batch costs one flush; what was acknowledged then survives a power cut as far as the disk keeps its
+    // word. A backup, or a file that was moved here, may have lost the write-ahead log that readers beside a
+    // writer need.
     QSqlQuery& mode = connection.run("PRAGMA journal_mode");
     const bool logged = mode.next() && mode.value(0).toString() == QLatin1String("wal");
     mode.finish();

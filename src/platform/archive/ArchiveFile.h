@@ -17,8 +17,8 @@ Connection::Mode modeFor(const std::string& path);
 // What every connection to an archive file asks for.
 void prepareFile(Connection& connection);
 
-// A file that only this user may read, made unless it is there; goes again unless it is kept. Throws StoreFault when
-// it cannot be made.
+// A file that only this user may read, made unless it is there; goes again unless it is kept. Throws
+// StoreFault when it cannot be made.
 class NewFile {
 public:
     explicit NewFile(std::string path);

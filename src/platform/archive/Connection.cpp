@@ -56,12 +56,14 @@ QString uriOf(const std::string& path, bool immutable) {
 
 } // namespace
 
-Connection::Connection(archive::Place place, Mode mode) :
-    place_(std::move(place)), mode_(mode), name_(freshName()) {
-    const QString driver = place_.engine == Engine::sqlite ? QStringLiteral("QSQLITE") : QStringLiteral("QPSQL");
+Connection::Connection(archive::Place place, Mode mode)
+    : place_(std::move(place)), mode_(mode), name_(freshName()) {
+    const QString driver =
+        place_.engine == Engine::sqlite ? QStringLiteral("QSQLITE") : QStringLiteral("QPSQL");
     if (!QSqlDatabase::isDriverAvailable(driver))
-        throw StoreFault(StoreTrouble::other, "The database driver " + driver.toStdString() +
-                                                  " is not installed (Debian: libqt6sql6-sqlite, libqt6sql6-psql)");
+        throw StoreFault(StoreTrouble::other,
+                         "The database driver " + driver.toStdString() +
+                             " is not installed (Debian: libqt6sql6-sqlite, libqt6sql6-psql)");
     database_ = QSqlDatabase::addDatabase(driver, name_);
     try {
         open();
@@ -84,10 +86,10 @@ void Connection::open() {
         const bool reading = mode_ != Mode::write;
         database_.setDatabaseName(reading ? uriOf(place_.path, mode_ == Mode::immutable)
                                           : QString::fromStdString(place_.path));
-        database_.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
-                                        .arg(writerWait)
-                                        .arg(reading ? QStringLiteral(";QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI")
-                                                     : QString()));
+        database_.setConnectOptions(
+            QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1%2")
+                .arg(writerWait)
+                .arg(reading ? QStringLiteral(";QSQLITE_OPEN_READONLY;QSQLITE_OPEN_URI") : QString()));
         if (!database_.open())
             throw fault(database_.lastError());
         return;

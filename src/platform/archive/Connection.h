@@ -15,8 +15,8 @@
 
 namespace tally {
 
-// One connection to a database, for the thread that makes it. Statements are prepared once and kept. Every failure
-// is thrown as StoreFault.
+// One connection to a database, for the thread that makes it. Statements are prepared once and kept. Every
+// failure is thrown as StoreFault.
 class Connection {
 public:
     // How an SQLite file is opened.

@@ -56,7 +56,8 @@ Expected<std::unique_ptr<ArchiveStore>> openFound(std::unique_ptr<Connection> co
             return refuse("The archive is of an older version and read-only", place);
         const std::string backup = moveUp(*connection, schema, found.version);
         if (tell)
-            tell("The archive was brought to version " + std::to_string(schema.version) + "; as it was before: " + backup);
+            tell("The archive was brought to version " + std::to_string(schema.version) +
+                 "; as it was before: " + backup);
     }
     if (connection->engine() == Engine::sqlite && connection->writable())
         prepareFile(*connection);
@@ -95,7 +96,8 @@ Expected<void> initArchive(const Place& place, const std::vector<Place>& partiti
         if (found == FileFound::unreadable)
             return refuse("The archive cannot be read", place.text());
         const NewFile file(place.path);
-        Connection connection(place, found == FileFound::database ? modeFor(place.path) : Connection::Mode::write);
+        Connection connection(place,
+                              found == FileFound::database ? modeFor(place.path) : Connection::Mode::write);
         createArchive(connection, schema, tableStatements(Engine::sqlite, Keys::own));
         file.keep();
         return {};

@@ -15,7 +15,8 @@ struct PgFailure {
     QString text;
 };
 
-// Writes rows with COPY in its binary form: twice as fast as prepared inserts. Numbers go into BIGINT columns.
+// Writes rows with COPY in its binary form: twice as fast as prepared inserts. Numbers go into BIGINT
+// columns.
 std::optional<PgFailure> pgCopy(PGconn* connection, const SqlRows& rows);
 
 } // namespace tally

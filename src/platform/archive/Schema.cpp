@@ -81,8 +81,9 @@ FoundArchive lookAtServer(Connection& connection) {
     if (exists("state") && exists("recording"))
         return {Found::archive,
                 static_cast<int>(connection.number("SELECT value FROM state WHERE name = 'version'"))};
-    const bool any = connection.number("SELECT count(*) FROM pg_catalog.pg_class c JOIN pg_catalog.pg_namespace n "
-                                       "ON n.oid = c.relnamespace WHERE n.nspname = 'tallyline'") > 0;
+    const bool any =
+        connection.number("SELECT count(*) FROM pg_catalog.pg_class c JOIN pg_catalog.pg_namespace n "
+                          "ON n.oid = c.relnamespace WHERE n.nspname = 'tallyline'") > 0;
     return {any ? Found::foreign : Found::nothing, 0};
 }
 

@@ -8,7 +8,8 @@
 
 namespace tally {
 
-// The tables of the archive and how they came to be. Version n is reached from n - 1 by the statements of step n.
+// The tables of the archive and how they came to be. Version n is reached from n - 1 by the statements of
+// step n.
 struct Schema {
     int version = 1;
     std::vector<std::vector<std::string>> steps; // from version 1 on: steps[0] leads to version 2
@@ -16,8 +17,8 @@ struct Schema {
     static const Schema& current();
 };
 
-// The tables and indexes of recordings. split: only the heads of tables that are split by the recording over other
-// servers; a head has no keys of its own.
+// The tables and indexes of recordings. split: only the heads of tables that are split by the recording over
+// other servers; a head has no keys of its own.
 enum class Keys { own, split };
 std::vector<std::string> tableStatements(archive::Engine engine, Keys keys);
 // What a database turns out to be.
@@ -32,8 +33,8 @@ FoundArchive lookAt(Connection& connection);
 // already. Throws StoreFault for a foreign database.
 void createArchive(Connection& connection, const Schema& schema, const std::vector<std::string>& tables);
 
-// Brings an older archive to the version of the schema: a backup, then all steps in one transaction. Gives where
-// the backup stands.
+// Brings an older archive to the version of the schema: a backup, then all steps in one transaction. Gives
+// where the backup stands.
 std::string moveUp(Connection& connection, const Schema& schema, int from);
 
 } // namespace tally

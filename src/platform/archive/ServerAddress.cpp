@@ -38,7 +38,8 @@ std::vector<std::string> lookUp(const std::string& host) {
         return addresses;
     for (const addrinfo* one = list; one != nullptr; one = one->ai_next) {
         std::array<char, NI_MAXHOST> text = {};
-        if (getnameinfo(one->ai_addr, one->ai_addrlen, text.data(), text.size(), nullptr, 0, NI_NUMERICHOST) == 0)
+        if (getnameinfo(one->ai_addr, one->ai_addrlen, text.data(), text.size(), nullptr, 0,
+                        NI_NUMERICHOST) == 0)
             addresses.emplace_back(text.data());
     }
     freeaddrinfo(list);

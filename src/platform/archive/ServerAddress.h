@@ -7,8 +7,8 @@
 
 namespace tally {
 
-// Opens a connection to a PostgreSQL server whose host, port and database are set. Throws StoreFault within 5 s,
-// whatever the name service or the network do.
+// Opens a connection to a PostgreSQL server whose host, port and database are set. Throws StoreFault within 5
+// s, whatever the name service or the network do.
 void openServer(QSqlDatabase& database, const archive::Place& place);
 
 } // namespace tally

@@ -25,8 +25,8 @@ std::string bytesAt(const QSqlQuery& query, int column) {
 
 } // namespace
 
-SqlArchive::SqlArchive(std::unique_ptr<Connection> connection, const archive::ArchiveTools& tools) :
-    connection_(std::move(connection)), tools_(tools) {}
+SqlArchive::SqlArchive(std::unique_ptr<Connection> connection, const archive::ArchiveTools& tools)
+    : connection_(std::move(connection)), tools_(tools) {}
 
 std::vector<Entry> SqlArchive::find(const Selection& selection) {
     const Where where = whereOf(selection, connection_->engine(), tools_);
@@ -99,8 +99,9 @@ archive::Stats SqlArchive::stats() {
         stats.days = archive::DaySpan{whole.value(3).toInt(), whole.value(4).toInt()};
     }
     whole.finish();
-    stats.circuits = connection_->number("SELECT count(*) FROM (SELECT DISTINCT station_key, circuit_key FROM "
-                                         "recording WHERE circuit_key <> '') AS circuits");
+    stats.circuits =
+        connection_->number("SELECT count(*) FROM (SELECT DISTINCT station_key, circuit_key FROM "
+                            "recording WHERE circuit_key <> '') AS circuits");
     stats.stations =
         connection_->number("SELECT count(DISTINCT station_key) FROM recording WHERE station_key <> ''");
     return stats;

@@ -35,8 +35,8 @@ private:
     void requireWriting() const;
     void rewriteWords(archive::Id id);
     std::optional<archive::Entry> entry(archive::Id id);
-    void receiveBlobs(const std::string& table, const std::string& column, const std::vector<archive::Id>& ids,
-                      const Receive& receive);
+    void receiveBlobs(const std::string& table, const std::string& column,
+                      const std::vector<archive::Id>& ids, const Receive& receive);
 
     std::unique_ptr<Connection> connection_;
     const archive::ArchiveTools& tools_;

@@ -40,7 +40,8 @@ struct SqlArchive::Known {
 
 void SqlArchive::requireWriting() const {
     if (!connection_->writable())
-        throw StoreFault(StoreTrouble::readOnly, "The archive is read-only (" + connection_->place().text() + ")");
+        throw StoreFault(StoreTrouble::readOnly,
+                         "The archive is read-only (" + connection_->place().text() + ")");
 }
 
 std::vector<bool> SqlArchive::add(const std::vector<Kept>& recordings) {
@@ -71,11 +72,11 @@ std::map<Id, SqlArchive::Known> SqlArchive::known(const std::vector<Kept>& recor
         ids.push_back(kept.entry.id);
     std::map<Id, Known> found;
     inPortions(ids, [&](const std::string& list, const SqlRow& values) {
-        QSqlQuery& query = connection_->run("SELECT id, sha, noted FROM recording WHERE id IN " + list, values);
+        QSqlQuery& query =
+            connection_->run("SELECT id, sha, noted FROM recording WHERE id IN " + list, values);
         while (query.next())
-            found[query.value(0).toLongLong()] = {query.value(1).toByteArray().toStdString(),
-                                                  query.value(2).toInt() != 0,
-                                                  {}};
+            found[query.value(0).toLongLong()] = {
+                query.value(1).toByteArray().toStdString(), query.value(2).toInt() != 0, {}};
         query.finish();
     });
     ids.clear();
@@ -124,7 +125,8 @@ void SqlArchive::addAgain(const Kept& again, Known& known, std::int64_t) {
     for (const archive::Source& source : entry.sources) {
         if (!known.paths.insert(source.path).second)
             continue;
-        const SqlRow row = rows::sourceRow(entry.id, static_cast<std::int64_t>(known.paths.size()) - 1, source);
+        const SqlRow row =
+            rows::sourceRow(entry.id, static_cast<std::int64_t>(known.paths.size()) - 1, source);
         connection_->run("INSERT INTO source (id, place, path, names) VALUES (?, ?, ?, ?)", row);
         changed = true;
     }
@@ -154,9 +156,10 @@ bool SqlArchive::assign(Id id, const std::string& station, const std::string& ci
     Transaction transaction(*connection_);
     if (!entry(id))
         return false;
-    connection_->run("UPDATE recording SET station = ?, station_key = ?, circuit = ?, circuit_key = ?, assigned = 1 "
-                     "WHERE id = ?",
-                     {station, rows::nameKey(station, tools_), circuit, rows::nameKey(circuit, tools_), id});
+    connection_->run(
+        "UPDATE recording SET station = ?, station_key = ?, circuit = ?, circuit_key = ?, assigned = 1 "
+        "WHERE id = ?",
+        {station, rows::nameKey(station, tools_), circuit, rows::nameKey(circuit, tools_), id});
     rewriteWords(id);
     transaction.commit();
     return true;

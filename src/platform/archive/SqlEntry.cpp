@@ -39,10 +39,11 @@ std::string joined(const Texts& texts) {
 }
 
 const std::vector<const char*> recordingColumns = {
-    "id",         "sha",         "added",    "serial",   "station",   "circuit", "assigned",  "unit",
-    "mode",       "minutes",     "starts",   "ends",     "first_day", "last_day", "readings", "lowest",
-    "size",       "points",      "total",    "highest",  "highest_at", "blocks", "block_total", "block_highest",
-    "notes",      "serial_key",  "station_key", "circuit_key", "noted"};
+    "id",        "sha",        "added",       "serial",      "station",     "circuit",
+    "assigned",  "unit",       "mode",        "minutes",     "starts",      "ends",
+    "first_day", "last_day",   "readings",    "lowest",      "size",        "points",
+    "total",     "highest",    "highest_at",  "blocks",      "block_total", "block_highest",
+    "notes",     "serial_key", "station_key", "circuit_key", "noted"};
 constexpr std::size_t readColumns = 25;
 
 SqlRow recordingRow(const Kept& kept, std::int64_t added, const archive::ArchiveTools& tools) {
@@ -132,12 +133,13 @@ Entry entryFrom(const QSqlQuery& query) {
     return entry;
 }
 
-NewRows::NewRows(const archive::ArchiveTools& tools) :
-    tools_(tools), tables_{{"recording", recordingColumns, {}},
-                           {"source", {"id", "place", "path", "names"}, {}},
-                           {"words", {"id", "text"}, {}},
-                           {"daily", {"id", "figures"}, {}},
-                           {"body", {"id", "readings", "bytes", "notes"}, {}}} {}
+NewRows::NewRows(const archive::ArchiveTools& tools)
+    : tools_(tools),
+      tables_{{"recording", recordingColumns, {}},
+              {"source", {"id", "place", "path", "names"}, {}},
+              {"words", {"id", "text"}, {}},
+              {"daily", {"id", "figures"}, {}},
+              {"body", {"id", "readings", "bytes", "notes"}, {}}} {}
 
 void NewRows::add(const Kept& kept, std::int64_t added) {
     const Entry& entry = kept.entry;

@@ -15,6 +15,7 @@ struct Where {
     SqlRow values;
 };
 
-Where whereOf(const archive::Selection& selection, archive::Engine engine, const archive::ArchiveTools& tools);
+Where whereOf(const archive::Selection& selection, archive::Engine engine,
+              const archive::ArchiveTools& tools);
 
 } // namespace tally

@@ -13,7 +13,8 @@ class Find : public OpenedArchive {};
 
 TEST_F(Find, FindsPartsOfEveryText) {
     add({.serial = "A123", .other = "near the OLD mill", .path = "/data/Folder-7/File_8.dat"});
-    for (const char* word : {"nort", "ORTH", "aple", "a12", "23", "old mill", "folder-7", "ile_8", ".dat", "7", "n"})
+    for (const char* word :
+         {"nort", "ORTH", "aple", "a12", "23", "old mill", "folder-7", "ile_8", ".dat", "7", "n"})
         EXPECT_EQ(having({word}), 1U) << word;
     for (const char* word : {"south", "A1234", "data", "northmaple", "zz"})
         EXPECT_EQ(having({word}), 0U) << word;
@@ -24,7 +25,8 @@ TEST_F(Find, FindsPartsOfEveryText) {
 
 TEST_F(Find, TakesEverySignForItself) {
     add({.serial = "1", .other = "100% of a_b \\ 'quoted' \"words\" [x] (y) * ? ! ^ $ ; -- 5"});
-    for (const char* word : {"100%", "a_b", "\\", "'quoted'", "\"words\"", "[x]", "*", "?", "!", "^", "$", "; --", "%"})
+    for (const char* word :
+         {"100%", "a_b", "\\", "'quoted'", "\"words\"", "[x]", "*", "?", "!", "^", "$", "; --", "%"})
         EXPECT_EQ(having({word}), 1U) << word;
     for (const char* word : {"1%5", "a%b", "axb", "a?b", "[y]", "_b_", "' OR 1=1", "\\\\"})
         EXPECT_EQ(having({word}), 0U) << word;
@@ -33,9 +35,9 @@ TEST_F(Find, TakesEverySignForItself) {
 TEST_F(Find, TakesUpperAndLowerCaseAlikeInEveryLanguage) {
     // Notes are Windows-1252.
     add({.station = "\xC4rger", .circuit = "\xC9tang"});
-    EXPECT_EQ(having({"\xC3\xA4RGER"}), 1U);        // äRGER
-    EXPECT_EQ(having({"\xC3\xA9tang"}), 1U);        // étang
-    EXPECT_EQ(having({"E\xCC\x81tang"}), 1U);       // E with an accent of its own
+    EXPECT_EQ(having({"\xC3\xA4RGER"}), 1U);  // äRGER
+    EXPECT_EQ(having({"\xC3\xA9tang"}), 1U);  // étang
+    EXPECT_EQ(having({"E\xCC\x81tang"}), 1U); // E with an accent of its own
     EXPECT_EQ(having({"etang"}), 0U);
 }
 

@@ -59,7 +59,8 @@ TEST_F(OpenArchive, MovesAnOlderVersionUpAfterABackup) {
     add({});
     store.reset();
     std::string told;
-    auto opened = openArchive(place, tools(), [&](const std::string& text) { told = text; }, later());
+    auto opened = openArchive(
+        place, tools(), [&](const std::string& text) { told = text; }, later());
     ASSERT_TRUE(opened) << opened.error().message();
     EXPECT_EQ((*opened)->stats().recordings, 1);
     opened->reset();
@@ -95,7 +96,8 @@ TEST_F(OpenArchive, WritesABackupThatIsAnArchive) {
     store->assign(find().at(0).id, "South", "Elm");
     const std::string path = folder.path("backup.sqlite");
     store->backup(path);
-    EXPECT_EQ(QFileInfo(QString::fromStdString(path)).permissions() & (QFile::ReadGroup | QFile::ReadOther), 0);
+    EXPECT_EQ(QFileInfo(QString::fromStdString(path)).permissions() & (QFile::ReadGroup | QFile::ReadOther),
+              0);
     EXPECT_THROW(store->backup(path), StoreFault);
     Place copy;
     copy.path = path;

@@ -53,7 +53,9 @@ protected:
 
     // Adds one recording; whether it was new.
     bool add(const Sample& sample) { return store->add({keptOf(sample)}).at(0); }
-    std::vector<archive::Entry> find(const archive::Selection& selection = {}) { return store->find(selection); }
+    std::vector<archive::Entry> find(const archive::Selection& selection = {}) {
+        return store->find(selection);
+    }
     // How many recordings have all these words.
     std::size_t having(std::vector<std::string> words) {
         archive::Selection selection;

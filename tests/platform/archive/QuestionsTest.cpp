@@ -57,8 +57,8 @@ TEST_F(Questions, RanksCircuitsByTheirPeak) {
 }
 
 TEST_F(Questions, RanksByMeanAndLoadFactorToo) {
-    add({.values = {10, 50, 30}, .serial = "1", .circuit = "Maple"});      // mean 30, load factor 0.6
-    add({.values = {60, 0, 0}, .serial = "2", .circuit = "Oak"});          // mean 20, load factor 1/3
+    add({.values = {10, 50, 30}, .serial = "1", .circuit = "Maple"}); // mean 30, load factor 0.6
+    add({.values = {60, 0, 0}, .serial = "2", .circuit = "Oak"});     // mean 20, load factor 1/3
     add({.values = {300, 300, 300}, .type = 'V', .serial = "3", .circuit = "Bus"}); // no load factor
     EXPECT_EQ(peaks("", "", Rank::mean).peaks.at(1).entry->belonging.circuit, "Maple");
     const Peaks byFactor = peaks("", "", Rank::loadFactor);
@@ -69,8 +69,8 @@ TEST_F(Questions, RanksByMeanAndLoadFactorToo) {
 
 TEST_F(Questions, LooksOnlyAtTheReadingsOfTheDates) {
     std::vector<int> values = constant(96, 10);
-    values[95] = 90;                                      // 2020-01-06 23:45
-    values.insert(values.end(), {40, 20});                // 2020-01-07 00:00 and 00:15
+    values[95] = 90;                       // 2020-01-06 23:45
+    values.insert(values.end(), {40, 20}); // 2020-01-07 00:00 and 00:15
     add({.values = values});
     const Peaks found = peaks("2020-01-07", "2020-01-07");
     ASSERT_EQ(found.peaks.size(), 1U);
@@ -81,8 +81,8 @@ TEST_F(Questions, LooksOnlyAtTheReadingsOfTheDates) {
 }
 
 TEST_F(Questions, CountsAReadingOnceWhereRecordingsOverlap) {
-    add({.values = {10, 20, 30}, .serial = "1"});                                       // 00:00 to 00:30
-    add({.start = {2020, 1, 6, 0, 15}, .values = {90, 80, 40, 60}, .serial = "2"});     // 00:15 to 01:00
+    add({.values = {10, 20, 30}, .serial = "1"});                                   // 00:00 to 00:30
+    add({.start = {2020, 1, 6, 0, 15}, .values = {90, 80, 40, 60}, .serial = "2"}); // 00:15 to 01:00
     const Peaks found = peaks();
     ASSERT_EQ(found.peaks.size(), 1U);
     // 10, 20, 30 of the first, then 40 and 60 of the second.
@@ -184,8 +184,9 @@ TEST_F(Questions, NamesTheRecordingThatAnotherWasCutFrom) {
     add({.start = {2020, 1, 6, 0, 15}, .values = {20, 30}, .serial = "1"});
     add({.start = {2020, 1, 6, 0, 15}, .values = {20, 30}, .serial = "2"});
     const auto entries = find();
-    const auto cut = std::find_if(entries.begin(), entries.end(),
-                                  [](const Entry& entry) { return entry.count == 2 && entry.serial[0] == '1'; });
+    const auto cut = std::find_if(entries.begin(), entries.end(), [](const Entry& entry) {
+        return entry.count == 2 && entry.serial[0] == '1';
+    });
     const auto origins = originsOf(*store, *cut);
     ASSERT_EQ(origins.size(), 1U);
     EXPECT_EQ(origins[0].count, 4);

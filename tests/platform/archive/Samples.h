@@ -19,7 +19,7 @@ inline const QtArchiveTools& tools() {
 
 // A recording as a test wants it.
 struct Sample {
-    CivilTime start = {2020, 1, 6, 0, 0}; // a Monday
+    CivilTime start = {2020, 1, 6, 0, 0};   // a Monday
     std::vector<int> values = {10, 20, 30}; // whole units, oldest first
     char mode = 'a';
     char type = 'A';
@@ -39,7 +39,8 @@ inline std::string bytesOf(const Sample& sample) {
     std::vector<std::string> newestFirst;
     std::transform(sample.values.rbegin(), sample.values.rend(), std::back_inserter(newestFirst),
                    [](int value) { return std::to_string(value); });
-    return dataFile({sample.mode, headerTime(header), sample.type, sample.serial}, fieldLines(newestFirst, 4));
+    return dataFile({sample.mode, headerTime(header), sample.type, sample.serial},
+                    fieldLines(newestFirst, 4));
 }
 
 inline std::string notesOf(const Sample& sample) {
@@ -49,10 +50,12 @@ inline std::string notesOf(const Sample& sample) {
 inline archive::Kept keptOf(const Sample& sample) {
     const std::string path = sample.path.empty() ? "/data/" + sample.serial + ".dat" : sample.path;
     const auto slash = path.rfind('/');
-    const archive::Source source{path, {path.substr(path.rfind('/', slash - 1) + 1, slash - path.rfind('/', slash - 1) - 1),
-                                        path.substr(slash + 1)}};
-    auto kept = archive::keptOf(bytesOf(sample),
-                                sample.noted ? std::optional(notesOf(sample)) : std::nullopt, source, tools());
+    const archive::Source source{
+        path,
+        {path.substr(path.rfind('/', slash - 1) + 1, slash - path.rfind('/', slash - 1) - 1),
+         path.substr(slash + 1)}};
+    auto kept = archive::keptOf(bytesOf(sample), sample.noted ? std::optional(notesOf(sample)) : std::nullopt,
+                                source, tools());
     return kept.value();
 }
 

@@ -94,7 +94,8 @@ TEST_F(Server, SaysThatAPasswordIsWrongOrMissing) {
 }
 
 TEST_F(Server, SaysThatThereIsNoDatabase) {
-    const std::string why = refusalOf("postgresql://tally@127.0.0.1:" + std::to_string(place.port) + "/nothing_here");
+    const std::string why =
+        refusalOf("postgresql://tally@127.0.0.1:" + std::to_string(place.port) + "/nothing_here");
     EXPECT_NE(why.find("no such database"), std::string::npos) << why;
 }
 

@@ -28,16 +28,24 @@ TEST_F(Store, KeepsARecordingOnceAndItsSourcesTwice) {
 }
 
 TEST_F(Store, KeepsOneOfTwoEqualRecordingsInABatch) {
-    const auto isNew = store->add({keptOf({.path = "/d/a.dat"}), keptOf({.path = "/d/b.dat"}), keptOf({.serial = "9"})});
+    const auto isNew =
+        store->add({keptOf({.path = "/d/a.dat"}), keptOf({.path = "/d/b.dat"}), keptOf({.serial = "9"})});
     EXPECT_EQ(isNew, (std::vector<bool>{true, false, true}));
     EXPECT_EQ(store->stats().recordings, 2);
 }
 
 TEST_F(Store, GivesBackEveryFact) {
-    add({.start = {2021, 3, 1, 10, 0}, .values = {10, 40, 30}, .type = 'V', .serial = "AB 1", .other = "50% \"x\" 'y' \\ _"});
+    add({.start = {2021, 3, 1, 10, 0},
+         .values = {10, 40, 30},
+         .type = 'V',
+         .serial = "AB 1",
+         .other = "50% \"x\" 'y' \\ _"});
     const Entry entry = find().at(0);
-    const Kept kept = keptOf(
-        {.start = {2021, 3, 1, 10, 0}, .values = {10, 40, 30}, .type = 'V', .serial = "AB 1", .other = "50% \"x\" 'y' \\ _"});
+    const Kept kept = keptOf({.start = {2021, 3, 1, 10, 0},
+                              .values = {10, 40, 30},
+                              .type = 'V',
+                              .serial = "AB 1",
+                              .other = "50% \"x\" 'y' \\ _"});
     EXPECT_EQ(entry.id, kept.entry.id);
     EXPECT_EQ(entry.sha, kept.entry.sha);
     EXPECT_EQ(entry.serial, "AB 1");
@@ -134,7 +142,8 @@ TEST_F(Store, TellsABadRecording) {
     Connection connection(place, Connection::Mode::write);
     const Id id = find().at(0).id;
     const std::string table = onServer() ? "tallyline.body" : "body";
-    connection.run("UPDATE " + table + " SET bytes = ? WHERE id = ?", {Blob{tools().squeeze("other bytes")}, id});
+    connection.run("UPDATE " + table + " SET bytes = ? WHERE id = ?",
+                   {Blob{tools().squeeze("other bytes")}, id});
     const Verified verified = verifyArchive(*store, tools());
     EXPECT_EQ(verified.checked, 2);
     ASSERT_EQ(verified.bad.size(), 1U);
@@ -145,7 +154,8 @@ TEST_F(Store, TellsABadRecording) {
 TEST_F(Store, TellsABadFigure) {
     add({});
     Connection connection(place, Connection::Mode::write);
-    connection.run(std::string("UPDATE ") + (onServer() ? "tallyline." : "") + "recording SET highest = highest + ?",
+    connection.run(std::string("UPDATE ") + (onServer() ? "tallyline." : "") +
+                       "recording SET highest = highest + ?",
                    {std::int64_t{1}});
     EXPECT_EQ(verifyArchive(*store, tools()).bad.size(), 1U);
 }
