@@ -27,7 +27,7 @@ macro(tally_room_library)
     add_library(${library} STATIC ${sources})
     target_include_directories(${library} PUBLIC ${CMAKE_SOURCE_DIR}/src)
     tally_seen(${room} seen)
-    target_link_libraries(${library} PUBLIC ${seen})
+    target_link_libraries(${library} PRIVATE tally_watched PUBLIC ${seen})
 endmacro()
 
 # tally_room([LIBRARY...]): a logic room, plain C++ on the standard library and what is named.

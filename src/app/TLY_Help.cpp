@@ -7,16 +7,26 @@
 #include "app/forms/Words.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QHash>
 #include <QMainWindow>
 #include <QMenuBar>
 
 namespace tally {
 
+namespace {
+
+// Beside the program where it was built, in the shared data where it was installed.
+QString helpFile() {
+    const QString program = QCoreApplication::applicationDirPath();
+    const QString installed = program + QStringLiteral("/../share/tallyline/tallyhelp.hlp");
+    return QFileInfo::exists(installed) ? installed : program + QStringLiteral("/tallyhelp.hlp");
+}
+
+} // namespace
+
 TLY_Help::TLY_Help(const Services& services, QMainWindow& window)
-    : services_(services),
-      window_(window),
-      helpFile_(QCoreApplication::applicationDirPath() + QStringLiteral("/tallyhelp.hlp")) {
+    : services_(services), window_(window), helpFile_(helpFile()) {
     new MenuHelp(
         *window.menuBar(), [this](const QString& menu) { showMenu(menu); }, &window);
 }

@@ -30,6 +30,7 @@ const std::vector<AddCommand>& allCommands() {
         addInit,
         addJournal,
         addArchive,
+        addCompletion,
         // clang-format on
     };
     return all;

@@ -31,5 +31,6 @@ void addRecover(CLI::App& program, Context& context);
 void addInit(CLI::App& program, Context& context);
 void addJournal(CLI::App& program, Context& context);
 void addArchive(CLI::App& program, Context& context);
+void addCompletion(CLI::App& program, Context& context);
 
 } // namespace tally::cli
