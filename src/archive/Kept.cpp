@@ -65,15 +65,14 @@ Belonging belongingOf(const Notes& notes) {
 Expected<Kept> keptOf(const std::string& bytes, const std::optional<std::string>& notesFile, Source source,
                       const ArchiveTools& tools) {
     const auto text = readDataText(bytes);
-    const auto* recording = std::get_if<Recording>(&text);
-    if (recording == nullptr)
-        return refuse(std::string(openMessage(OpenOutcome::badFile)), source.path);
-    const Load load = loadOf(recording->facts, recording->readings);
+    if (!text)
+        return refuse(badFileText, source.path);
+    const Load load = loadOf(text->facts, text->readings);
     if (load.points() == 0)
-        return refuse(std::string(openMessage(OpenOutcome::badFile)), source.path,
+        return refuse(badFileText, source.path,
                       "It holds no whole interval.");
     Kept kept;
-    kept.entry = entryOf(recording->facts, load);
+    kept.entry = entryOf(text->facts, load);
     kept.entry.sha = tools.sha256(bytes);
     kept.entry.id = idOf(kept.entry.sha);
     kept.entry.size = static_cast<std::int64_t>(bytes.size());
@@ -83,7 +82,7 @@ Expected<Kept> keptOf(const std::string& bytes, const std::optional<std::string>
     kept.days = dayFiguresOf(load);
     kept.entry.figures = kept.days.whole();
     const auto stride = static_cast<std::size_t>(valuesPerInterval(kept.entry.mode));
-    kept.readings = tools.squeeze(packReadings(recording->readings, stride));
+    kept.readings = tools.squeeze(packReadings(text->readings, stride));
     kept.bytes = tools.squeeze(bytes);
     kept.notesFile = notesFile;
     return kept;

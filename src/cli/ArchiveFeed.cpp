@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/ArchiveFeed.h"
 
+#include "core/DataFile.h"
 #include "core/DataText.h"
 #include "core/Fault.h"
 #include "core/Fileopen.h"
@@ -45,9 +46,9 @@ archive::Source sourceOf(const FoundFile& file) {
 
 Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const archive::ArchiveTools& tools) {
     try {
-        const std::string bytes = files.read(file.path, mostDataBytes + 1);
-        if (bytes.size() > mostDataBytes)
-            return refuse(std::string(openMessage(OpenOutcome::badFile)), file.path, "It is too long.");
+        const std::string bytes = files.read(file.path, maximumDataBytes + 1);
+        if (bytes.size() > maximumDataBytes)
+            return refuse(badFileText, file.path, "It is too long.");
         return archive::keptOf(bytes, notesBeside(files, file.path), sourceOf(file), tools);
     } catch (const Fault& fault) {
         return refuse(fault.what(), file.path);

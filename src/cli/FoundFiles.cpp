@@ -59,13 +59,13 @@ void eachFile(const std::string& path, const std::function<bool(FoundFile&&)>& r
         full = full.parent_path();
     Walk walk{receive, failed};
     if (path.empty() || error || !fs::exists(full, error))
-        failed(path, std::string(openMessage(OpenOutcome::notFound)));
+        failed(path, fileNotFoundText);
     else if (fs::is_directory(full, error))
         walk.folder(full, {});
     else if (fs::is_regular_file(full, error))
         walk.file(full, {full.parent_path().filename().string()});
     else
-        failed(path, std::string(openMessage(OpenOutcome::badFile)));
+        failed(path, badFileText);
 }
 
 } // namespace tally::cli

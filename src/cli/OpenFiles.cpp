@@ -105,9 +105,9 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
 std::optional<IndexRange> indexRange(const RangeOptions& range, int count) {
     if (!range.given())
         return std::nullopt;
-    const bool both = !range.from.empty() && !range.to.empty();
+    const bool both = range.from && range.to;
     if (both && indexOf(range.from, 0) > indexOf(range.to, 0))
-        throw WrongUsage("The range " + range.from + " to " + range.to + " is turned round");
+        throw WrongUsage("The range " + *range.from + " to " + *range.to + " is turned round");
     const IndexRange given = {indexOf(range.from, 0), indexOf(range.to, count - 1)};
     if (given.first < 0 || given.last < given.first || given.last >= count)
         throw outsideFile(given, count);

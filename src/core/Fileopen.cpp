@@ -14,8 +14,6 @@ namespace {
 
 constexpr const char* modeMixingText = "Mode mixing not allowed";
 constexpr const char* notVoltageText = "Not Voltage file";
-constexpr const char* notFoundText = "File not found";
-constexpr const char* badFileText = "Error in processing file";
 constexpr const char* slotsFullText = "Three files are open already. Use Close first.";
 
 using Opened = tl::expected<int, OpenRefusal>;
@@ -76,7 +74,7 @@ Opened readInto(Recordings& recordings, const Files& files, const std::string& p
 tl::unexpected<OpenRefusal> unread(const Fault& fault, const std::string& path) {
     const auto is = [&](const Fault& other) { return fault.number() == other.number(); };
     if (is(fault::fileNotFound()) || is(fault::pathNotFound()))
-        return refuse(OpenProblem::notFound, notFoundText, path, faultAdvice(fault::fileNotFound()));
+        return refuse(OpenProblem::notFound, fileNotFoundText, path, faultAdvice(fault::fileNotFound()));
     const bool there = is(fault::permissionDenied()) || is(fault::pathFileAccess()) || is(fault::deviceIo());
     return refuse(there ? OpenProblem::cannotRead : OpenProblem::badFile, badFileText, path,
                   there ? faultAdvice(fault) : fault.what());

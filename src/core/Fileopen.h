@@ -14,6 +14,9 @@ namespace tally {
 // recording.
 enum class OpenProblem { modeMixing, notVoltage, notFound, cannotRead, badFile, slotsFull };
 
+inline constexpr const char* fileNotFoundText = "File not found";
+inline constexpr const char* badFileText = "Error in processing file";
+
 // Why a file was not opened, and what the message box says about it.
 struct OpenRefusal : Refusal {
     OpenProblem why = OpenProblem::badFile;

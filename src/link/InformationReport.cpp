@@ -44,7 +44,7 @@ std::string spanText(std::int64_t minutes) {
 // How much of it there is, so that a recording that was cut short is seen.
 std::string sizeLines(std::string_view gText, char letter, const ReportFacts& facts) {
     const auto read = readDataText(gText);
-    const auto* recording = std::get_if<Recording>(&read);
+    const Recording* recording = read ? &*read : nullptr;
     std::string lines;
     if (recording != nullptr) {
         const int count = recording->facts.count;

@@ -58,9 +58,9 @@ std::string savedText(std::string_view gText, const std::string& path) {
     const std::string serial = toUtf8(headerField(header, column::serial));
     std::string text = "Saved in " + path + (serial.empty() ? "" : ": instrument " + serial);
     const auto read = readDataText(gText);
-    if (const auto* recording = std::get_if<Recording>(&read))
-        text += ", " + std::to_string(recording->facts.count) +
-                (recording->facts.count == 1 ? " reading" : " readings");
+    if (read)
+        text += ", " + std::to_string(read->facts.count) +
+                (read->facts.count == 1 ? " reading" : " readings");
     return text + ".";
 }
 
