@@ -4,7 +4,7 @@
 #include "cli/ArchiveFeed.h"
 #include "cli/ArchivePlace.h"
 #include "cli/FolderWatch.h"
-#include "cli/Interrupt.h"
+#include "cli/batch/Interrupt.h"
 
 namespace tally::cli {
 
@@ -48,13 +48,13 @@ private:
     std::int64_t done_ = 0;
 };
 
-void addAll(ArchiveFeed& feed, const std::vector<std::string>& paths, const Interrupt& interrupt) {
+void addAll(ArchiveFeed& feed, const std::vector<std::string>& paths) {
     for (const std::string& path : paths)
         eachFile(
             path,
             [&](FoundFile&& file) {
                 feed.take(std::move(file));
-                return !interrupt.asked();
+                return !Interrupt::happened();
             },
             [&](const std::string& failed, const std::string& reason) { feed.fail(failed, reason); });
     feed.finish();
@@ -89,7 +89,7 @@ int add(Context& context, const Options& options) {
         std::optional<FolderWatch> folders;
         if (options.watch)
             folders.emplace(paths);
-        addAll(feed, paths, interrupt);
+        addAll(feed, paths);
         if (folders)
             watch(feed, *folders, interrupt);
     } catch (const archive::StoreFault& fault) {
@@ -98,7 +98,7 @@ int add(Context& context, const Options& options) {
         return finish(context, options, feed.count(), status::refused);
     }
     progress(feed.count());
-    const bool cut = interrupt.asked() && !options.watch;
+    const bool cut = Interrupt::happened() && !options.watch;
     return finish(context, options, feed.count(),
                   cut                             ? interrupted
                   : feed.count().failures.empty() ? status::done

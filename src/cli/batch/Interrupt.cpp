@@ -2,6 +2,7 @@
 #include "cli/batch/Interrupt.h"
 
 #include <csignal>
+#include <ctime>
 
 namespace tally::cli {
 
@@ -41,6 +42,14 @@ Interrupt::~Interrupt() {
 
 bool Interrupt::happened() {
     return noted != 0;
+}
+
+bool Interrupt::pause() const {
+    const timespec second = {1, 0};
+    // A signal ends the sleep early.
+    if (!happened())
+        nanosleep(&second, nullptr);
+    return !happened();
 }
 
 } // namespace tally::cli

@@ -13,6 +13,8 @@ public:
     Interrupt& operator=(const Interrupt&) = delete;
 
     static bool happened();
+    // Sleeps for a second; false, at once, when the end was asked for.
+    bool pause() const;
 };
 
 } // namespace tally::cli
