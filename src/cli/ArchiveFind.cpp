@@ -111,7 +111,7 @@ void addArchiveFind(CLI::App& archive, Context& shared) {
     options->words =
         command.add_option("WORDS", "each must occur in station, circuit, serial number, notes or names "
                                     "of file and folder");
-    options->words->expected(0, CLI::detail::expected_max_vector_size)->allow_extra_args(false);
+    options->words->expected(0, CLI::detail::expected_max_vector_size)->allow_extra_args();
     command.add_option("--serial", options->serial, "the whole serial number");
     command.add_option("--circuit", options->circuit, "the whole name of the circuit");
     command.add_option("--station", options->station, "the whole name of the station");

@@ -42,8 +42,9 @@ struct ArchiveCommand : ::testing::Test {
     }
 
     Finished archive(std::vector<std::string> arguments, bool init = true) {
-        if (init && !std::filesystem::exists(db))
+        if (init && !std::filesystem::exists(db)) {
             EXPECT_EQ(runProgram("tallyline-cli", {"archive", "--db", db, "init"}).status, 0);
+        }
         arguments.insert(arguments.begin(), {"archive", "--db", db});
         return runProgram("tallyline-cli", arguments);
     }

@@ -56,7 +56,7 @@ TEST_F(Batch, TextHasALineWithThePathBeforeEachResult) {
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(run.err, "3 done, 0 failed\n");
     std::string expected;
-    for (const std::string path : {in + "/a.dat", in + "/b.dat", in + "/north/c.dat"})
+    for (const std::string& path : Names{in + "/a.dat", in + "/b.dat", in + "/north/c.dat"})
         expected += "== " + path + "\n" + runProgram("tallyline-cli", {"table", path, "--to", "0"}).out;
     EXPECT_EQ(run.out, expected);
 }

@@ -173,7 +173,7 @@ TEST_F(PaperPrint, ThePreviewShowsAllPages) {
         pages = shown->pageCount();
         dialog.reject();
     });
-    EXPECT_FALSE(paper.preview(testing::samplePlot(3000, 3), {}));
+    EXPECT_FALSE(paper.preview(ChartReport{testing::samplePlot(3000, 3), {}}));
     EXPECT_EQ(pages, 1);
 }
 
