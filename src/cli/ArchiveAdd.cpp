@@ -113,7 +113,7 @@ void addArchiveAdd(CLI::App& archive, Context& shared) {
         addCommand(archive, shared, "add", "keep data files, and those of whole folders, with their notes",
                    [options](Context& context) { return add(context, *options); });
     options->paths = command.add_option("PATH", "data files and folders");
-    options->paths->required()->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args(false);
+    options->paths->required()->expected(1, CLI::detail::expected_max_vector_size)->allow_extra_args();
     command.add_flag("--watch", options->watch, "go on with what comes into the folders, until Ctrl+C");
     options->json = addJson(command);
 }

@@ -65,7 +65,8 @@ JobResult BatchWorker::run(const std::string& path, const std::string& to) {
         sayPlace(result.output, context_.ownName(), to);
     if (!ended.reason.empty()) {
         result.output.clear();
-        result.told.push_back(ended.reason);
+        // The name stands before it already: the first line says what happened.
+        result.told.push_back(ended.reason.substr(0, ended.reason.find_first_of("\r\n")));
     }
     return result;
 }

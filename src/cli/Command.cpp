@@ -7,6 +7,12 @@
 
 namespace tally::cli {
 
+std::string onLines(std::string text) {
+    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;)
+        text.erase(at, 1);
+    return text;
+}
+
 Ended runAction(Context& context) {
     try {
         return {context.action(context)};
@@ -17,7 +23,7 @@ Ended runAction(Context& context) {
     } catch (const Refused& refused) {
         return {status::refused, refused.what()};
     } catch (const Fault& fault) {
-        return {status::refused, faultMessage(fault)};
+        return {status::refused, onLines(faultMessage(fault))};
     }
 }
 

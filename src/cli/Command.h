@@ -23,11 +23,14 @@ constexpr int refused = 1; // the fixed text is on standard error, nothing is ha
 constexpr int usage = 2;
 } // namespace status
 
+// What is said of a refusal in several lines, with the line ends of a terminal.
+std::string onLines(std::string text);
+
 // Refused or failed: the text of the message box, for standard error; exit status 1.
 class Refused : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
-    explicit Refused(const Refusal& refusal) : std::runtime_error(refusal.message()) {}
+    explicit Refused(const Refusal& refusal) : std::runtime_error(onLines(refusal.message())) {}
 };
 
 // Arguments that make no sense (a range outside the file, an unknown type); exit status 2.

@@ -117,7 +117,7 @@ TEST_F(WindowTest, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
     files.failRead.reset();
     files.contents["/d/1.dat"] = "rubbish";
     entry->trigger();
-    EXPECT_EQ(prompt.shown.back().text, "Error in processing file");
+    EXPECT_THAT(prompt.shown.back().text, StartsWith("Error in processing file\r\n/d/1.dat\r\n"));
     EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
 }
 

@@ -227,7 +227,8 @@ TEST_F(InstrumentTest, StatusLineSaysWhyAPortIsNotValid) {
     instrument.instSelection = 4;
     click("mnuItemDownload");
     EXPECT_THAT(prompt.texts(),
-                ElementsAre("Communication port not valid.\r\nTry selecting a different COM port"));
+                ElementsAre("Communication port not valid.\r\nTry selecting a different COM port\r\n"
+                            "COM1 (/dev/ttyS0) is in use by another program."));
     EXPECT_EQ(remark(), QStringLiteral("COM1 (/dev/ttyS0) is in use by another program."));
 }
 

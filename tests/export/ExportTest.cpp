@@ -275,7 +275,7 @@ TEST_F(TextExport, ADataFileNamedLikeItsExportIsNotReplaced) {
 TEST_F(TextExport, AVeryShortPathStillGetsItsExtension) {
     addFile(recordings, "ab", ramp(1));
     EXPECT_TRUE(write(false));
-    EXPECT_TRUE(files.contents.contains("prn"));
+    EXPECT_TRUE(files.contents.contains("ab.prn"));
 }
 
 // One line a reading, and the empty line that a short last table line ends with.

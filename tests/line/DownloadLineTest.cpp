@@ -142,7 +142,9 @@ TEST(DownloadOnTheLine, BinaryNoiseEndsWithWordsOrAQuestion) {
 TEST(DownloadOnTheLine, ABadPortIsToldBeforeAnything) {
     SessionDesk desk("/dev/no-such-device", 7);
     EXPECT_FALSE(download(desk));
-    EXPECT_EQ(desk.lastText(), "Communication port not valid.\r\nTry selecting a different COM port");
+    EXPECT_EQ(desk.lastText(),
+              "Communication port not valid.\r\nTry selecting a different COM port\r\n"
+              "COM1 (/dev/no-such-device) is not there. Check that the adapter is plugged in.");
     EXPECT_TRUE(desk.journal.list().empty());
 }
 

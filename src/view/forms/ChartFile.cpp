@@ -106,12 +106,12 @@ float single(const Json& json, const char* name) {
     return float(value);
 }
 
-// Runs in order, none touching another: each mark is drawn once, however often a file names it.
+// Runs in order, none over another: each mark is drawn once, however often a file names it.
 void mergeRuns(std::vector<std::pair<int, int>>& runs) {
     std::sort(runs.begin(), runs.end());
     std::size_t kept = 0;
     for (const auto& run : runs)
-        if (kept > 0 && run.first <= runs[kept - 1].second + 1)
+        if (kept > 0 && run.first <= runs[kept - 1].second)
             runs[kept - 1].second = std::max(runs[kept - 1].second, run.second);
         else
             runs[kept++] = run;

@@ -58,6 +58,23 @@ TEST(ChartFileTest, WhatWasSavedComesBackExactly) {
     EXPECT_EQ(result.contents->notes, notes);
 }
 
+TEST(ChartFileTest, OverlappingMarksBecomeOne) {
+    Plot plot = testing::samplePlot(100);
+    plot.series[0].forced = {{40, 60}, {3, 9}, {50, 55}, {5, 12}, {13, 20}, {60, 70}};
+    const auto result = ChartFile::read(ChartFile::write(plot, {}));
+    ASSERT_TRUE(result.contents) << result.why;
+    EXPECT_EQ(result.contents->plot.series[0].forced,
+              (std::vector<std::pair<int, int>>{{3, 12}, {13, 20}, {40, 70}}));
+}
+
+TEST(ChartFileTest, AsManyOverlappingMarksAsThereArePointsAreDrawnOnce) {
+    Plot plot = testing::samplePlot(42966);
+    plot.series[0].forced.assign(42966, {0, 42965});
+    const auto result = ChartFile::read(ChartFile::write(plot, {}));
+    ASSERT_TRUE(result.contents) << result.why;
+    EXPECT_EQ(result.contents->plot.series[0].forced, (std::vector<std::pair<int, int>>{{0, 42965}}));
+}
+
 TEST(ChartFileTest, TheLongestPlotComesBackAndFitsTheLimit) {
     Plot plot = testing::samplePlot(42966, 3);
     for (PlotSeries& series : plot.series)
