@@ -31,7 +31,7 @@ int copy(Context& context, const Options& options) {
         throw Refused("An archive cannot be copied into itself");
     const auto made = initArchive(place);
     if (!made)
-        throw Refused(onLines(made.error().message()));
+        throw Refused(onLines(made.error()));
     const auto to = openStore(context, place);
     const archive::CopyCount count = archive::copyArchive(*from, *to);
     if (*options.json)

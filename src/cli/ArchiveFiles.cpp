@@ -46,7 +46,7 @@ std::string fetchArchived(Context& context, const std::string& typed) {
     const archive::Entry entry = entryNamed(*store, typed.substr(prefix.size()));
     auto given = archive::giveBack(*store, entry, archiveTools());
     if (!given)
-        throw Refused(onLines(given.error().message()));
+        throw Refused(onLines(given.error()));
     const std::string path = std::string(prefix) + entry.name() + extension;
     context.archived().put(path, std::move(given->bytes));
     if (given->notesFile)

@@ -25,7 +25,7 @@ int get(Context& context, const Options& options) {
     const archive::Entry entry = entryNamed(*store, options.name);
     const auto given = archive::giveBack(*store, entry, archiveTools());
     if (!given)
-        throw Refused(onLines(given.error().message()));
+        throw Refused(onLines(given.error()));
     writeFile(context, options.output, given->bytes);
     // Notes of another recording must not stay beside this one.
     std::error_code ignored;

@@ -34,7 +34,7 @@ int init(Context& context, const Options& options) {
         folders::make(folders::data());
     const auto made = initArchive(place, partitions);
     if (!made)
-        throw Refused(onLines(made.error().message()));
+        throw Refused(onLines(made.error()));
     if (*options.json)
         outJson(context, {{"archive", place.text()}});
     else

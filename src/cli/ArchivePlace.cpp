@@ -28,7 +28,7 @@ void addArchiveOption(CLI::App& command) {
 Place archivePlace(const std::string& url) {
     const auto place = archive::parsePlace(url);
     if (!place)
-        throw WrongUsage(onLines(place.error().message()));
+        throw WrongUsage(onLines(place.error()));
     return *place;
 }
 
@@ -41,7 +41,7 @@ std::unique_ptr<archive::ArchiveStore> openStore(Context& context, const Place& 
     context.needEventLoop();
     auto store = openArchive(place, archiveTools(), [&](const std::string& text) { context.warn(text); });
     if (!store)
-        throw Refused(onLines(store.error().message()));
+        throw Refused(onLines(store.error()));
     return *std::move(store);
 }
 

@@ -7,10 +7,12 @@
 
 namespace tally::cli {
 
-std::string onLines(std::string text) {
-    for (std::size_t at = 0; (at = text.find("\r\n", at)) != std::string::npos;)
-        text.erase(at, 1);
-    return text;
+std::string onLines(const Refusal& refusal) {
+    std::string lines = refusal.text;
+    for (const std::string& line : {refusal.subject, refusal.advice})
+        if (!line.empty())
+            lines += "\n" + line;
+    return lines;
 }
 
 Ended runAction(Context& context) {
@@ -23,7 +25,8 @@ Ended runAction(Context& context) {
     } catch (const Refused& refused) {
         return {status::refused, refused.what()};
     } catch (const Fault& fault) {
-        return {status::refused, onLines(faultMessage(fault))};
+        return {status::refused,
+                onLines({fault.what(), fault.subject(), fault.subject().empty() ? "" : faultAdvice(fault)})};
     }
 }
 

@@ -23,14 +23,14 @@ constexpr int refused = 1; // the fixed text is on standard error, nothing is ha
 constexpr int usage = 2;
 } // namespace status
 
-// What is said of a refusal in several lines, with the line ends of a terminal.
-std::string onLines(std::string text);
+// A refusal as a terminal shows it: the fixed words as they are, the rest on lines under them.
+std::string onLines(const Refusal& refusal);
 
 // Refused or failed: the text of the message box, for standard error; exit status 1.
 class Refused : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
-    explicit Refused(const Refusal& refusal) : std::runtime_error(onLines(refusal.message())) {}
+    explicit Refused(const Refusal& refusal) : std::runtime_error(onLines(refusal)) {}
 };
 
 // Arguments that make no sense (a range outside the file, an unknown type); exit status 2.

@@ -86,7 +86,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
         // A recording knows its file by the full path, from wherever it was named.
         const std::string path = isArchived(typed) ? fetchArchived(context, typed) : absolutePath(typed);
         if (const auto slot = Fileopen(open.recordings, context.files(), path); !slot)
-            throw Refused(onLines(slot.error().message()));
+            throw Refused(onLines(slot.error()));
         warnOfFile(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;
