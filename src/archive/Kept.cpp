@@ -69,8 +69,7 @@ Expected<Kept> keptOf(const std::string& bytes, const std::optional<std::string>
         return refuse(badFileText, source.path);
     const Load load = loadOf(text->facts, text->readings);
     if (load.points() == 0)
-        return refuse(badFileText, source.path,
-                      "It holds no whole interval.");
+        return refuse(badFileText, source.path, "It holds no whole interval.");
     Kept kept;
     kept.entry = entryOf(text->facts, load);
     kept.entry.sha = tools.sha256(bytes);

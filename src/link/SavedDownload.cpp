@@ -59,8 +59,8 @@ std::string savedText(std::string_view gText, const std::string& path) {
     std::string text = "Saved in " + path + (serial.empty() ? "" : ": instrument " + serial);
     const auto read = readDataText(gText);
     if (read)
-        text += ", " + std::to_string(read->facts.count) +
-                (read->facts.count == 1 ? " reading" : " readings");
+        text +=
+            ", " + std::to_string(read->facts.count) + (read->facts.count == 1 ? " reading" : " readings");
     return text + ".";
 }
 

@@ -22,7 +22,8 @@ using testing::TemporaryFolder;
 // Columns 1-3 model, 4 mode, 8-11 serial, 31-44 time, 45-52 "   Vbatt".
 std::string dataText(const std::string& time, const std::string& readings, char mode = 'a',
                      const std::string& serial = "1234", const std::string& model = "PQX") {
-    return model + mode + "   " + serial + std::string(23 - serial.size(), ' ') + time + "   Vbatt 3E8\r" + readings + "\x1a";
+    return model + mode + "   " + serial + std::string(23 - serial.size(), ' ') + time + "   Vbatt 3E8\r" +
+           readings + "\x1a";
 }
 
 // The last reading lies one interval before the header time, and they are counted back from there.

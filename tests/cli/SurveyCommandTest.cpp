@@ -122,8 +122,9 @@ TEST_F(SurveyCommand, AVoltageFileIsNoPhase) {
         "tallyline-cli", {"survey", "--station", "n", "--feeder", ":" + red + "," + volts + "," + blue});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err, "Not a current file\r\n" + volts +
-                           "\r\nIt is a recording of voltage. Choose the recording of the phase's current.\n");
+    EXPECT_EQ(run.err,
+              "Not a current file\r\n" + volts +
+                  "\r\nIt is a recording of voltage. Choose the recording of the phase's current.\n");
 }
 
 TEST_F(SurveyCommand, WrongArgumentsAreWrongUsage) {
