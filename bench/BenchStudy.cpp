@@ -67,7 +67,7 @@ double redraw(const Desk& desk) {
 
 void pandasGoal(const std::shared_ptr<Desk>& desk) {
     const std::string script = std::string(TALLY_SOURCE_DIR) + "/bench/study_pandas.py";
-    if (std::system("python3 -c 'import pandas' 2>/dev/null") != 0) {
+    if (std::system("/usr/bin/python3 -c 'import pandas' 2>/dev/null") != 0) {
         std::puts("study_against_pandas skipped: python3-pandas is not installed");
         return;
     }
@@ -83,7 +83,7 @@ void pandasGoal(const std::shared_ptr<Desk>& desk) {
             runToEnd("tallyline-cli", arguments);
         },
         [script, files] {
-            std::string command = "python3 " + script;
+            std::string command = "/usr/bin/python3 " + script;
             for (const std::string& file : files)
                 command += " " + file;
             if (std::system((command + " > /dev/null").c_str()) != 0)

@@ -1,8 +1,8 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 # SPDX-License-Identifier: GPL-3.0-or-later
 """The figures of a load study as a script with pandas would work them out: study_pandas.py FILE FILE FILE.
 
-Reads data files of 15-minute averages with one decimal and prints the figures as JSON. The reference that the
+Reads data files of 15-minute averages and prints the figures as JSON. The reference that the
 program's own study is timed against."""
 import json
 import math
@@ -19,7 +19,8 @@ def read(path):
     with open(path, encoding="cp1252", newline="") as file:
         text = file.read()
     header, rest = re.search(r"([HPK][^\r]*)\r(.*?)\x1a", text, re.S).groups()
-    fields = [rest_line[i:i + 5] for rest_line in re.split(r"[\r\n]+", rest) for i in range(0, len(rest_line), 5)]
+    width = 5 if "." in rest else 4
+    fields = [line[i:i + width] for line in re.split(r"[\r\n]+", rest) for i in range(0, len(line), width)]
     values = [float(field) for field in fields][::-1]
     time = pd.to_datetime(header[30:44], format="%m-%d-%y %H:%M")
     start = time.ceil(f"{INTERVAL}min") - pd.Timedelta(minutes=INTERVAL * (len(values) + 1))

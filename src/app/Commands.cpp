@@ -23,9 +23,11 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       instrument(services, dispatcher, downloads, panes.menus, panes.status, &panes.window),
       options(services, dispatcher, folder, panes.folderChoice),
       survey(services, dispatcher, folder, printing, &panes.window),
+      study(services, dispatcher, views, panes.screen, panes.menus, panes.status),
       help(services, panes.window) {
     forced.saveWhole = [this](int slot) { return file.saveWhole(slot); };
     forced.changed = [this] { views.renew(); };
+    views.renewPage = [this] { study.renew(); };
 }
 
 } // namespace tally

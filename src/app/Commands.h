@@ -14,6 +14,7 @@
 #include "app/TLY_Options.h"
 #include "app/TLY_Paper.h"
 #include "app/TLY_Power.h"
+#include "app/TLY_Study.h"
 #include "app/TLY_Survey.h"
 #include "app/TLY_View.h"
 #include "app/Views.h"
@@ -57,6 +58,7 @@ struct Commands {
     TLY_Instrument instrument;
     TLY_Options options;
     TLY_Survey survey;
+    TLY_Study study;
     TLY_Help help;
 };
 

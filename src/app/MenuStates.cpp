@@ -37,6 +37,7 @@ constexpr std::array rows = {
     MenuStateRow{"mnuItemViewPwrTable",   "-- ... ... .. .+..."},
     MenuStateRow{"mnuItemPrintPwrTable",  "-. .-. ... .. .+..."},
     MenuStateRow{"mnuItemInitialize",     "+. ... ... .. ....."},
+    MenuStateRow{"mnuItemViewStudy",      "-- +.. ... .. ....."},
     MenuStateRow{"mnuItemOnepgPlot",      "+- ... ... .. ++..."},
 };
 // clang-format on

@@ -52,6 +52,8 @@ constexpr std::array tree = {
     MenuEntry{2, "mnuItemViewPwrTable", "Power Table", false, "", false, "Show the values of the power plot"},
     MenuEntry{2, "mnuItemViewpwrsummry", "Power Summary", false, "", false,
               "Show the summary of the power plot"},
+    MenuEntry{1, "mnuItemViewStudy", "Load Stud&y", false, "", line,
+              "Demand, duration, phases and capacity of the open files"},
     MenuEntry{0, "mnuZoom", "&Zoom", false, "", false, "Narrow the displayed range to the marked span"},
     MenuEntry{0, "mnuInstrument", "&Instrument", menu},
     MenuEntry{1, "mnuItemDownload", "&DownLoad", false, "", false, "Fetch the recording of an instrument"},

@@ -62,6 +62,7 @@ void Screen::makeChart() {
     chart_ = new Chart(chartPage_);
     chart_->setObjectName(QStringLiteral("ChartFX1"));
     chartBar_ = new ChartToolBar(chartPage_);
+    addStudy(chartBar_, "chartStudy");
     addPart(chartBar_, "chartShowAll");
     chartLabel_ = layOut(chartPage_, chartBar_, chart_, QStringLiteral("displayingChart"));
     addWidget(chartPage_);
@@ -83,6 +84,7 @@ void Screen::makeText() {
             text_, [this] { text_->copy(); });
     connect(addTextButton(bar, "textFind", "Find", "Search this text (Ctrl+F)"), &QAction::triggered, text_,
             [this] { text_->showFindBar(); });
+    addStudy(bar, "textStudy");
     addPart(bar, "textShowAll");
     textLabel_ = layOut(textPage_, bar, text_, QStringLiteral("displayingText"));
     addWidget(textPage_);
@@ -97,6 +99,12 @@ void Screen::addPart(QToolBar* bar, const char* name) {
     connect(all, &QAction::triggered, this, &Screen::showAllWanted);
     parts_.append(all);
     setPart(part_);
+}
+
+void Screen::addStudy(QToolBar* bar, const char* name) {
+    QAction* study =
+        addTextButton(bar, name, "Study", "Demand, duration, phases and capacity of the open files");
+    connect(study, &QAction::triggered, this, &Screen::studyWanted);
 }
 
 void Screen::setPart(const QString& part) {
@@ -118,7 +126,9 @@ QAction* Screen::addTextButton(QToolBar* bar, const char* name, const char* capt
 Screen::Page Screen::page() const {
     if (chartPage_ && currentWidget() == chartPage_)
         return Page::chart;
-    return textPage_ && currentWidget() == textPage_ ? Page::text : Page::start;
+    if (textPage_ && currentWidget() == textPage_)
+        return Page::text;
+    return currentWidget() == start_ ? Page::start : Page::other;
 }
 
 void Screen::setDisplaying(QLabel* label, const std::string& name) {
@@ -143,6 +153,14 @@ void Screen::showText(const std::string& heading, const std::string& text, const
     text_->setFocus();
 }
 
+void Screen::showPage(QWidget* page, const std::string& displaying) {
+    if (indexOf(page) < 0)
+        addWidget(page);
+    displaying_ = displaying;
+    setCurrentWidget(page);
+    page->setFocus();
+}
+
 void Screen::reset() {
     if (chart_) {
         chart_->clear();
@@ -155,6 +173,7 @@ void Screen::reset() {
     displaying_.clear();
     setPart({});
     setCurrentWidget(start_);
+    Q_EMIT wasReset();
 }
 
 } // namespace tally

@@ -30,12 +30,14 @@ public:
     ChartToolBar& chartBar();
     TextView& text();
 
-    enum class Page { start, chart, text };
+    enum class Page { start, chart, text, other };
     Page page() const;
 
     // `displaying` is the name that follows "Displaying ".
     void showPlot(const Plot& plot, bool onePage);
     void showText(const std::string& heading, const std::string& text, const std::string& displaying);
+    // Shows a page that the window brings along; the screen owns it from then on.
+    void showPage(QWidget* page, const std::string& displaying);
     // Which part of a file is shown, beside a button that shows all; empty for the whole.
     void setPart(const QString& part);
     // Takes chart and text away and shows the start page.
@@ -47,12 +49,15 @@ Q_SIGNALS:
     void printText();
     void previewText();
     void showAllWanted();
+    void studyWanted();
+    void wasReset(); // nothing is open any more
 
 private:
     void makeChart();
     void makeText();
     void setDisplaying(QLabel* label, const std::string& name);
     void addPart(QToolBar* bar, const char* name);
+    void addStudy(QToolBar* bar, const char* name);
     QAction* addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip);
 
     StartPage* start_;

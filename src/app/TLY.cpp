@@ -104,6 +104,7 @@ void TLY::connectMoreMenus() {
     on("mnuItemViewPwrTable", c.power, &TLY_Power::mnuItemViewPwrTable_Click);
     on("mnuItemViewpwrsummry", c.power, &TLY_Power::mnuItemViewpwrsummry_Click);
     on("mnuItemPF", c.power, &TLY_Power::mnuItemPF_Click);
+    on("mnuItemViewStudy", c.study, &TLY_Study::mnuItemViewStudy_Click);
     on("mnuItemDownload", c.instrument, &TLY_Instrument::mnuItemDownload_Click);
     on("mnuItemInitialize", c.instrument, &TLY_Instrument::mnuItemInitialize_Click);
     on("mnuItemRecover", c.instrument, &TLY_Instrument::mnuItemRecover_Click);
@@ -122,6 +123,7 @@ void TLY::connectTexts() {
     Commands& c = *commands_;
     connect(screen_, &Screen::printText, this, command([&c] { c.printing.printShown(); }));
     connect(screen_, &Screen::previewText, this, command([&c] { c.printing.previewShown(); }));
+    connect(screen_, &Screen::studyWanted, this, command([&c] { return c.study.mnuItemViewStudy_Click(); }));
     connect(screen_, &Screen::showAllWanted, this, command([&c] { return c.view.showAll(); }));
 }
 

@@ -166,6 +166,8 @@ Done Views::again() {
     case View::powerSummary:
         return showPowerSummary();
     case View::none:
+        renewPage();
+        break;
     case View::chartFile:
     case View::reception:
         break;

@@ -5,6 +5,7 @@
 #include "app/Services.h"
 #include "view/Power.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,9 @@ public:
     void showTogether();
     // Takes every view away.
     void reset();
+
+    // Makes a page of the window that is none of these views anew, if it is shown.
+    std::function<void()> renewPage = [] {};
 
     PowerBasis basis() const;
     // The power of the displayed range; what can be shown or written of it is enabled then.

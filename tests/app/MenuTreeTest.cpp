@@ -51,6 +51,7 @@ constexpr Entry tree[] = {
     {2, "mnuItemViewPower", "Power Plot"},
     {2, "mnuItemViewPwrTable", "Power Table"},
     {2, "mnuItemViewpwrsummry", "Power Summary"},
+    {1, "mnuItemViewStudy", "Load Stud&y"},
     {0, "mnuZoom", "&Zoom"},
     {0, "mnuInstrument", "&Instrument"},
     {1, "mnuItemDownload", "&DownLoad"},
