@@ -85,11 +85,12 @@ void putInputs(const std::string& folder) {
     fs::create_directories(folder);
     const std::string sample = ::testing::sourceDir() + "/samples/feeder-15min";
     fs::copy_file(sample + ".dat", folder + "/feeder.dat");
-    // As it comes from the line: without the quotes of a data file, with the end mark.
+    // As it comes from the line: the header, then lines of ten readings after the mark, and the end mark.
     const std::string text = TemporaryFolder::read(sample + ".dat");
-    const auto first = text.find('"') + 1;
+    const auto header = text.find('P');
     std::ofstream(folder + "/received.txt", std::ios::binary)
-        << text.substr(first, text.rfind('"') - first) << '\x1a';
+        << text.substr(header, text.find('\r', header) - header)
+        << "\rT: 109 108 107 106 105 104 103 102 101 100\n\r\x1a";
 }
 
 // The name of what a writer writes, found out by letting it write.
