@@ -17,30 +17,28 @@ std::string placeText(const archive::Entry& entry) {
 
 } // namespace
 
-std::optional<int> dateOf(const std::string& typed) {
-    if (typed.empty())
-        return std::nullopt;
-    const auto day = archive::parseDay(typed);
-    if (!day)
-        throw WrongUsage("'" + typed + "' is no date; write it as YYYY-MM-DD");
-    return day;
-}
-
 std::optional<int> DateOptions::from() const {
-    const auto from = dateOf(fromText);
-    const auto to = dateOf(toText);
-    if (from && to && *to < *from)
+    const auto from = archive::parseDay(fromText);
+    const auto until = to();
+    if (from && until && *until < *from)
         throw WrongUsage("The dates " + fromText + " to " + toText + " are turned round");
     return from;
 }
 
 std::optional<int> DateOptions::to() const {
-    return dateOf(toText);
+    return archive::parseDay(toText);
+}
+
+CLI::Option* addDate(CLI::App& command, const std::string& name, std::string& date, const std::string& what) {
+    return command.add_option(name, date, what + ", YYYY-MM-DD")->check([](const std::string& typed) {
+        return archive::parseDay(typed) ? std::string()
+                                        : "'" + typed + "' is no date; write it as YYYY-MM-DD";
+    });
 }
 
 void addDates(CLI::App& command, DateOptions& dates) {
-    command.add_option("--from", dates.fromText, "first date, YYYY-MM-DD");
-    command.add_option("--to", dates.toText, "last date, YYYY-MM-DD");
+    addDate(command, "--from", dates.fromText, "first date");
+    addDate(command, "--to", dates.toText, "last date");
 }
 
 Json figure(const std::optional<double>& value) {

@@ -25,9 +25,7 @@ void addArchiveWhole(CLI::App& archive, Context& context);  // stats, verify
 void addArchiveChange(CLI::App& archive, Context& context); // assign, remove
 void addArchiveCopies(CLI::App& archive, Context& context); // backup, copy
 
-// A date as it was typed; nothing for none. Throws WrongUsage for what is no date.
-std::optional<int> dateOf(const std::string& typed);
-// --from and --to of a command, as they were typed. `from` and `to` throw WrongUsage for what is no date, or
+// --from and --to of a command, as they were typed; nothing where they were not. `from` throws WrongUsage for
 // ends that are turned round.
 struct DateOptions {
     std::string fromText;
@@ -35,6 +33,8 @@ struct DateOptions {
     std::optional<int> from() const;
     std::optional<int> to() const;
 };
+// Adds an option that takes nothing but a date.
+CLI::Option* addDate(CLI::App& command, const std::string& name, std::string& date, const std::string& what);
 void addDates(CLI::App& command, DateOptions& dates);
 
 // A figure, or null when there is none.

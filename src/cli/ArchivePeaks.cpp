@@ -11,7 +11,7 @@ namespace tally::cli {
 namespace {
 
 struct Options {
-    std::string top;
+    std::optional<std::string> top;
     std::string by = "max";
     DateOptions dates;
     std::shared_ptr<bool> json;
@@ -25,8 +25,6 @@ const std::map<std::string, archive::Rank>& ranks() {
 }
 
 std::size_t topOf(const std::string& typed) {
-    if (typed.empty())
-        return 0;
     constexpr std::size_t mostDigits = 9;
     const bool plain =
         typed.size() <= mostDigits && typed.find_first_not_of("0123456789") == std::string::npos;
@@ -48,7 +46,7 @@ Json jsonOf(const archive::Peak& peak) {
 }
 
 int peaks(Context& context, const Options& options) {
-    const std::size_t top = topOf(options.top);
+    const std::size_t top = options.top ? topOf(*options.top) : 0;
     const auto from = options.dates.from();
     const auto to = options.dates.to();
     const auto store = openStore(context);

@@ -20,9 +20,14 @@ constexpr const char* placeVariable = "TALLYLINE_ARCHIVE";
 void addArchiveOption(CLI::App& command) {
     // The option stands for the variable, so that whoever opens a recording of the archive need not know of
     // it.
-    command.add_option_function<std::string>(
-        "--db", [](const std::string& url) { qputenv(placeVariable, QByteArray::fromStdString(url)); },
-        "the archive: PATH, sqlite:PATH or postgresql://USER@HOST:PORT/NAME");
+    command
+        .add_option_function<std::string>(
+            "--db", [](const std::string& url) { qputenv(placeVariable, QByteArray::fromStdString(url)); },
+            "the archive: PATH, sqlite:PATH or postgresql://USER@HOST:PORT/NAME")
+        ->check([](const std::string& url) {
+            const auto place = archive::parsePlace(url);
+            return place ? std::string() : place.error().message();
+        });
 }
 
 Place archivePlace(const std::string& url) {

@@ -64,8 +64,8 @@ void addArchiveStation(CLI::App& archive, Context& shared) {
     CLI::App& command = addCommand(archive, shared, "station", "the summed load of a station by day",
                                    [options](Context& context) { return station(context, *options); });
     command.add_option("STATION", options->station, "the whole name of the station")->required();
-    command.add_option("--from", options->dates.fromText, "first date, YYYY-MM-DD")->required();
-    command.add_option("--to", options->dates.toText, "last date, YYYY-MM-DD")->required();
+    addDate(command, "--from", options->dates.fromText, "first date")->required();
+    addDate(command, "--to", options->dates.toText, "last date")->required();
     options->json = addJson(command);
 }
 
