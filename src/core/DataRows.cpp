@@ -60,13 +60,14 @@ public:
         _mm_storel_epi64(reinterpret_cast<Lanes*>(last - 3), _mm_shufflelo_epi16(packed, 0x1B));
     }
 
-    // Whether all were fields, and whether one has a "0" before other digits beside one without a blank.
+    // Whether all were fields.
     bool good() const {
         const Lanes nine = _mm_set1_epi8(9);
         const Lanes others = _mm_xor_si128(_mm_max_epu8(largestDigit_, nine), nine);
         const Lanes tooLarge = _mm_cmpeq_epi16(largest_, _mm_set1_epi16(0x7FFF));
         return !anyByte(_mm_or_si128(_mm_or_si128(wrong_, others), tooLarge));
     }
+    // Whether a field has a "0" before other digits while one, anywhere in the row, has no blank.
     bool zerosMayTouch() const {
         const Lanes filled = _mm_andnot_si128(blankEverywhere_, _mm_set1_epi32(0xFF));
         return anyByte(padded_) && anyByte(filled);
@@ -102,6 +103,7 @@ bool DataRow::readHigh(const char* text, std::int16_t* last) {
     reader.read(loadFour(text), last);
     reader.read(loadFour(text + 16), last - 4);
     reader.read(loadFour(text + 24), last - 6);
+    // No save writes such zeros where fields touch: that is for the reader of items.
     return reader.good() && !reader.zerosMayTouch();
 }
 

@@ -9,6 +9,12 @@ namespace tally {
 // Full rows as the writer makes them: ten right-aligned fields of four characters ("###0") or five ("##0.0").
 // They give what reading them item by item gives, many times faster.
 struct DataRow {
+    // Whether the machine has what it takes (the vector unit of x86-64); elsewhere nothing is a row.
+#if defined(__SSE2__)
+    static constexpr bool available = true;
+#else
+    static constexpr bool available = false;
+#endif
     static constexpr int fields = 10;
     static constexpr std::size_t highLength = 40;
     static constexpr std::size_t lowLength = 50;

@@ -23,22 +23,51 @@ bool read(bool low, const std::string& row, Values& newestFirst) {
     return good;
 }
 
-TEST(DataRows, HighFieldsAreWholeUnits) {
+class DataRows : public ::testing::Test {
+protected:
+    void SetUp() override {
+        if (!DataRow::available)
+            GTEST_SKIP() << "this machine reads item by item";
+    }
+};
+
+TEST_F(DataRows, HighFieldsAreWholeUnits) {
     Values values;
     ASSERT_TRUE(read(false, "   0   7  42 123 99912341007   1  103276", values));
     EXPECT_EQ(values, (Values{0, 70, 420, 1230, 9990, 12340, 10070, 10, 100, 32760}));
 }
 
-TEST(DataRows, LowFieldsHaveOneDecimal) {
+TEST_F(DataRows, ZerosBeforeOtherDigitsAreNoHarmWhereNothingTouches) {
+    Values values;
+    ASSERT_TRUE(read(false, " 000 007 042  01 123   0   1 999 010  09", values));
+    EXPECT_EQ(values, (Values{0, 70, 420, 10, 1230, 0, 10, 9990, 100, 90}));
+    EXPECT_FALSE(read(false, " 000 007 042  01 123   0   1 99910101009", values));
+}
+
+TEST_F(DataRows, LowFieldsHaveOneDecimal) {
     Values values;
     ASSERT_TRUE(read(true, "  0.0  0.7  4.2 12.3 99.9100.1000.1  1.0 10.5999.9", values));
     EXPECT_EQ(values, (Values{0, 7, 42, 123, 999, 1001, 1, 10, 105, 9999}));
 }
 
-TEST(DataRows, ValuesBeyondTenthsAreNoRow) {
+TEST_F(DataRows, ValuesBeyondTenthsAreNoRow) {
     Values values;
     EXPECT_FALSE(read(false, "   1   1   1   1   1   1   1   1   13277", values));
     EXPECT_FALSE(read(false, "9999   1   1   1   1   1   1   1   1   1", values));
+}
+
+// Zeros before other digits in a row with a field that has no blank are left to the reader of items: no save
+// writes them where fields touch.
+bool hasZerosThatMayTouch(const std::string& highRow) {
+    bool padded = false;
+    bool filled = false;
+    for (std::size_t at = 0; at < highRow.size(); at += 4) {
+        const std::string field = highRow.substr(at, 4);
+        const std::size_t zero = field.find_first_not_of(' ');
+        padded = padded || (zero < 3 && field[zero] == '0');
+        filled = filled || field[0] != ' ';
+    }
+    return padded && filled;
 }
 
 // Every byte value in every place of a field: a row is taken only when all its fields are blanks followed by
@@ -56,14 +85,9 @@ void everyByteInEveryPlace(bool low, const std::string& row, std::size_t width) 
                                  (!low || (item.size() >= 3 && item.find('.') == item.size() - 2 &&
                                            item.rfind('.') == item.size() - 2));
             const DataNumber number = readDataNumber(item);
-            // No save writes zeros before other digits where fields touch.
-            const bool next = field + 1 < DataRow::fields && changed[(field + 1) * width] != ' ';
-            const bool padded = !low && item.size() > 1 && item[0] == '0' && (next || item.size() == width);
+            const bool padded = !low && hasZerosThatMayTouch(changed);
             Values values;
             const bool good = read(low, changed, values);
-            // A row with such zeros may also be left to the reader of single numbers.
-            if (!good && !low && item.size() > 1 && item[0] == '0')
-                continue;
             ASSERT_EQ(good, pattern && number.fits && !padded) << "byte " << byte << " at " << place;
             if (good) {
                 ASSERT_EQ(values[field], number.tenths) << changed;
@@ -71,11 +95,11 @@ void everyByteInEveryPlace(bool low, const std::string& row, std::size_t width) 
         }
 }
 
-TEST(DataRows, AnyOtherByteInAHighRowIsSeen) {
+TEST_F(DataRows, AnyOtherByteInAHighRowIsSeen) {
     everyByteInEveryPlace(false, "   0   7  42 123 99912341007   1  103276", 4);
 }
 
-TEST(DataRows, AnyOtherByteInALowRowIsSeen) {
+TEST_F(DataRows, AnyOtherByteInALowRowIsSeen) {
     everyByteInEveryPlace(true, "  0.0  0.7  4.2 12.3 99.9100.1000.1  1.0 10.5999.9", 5);
 }
 
