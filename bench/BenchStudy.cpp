@@ -36,7 +36,7 @@ struct Desk {
     Desk() {
         for (std::size_t slot = 0; slot < files.size(); ++slot) {
             bytes[slot] = contents(files[slot].path());
-            auto recording = std::get<Recording>(readDataText(bytes[slot]));
+            Recording recording = readDataText(bytes[slot]).value();
             recordings.gInfo[slot] = recording.facts;
             recordings.gInfo[slot].path = files[slot].path();
             recordings.gReadings[slot] = std::move(recording.readings);
@@ -101,7 +101,7 @@ void registerGoals() {
         [desk] {
             for (const std::string& bytes : desk->bytes) {
                 const auto read = readDataText(bytes);
-                keep(std::get<Recording>(read).readings.data());
+                keep(read.value().readings.data());
             }
         },
         25);
