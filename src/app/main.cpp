@@ -8,6 +8,7 @@
 #include "platform/FilePath.h"
 #include "platform/Folders.h"
 #include "platform/JournalFolder.h"
+#include "platform/PatientFiles.h"
 #include "platform/PortList.h"
 #include "platform/QtClock.h"
 #include "platform/QtWaiter.h"
@@ -75,14 +76,15 @@ int main(int argc, char** argv) {
     tally::Splash splash;
     if (tally::Splash::wanted())
         splash.show();
-    tally::SafeFile files;
+    tally::SafeFile disk;
+    tally::PatientFiles files(disk);
     tally::UserSettings settings(files, tally::folders::settingsFile());
     tally::QtClock clock;
     tally::Recordings recordings;
     tally::Display display;
     tally::QtPrompt prompt;
     tally::AppSlotChooser chooser(prompt);
-    Link link(files, settings);
+    Link link(disk, settings);
     tally::TLY window({recordings, display, settings, files, clock, prompt, chooser, link.services});
     prompt.setWindow(&window);
     chooser.setWindow(&window);

@@ -175,6 +175,26 @@ TEST(QtPrompt, SavedFileGetsTheExtensionOfItsFilter) {
         folder.filePath(QStringLiteral("new.chd")).toStdString());
 }
 
+TEST(QtPrompt, AQuestionKnowsNothingOfTheOneBefore) {
+    const QTemporaryDir folder;
+    const std::string path = folder.path().toStdString();
+    QtPrompt prompt;
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        dialog.selectFile(QStringLiteral("first.chd"));
+        QMetaObject::invokeMethod(&dialog, "accept");
+    });
+    prompt.chooseFile({.save = true, .filter = "chart files (*.chd)|*.chd", .folder = path});
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Open"));
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.nameFilters(), QStringList(QStringLiteral("data files (*.dat)")));
+        EXPECT_EQ(dialog.defaultSuffix(), QString());
+        EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QString());
+        dialog.reject();
+    });
+    EXPECT_EQ(prompt.chooseFile({.filter = "data files (*.dat)|*.dat", .folder = path}), std::nullopt);
+}
+
 TEST(QtPrompt, FolderThatIsGoneMeansTheCurrentOne) {
     QtPrompt prompt;
     whenOpen<QFileDialog>([](QFileDialog& dialog) {

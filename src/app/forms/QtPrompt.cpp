@@ -6,7 +6,7 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileDialog>
+#include <QLineEdit>
 
 namespace tally {
 
@@ -53,11 +53,30 @@ std::optional<std::string> QtPrompt::input(const InputQuestion& question) {
     return box.entered().toStdString();
 }
 
+QtPrompt::~QtPrompt() {
+    delete fileDialog_.data();
+}
+
+// Qt keeps memory for every file dialog that was shown, so that one serves all questions.
+QFileDialog& QtPrompt::fileDialog() {
+    if (!fileDialog_) {
+        fileDialog_ = new QFileDialog(parent());
+        fileDialog_->setObjectName(QStringLiteral("FileDialog"));
+    } else if (fileDialog_->parentWidget() != parent()) {
+        fileDialog_->setParent(parent(), fileDialog_->windowFlags());
+    }
+    // The name that was chosen the time before.
+    if (auto* const name = fileDialog_->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+        name->clear();
+    fileDialog_->setDefaultSuffix({});
+    return *fileDialog_;
+}
+
 std::optional<std::string> QtPrompt::chooseFile(const FileQuestion& question) {
     const QString usual = question.save ? QStringLiteral("Save as") : QStringLiteral("Open");
-    QFileDialog dialog(parent(), question.title.empty() ? usual : words(question.title));
-    dialog.setObjectName(QStringLiteral("FileDialog"));
+    QFileDialog& dialog = fileDialog();
     dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setWindowTitle(question.title.empty() ? usual : words(question.title));
     dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     const QString folder = words(question.folder);
     dialog.setDirectory(folder.isEmpty() || !QDir(folder).exists() ? QDir::currentPath() : folder);
@@ -69,9 +88,11 @@ std::optional<std::string> QtPrompt::chooseFile(const FileQuestion& question) {
     const auto follow = [&](const QString& label) {
         dialog.setDefaultSuffix(filters.value(labels.indexOf(label)).suffix);
     };
+    // Ends with this question.
+    const QObject asking;
     if (question.save && !filters.isEmpty()) {
         follow(labels.first());
-        QObject::connect(&dialog, &QFileDialog::filterSelected, follow);
+        QObject::connect(&dialog, &QFileDialog::filterSelected, &asking, follow);
     }
     if (!question.name.empty())
         dialog.selectFile(words(question.name));

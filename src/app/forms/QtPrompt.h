@@ -3,6 +3,7 @@
 
 #include "core/Prompt.h"
 
+#include <QFileDialog>
 #include <QPointer>
 #include <QWidget>
 
@@ -11,6 +12,11 @@ namespace tally {
 // Asks and tells with boxes over the active window.
 class QtPrompt : public Prompt {
 public:
+    QtPrompt() = default;
+    ~QtPrompt() override;
+    QtPrompt(const QtPrompt&) = delete;
+    QtPrompt& operator=(const QtPrompt&) = delete;
+
     // The window that boxes belong to when none is active.
     void setWindow(QWidget* window) { window_ = window; }
 
@@ -20,8 +26,10 @@ public:
 
 private:
     QWidget* parent() const;
+    QFileDialog& fileDialog();
 
     QPointer<QWidget> window_;
+    QPointer<QFileDialog> fileDialog_; // goes with the window it was last shown over
 };
 
 } // namespace tally
