@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/DefaultFolder.h"
 
-#include "app/NoticeBar.h"
+#include "app/forms/NoticeBar.h"
 #include "app/forms/Words.h"
 
 #include <QDir>

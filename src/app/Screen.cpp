@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Screen.h"
 
-#include "app/StartPage.h"
 #include "app/forms/ElidedLabel.h"
+#include "app/forms/StartPage.h"
 #include "app/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"

@@ -2,11 +2,11 @@
 #include "app/TLY.h"
 
 #include "app/Commands.h"
-#include "app/FolderChoice.h"
 #include "app/Menus.h"
-#include "app/NoticeBar.h"
 #include "app/Screen.h"
-#include "app/StatusPanels.h"
+#include "app/forms/FolderChoice.h"
+#include "app/forms/NoticeBar.h"
+#include "app/forms/StatusPanels.h"
 
 #include <QMenuBar>
 #include <QStatusBar>

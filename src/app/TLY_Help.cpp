@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Help.h"
 
-#include "app/HelpWindow.h"
-#include "app/MenuHelp.h"
 #include "app/forms/About.h"
+#include "app/forms/HelpWindow.h"
+#include "app/forms/MenuHelp.h"
 #include "app/forms/Words.h"
 
 #include <QCoreApplication>

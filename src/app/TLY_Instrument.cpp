@@ -3,8 +3,8 @@
 
 #include "app/Dispatcher.h"
 #include "app/Menus.h"
-#include "app/StatusPanels.h"
 #include "app/TLY_Downloads.h"
+#include "app/forms/StatusPanels.h"
 #include "app/forms/Words.h"
 #include "control/forms/Abort.h"
 #include "control/forms/Recover.h"

@@ -3,7 +3,7 @@
 
 #include "app/DefaultFolder.h"
 #include "app/Dispatcher.h"
-#include "app/FolderChoice.h"
+#include "app/forms/FolderChoice.h"
 #include "app/forms/Words.h"
 #include "core/Text1252.h"
 

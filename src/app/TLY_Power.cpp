@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Power.h"
 
-#include "app/StatusPanels.h"
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
+#include "app/forms/StatusPanels.h"
 #include "app/forms/Words.h"
 #include "core/Numbers.h"
 #include "view/LineVoltage.h"

@@ -3,8 +3,8 @@
 
 #include "app/Menus.h"
 #include "app/Screen.h"
-#include "app/StatusPanels.h"
 #include "app/Views.h"
+#include "app/forms/StatusPanels.h"
 #include "core/TimeAxis.h"
 #include "platform/XlsxWriter.h"
 #include "study/forms/StudyForm.h"

@@ -2,10 +2,10 @@
 // The main window as a window: title, place, drops, shortcuts, closing.
 #include "app/Commands.h"
 #include "app/Menus.h"
-#include "app/NoticeBar.h"
 #include "app/Screen.h"
-#include "app/StartPage.h"
 #include "app/TLY.h"
+#include "app/forms/NoticeBar.h"
+#include "app/forms/StartPage.h"
 #include "app/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"

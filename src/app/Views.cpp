@@ -2,9 +2,9 @@
 #include "app/Views.h"
 
 #include "app/Menus.h"
-#include "app/NoticeBar.h"
 #include "app/Screen.h"
-#include "app/StatusPanels.h"
+#include "app/forms/NoticeBar.h"
+#include "app/forms/StatusPanels.h"
 #include "app/forms/Words.h"
 #include "core/ModeTable.h"
 #include "view/FilesTogether.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Arguments.h"
-#include "app/Splash.h"
 #include "app/TLY.h"
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
+#include "app/forms/Splash.h"
 #include "app/forms/Words.h"
 #include "platform/FilePath.h"
 #include "platform/Folders.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
-#include "app/FolderChoice.h"
-#include "app/HelpWindow.h"
 #include "app/TLY_Help.h"
 #include "app/forms/About.h"
+#include "app/forms/FolderChoice.h"
+#include "app/forms/HelpWindow.h"
 
 #include <QCloseEvent>
 #include <QComboBox>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "app/Menus.h"
-#include "app/NoticeBar.h"
 #include "app/Screen.h"
 #include "app/TLY.h"
+#include "app/forms/NoticeBar.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFiles.h"
 #include "support/MemoryJournal.h"

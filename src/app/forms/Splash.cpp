@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/Splash.h"
+#include "app/forms/Splash.h"
 
 #include <QApplication>
 #include <QPainter>

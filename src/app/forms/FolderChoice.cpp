@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/FolderChoice.h"
+#include "app/forms/FolderChoice.h"
 
 #include "platform/Folders.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/StatusPanels.h"
+#include "app/forms/StatusPanels.h"
 
 #include <QLabel>
 #include <QStatusBar>

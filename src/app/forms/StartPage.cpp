@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/StartPage.h"
+#include "app/forms/StartPage.h"
 
 #include <QLabel>
 #include <QPushButton>

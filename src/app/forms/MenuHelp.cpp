@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/MenuHelp.h"
+#include "app/forms/MenuHelp.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/NoticeBar.h"
+#include "app/forms/NoticeBar.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/HelpWindow.h"
+#include "app/forms/HelpWindow.h"
 
 #include "platform/Folders.h"
 
