@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,11 @@ constexpr bool isUnsaved(JournalState state) {
            state == JournalState::accepted;
 }
 
+// Whether an earlier text that is accepted meanwhile changes nothing about it.
+constexpr bool isFinal(JournalState state) {
+    return state == JournalState::saved || state == JournalState::dropped;
+}
+
 // One word for a state, as the journal writes it down.
 std::string_view stateName(JournalState state);
 
@@ -49,6 +55,9 @@ public:
     virtual ~JournalSink() = default;
     virtual void begin(const JournalHeader& header) = 0;
     virtual void append(std::string_view bytes) = 0;
+    // Where the next characters may be put before they are appended, so that they are kept already then;
+    // empty when that cannot be had, and outside a reception.
+    virtual std::span<char> room() { return {}; }
     // What follows came after a change to other port settings; the recording can only be in that part.
     virtual void restart(const std::string& settings) = 0;
     // Minutes by which the instrument's clock is ahead of the computer's.
@@ -83,9 +92,10 @@ public:
     // What was received at the last port settings as it came, also where an accepted text is kept. Throws the
     // same.
     virtual std::string received(const std::string& id) const = 0;
-    // Writes down what became of a reception. Throws file faults.
+    // Writes down what became of a reception, without waiting for the disk. Throws file faults.
     virtual void mark(const std::string& id, JournalState state) = 0;
-    // Keeps the text that the user accepted of a reception. Throws file faults.
+    // Keeps the text that the user accepted of a reception, without waiting for the disk; keeps() tells
+    // whether it is there. Throws file faults.
     virtual void accept(const std::string& id, std::string_view text) = 0;
     // Whether the accepted text of a reception is on the disk; waits for the disk. What is not there is
     // nowhere but in memory.

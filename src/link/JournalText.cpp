@@ -45,6 +45,14 @@ void readPart(std::string_view value, JournalRecord& record) {
     record.header.settings = value.substr(blank + 1);
 }
 
+// A text may reach the disk, and be noted as accepted, after it was saved or dropped.
+void readState(std::string_view value, JournalRecord& record) {
+    for (const StateName& known : stateNames)
+        if (known.name == value && known.state != JournalState::receiving &&
+            (isFinal(known.state) || !record.state || !isFinal(*record.state)))
+            record.state = known.state;
+}
+
 void readLine(std::string_view key, std::string_view value, JournalRecord& record) {
     JournalHeader& header = record.header;
     if (key == "command")
@@ -64,9 +72,7 @@ void readLine(std::string_view key, std::string_view value, JournalRecord& recor
     else if (key == "clock")
         record.clockDifference = number<std::int64_t>(value);
     else if (key == "state")
-        for (const StateName& known : stateNames)
-            if (known.name == value && known.state != JournalState::receiving)
-                record.state = known.state;
+        readState(value, record);
 }
 
 } // namespace

@@ -3,10 +3,19 @@
 
 #include <cstddef>
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace tally {
+
+// Keeps characters.
+struct Keeper {
+    std::function<void(std::string_view characters)> keep = {};
+    // Where the next ones may be read to, so that they are kept from the moment in which they are read; none,
+    // or empty, for anywhere.
+    std::function<std::span<char>()> room = {};
+};
 
 // A serial line as a session sees it, under the names of its properties.
 class Line {
@@ -31,7 +40,7 @@ public:
     virtual bool isOpen() const = 0;
     // Who is given every character the moment it arrives, before anything else looks at it, whatever becomes
     // of it then; nothing for nobody.
-    virtual void onArrival(std::function<void(std::string_view characters)> keep) = 0;
+    virtual void onArrival(Keeper keeper) = 0;
     // What has arrived, at most InputLen characters; empty when nothing has.
     virtual std::string Input() = 0;
     // The same again and again: appends what has arrived until `into` holds `most` characters.

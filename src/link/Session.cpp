@@ -20,7 +20,8 @@ void Session::openPort() {
     line.InputLen(1);
     // The sessions look for the end mark themselves: what follows it must not go unseen.
     line.EOFEnable(false);
-    line.onArrival([&sink = journal](std::string_view characters) { sink.append(characters); });
+    line.onArrival({.keep = [&sink = journal](std::string_view characters) { sink.append(characters); },
+                    .room = [&sink = journal] { return sink.room(); }});
     line.PortOpen(true);
 }
 

@@ -39,7 +39,7 @@ bool JournalFile::failed(int error) {
 }
 
 bool JournalFile::create(const std::string& path) {
-    Descriptor file(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, ownerOnly));
+    Descriptor file(::open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_APPEND | O_CLOEXEC, ownerOnly));
     wasThere_ = !file.isOpen() && errno == EEXIST;
     if (!file.isOpen())
         return failed(errno);
@@ -80,6 +80,14 @@ bool JournalFile::sync() {
         done = fdatasync(file_->file.get());
     while (done != 0 && errno == EINTR);
     return done == 0 || failed(errno);
+}
+
+bool JournalFile::cut(std::uint64_t size) {
+    return ftruncate(file_->file.get(), static_cast<off_t>(size)) == 0 || failed(errno);
+}
+
+int JournalFile::descriptor() const {
+    return file_ ? file_->file.get() : -1;
 }
 
 bool syncFolder(const std::string& folder) {

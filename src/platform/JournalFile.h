@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -19,6 +20,8 @@ public:
     bool open(const std::string& path);
     bool write(std::string_view bytes);
     bool sync();
+    // Cuts the file to so many bytes.
+    bool cut(std::uint64_t size);
     void close() { file_.reset(); }
     bool isOpen() const { return file_ != nullptr; }
     // Why the last call failed.
@@ -27,6 +30,8 @@ public:
     bool wasThere() const { return wasThere_; }
     // The last write or sync failed because the disk is full.
     bool isFull() const { return full_; }
+    // The open file as the system knows it; -1 where it cannot be mapped.
+    int descriptor() const;
 
 private:
     struct Open;

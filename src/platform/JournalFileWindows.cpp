@@ -66,6 +66,14 @@ bool JournalFile::sync() {
     return _commit(file_->file.handle()) == 0;
 }
 
+bool JournalFile::cut(std::uint64_t size) {
+    return file_->file.resize(static_cast<qint64>(size));
+}
+
+int JournalFile::descriptor() const {
+    return -1;
+}
+
 bool syncFolder(const std::string&) {
     return true;
 }

@@ -40,7 +40,7 @@ JournalFolder::JournalFolder(std::string folder, Files& files) : folder_(std::mo
     syncTimer_.setSingleShot(true);
     QObject::connect(&syncTimer_, &QTimer::timeout, [this] {
         if (raw_.isOpen())
-            bring(raw_);
+            bring(raw_.file());
     });
 }
 
@@ -69,7 +69,7 @@ std::string JournalFolder::newId() const {
 
 // A reception that could only be begun keeps its name: a part of it is there.
 void JournalFolder::fail(const std::string& why) {
-    if (bytes_ == 0 && !log_.isOpen())
+    if (raw_.size() == 0 && !log_.isOpen())
         id_.clear();
     raw_.close();
     log_.close();
@@ -127,7 +127,7 @@ void JournalFolder::begin(const JournalHeader& header) {
     log_.close();
     takeReport();
     problem_.clear();
-    bytes_ = 0;
+    told_ = false;
     receiving_ = true;
     folders::make(folder_);
     if (!create() || !log_.write(journalStart(header)))
@@ -144,14 +144,17 @@ void JournalFolder::begin(const JournalHeader& header) {
     });
 }
 
+std::span<char> JournalFolder::room() {
+    return receiving_ ? raw_.room() : std::span<char>();
+}
+
 void JournalFolder::append(std::string_view bytes) {
     if (!receiving_ || !raw_.isOpen() || bytes.empty())
         return;
-    if (!raw_.write(bytes)) {
+    if (!raw_.append(bytes)) {
         fail(raw_.error());
         return;
     }
-    bytes_ += bytes.size();
     if (!syncTimer_.isActive())
         syncTimer_.start();
 }
@@ -167,7 +170,7 @@ void JournalFolder::note(const std::string& line) {
 
 void JournalFolder::restart(const std::string& settings) {
     if (receiving_)
-        note(journalPart(bytes_, settings));
+        note(journalPart(raw_.size(), settings));
 }
 
 void JournalFolder::clockDifference(std::int64_t minutes) {
@@ -178,29 +181,35 @@ void JournalFolder::end(JournalState state) {
     if (receiving_) {
         receiving_ = false;
         syncTimer_.stop();
-        if (raw_.isOpen())
-            bring(raw_);
+        const JournalFile raw = raw_.file();
         raw_.close();
+        if (raw.isOpen())
+            bring(raw);
     }
     note(journalState(state));
     if (state != JournalState::received)
         log_.close();
-    if (bytes_ == 0)
+    if (raw_.size() == 0)
         disk_.give([this] { removeOld(keep); });
 }
 
-// The state is noted when the text is on the disk; until then the journal answers from memory.
 void JournalFolder::accepted(std::string_view text) {
     if (!log_.isOpen())
         return;
+    bringAccepted(id_, text, log_);
+    log_.close();
+}
+
+// The state is noted when the text is on the disk; until then the journal answers from memory.
+void JournalFolder::bringAccepted(const std::string& id, std::string_view text, JournalFile log) {
     {
         const std::lock_guard lock(mutex_);
-        accepting_ = Accepting{id_, std::string(text)};
+        accepting_[id] = text;
     }
-    disk_.give([this, log = log_, kept = Accepting{id_, std::string(text)}]() mutable {
+    disk_.give([this, id, log = std::move(log), kept = std::string(text)]() mutable {
         std::string why;
         try {
-            replaceFile(path(kept.id, dataEnding), kept.text, Access::owner);
+            replaceFile(path(id, dataEnding), kept, Access::owner);
             if (!log.write(journalState(JournalState::accepted)) || !log.sync())
                 why = log.error();
         } catch (const Fault& fault) {
@@ -208,17 +217,17 @@ void JournalFolder::accepted(std::string_view text) {
         }
         {
             const std::lock_guard lock(mutex_);
-            accepting_.reset();
+            accepting_.erase(id);
         }
         if (!why.empty())
             report(why);
     });
-    log_.close();
 }
 
-std::optional<JournalFolder::Accepting> JournalFolder::accepting(const std::string& id) const {
+std::optional<std::string> JournalFolder::accepting(const std::string& id) const {
     const std::lock_guard lock(mutex_);
-    return accepting_ && accepting_->id == id ? accepting_ : std::nullopt;
+    const auto found = accepting_.find(id);
+    return found == accepting_.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::vector<std::string> JournalFolder::ids() const {
@@ -231,22 +240,31 @@ std::vector<std::string> JournalFolder::ids() const {
     return all;
 }
 
+// What was received, without the filling of a file that a killed program left.
+std::string JournalFolder::characters(const std::string& id, std::uint64_t most) const {
+    return std::string(withoutFilling(files_.read(path(id, rawEnding), most)));
+}
+
+std::uint64_t JournalFolder::countOf(const std::string& id) const {
+    const std::uint64_t size = sizeOf(path(id, rawEnding));
+    return size == 0 || size % FileMap::step != 0 ? size : characters(id, size).size();
+}
+
 // Nothing when no character came and nobody waits for one.
 std::optional<JournalEntry> JournalFolder::entry(const std::string& id) const {
     const JournalRecord record = readJournal(files_.read(path(id, logEnding), mostText));
-    const std::string raw = path(id, rawEnding);
-    const std::uint64_t bytes = sizeOf(raw);
+    const std::uint64_t bytes = countOf(id);
     const bool held = isHeld(path(id, logEnding));
     if (bytes == 0 && !held)
         return {};
     JournalEntry found{.id = id, .header = record.header, .clockDifference = record.clockDifference};
     found.hasAccepted = files_.exists(path(id, dataEnding));
     found.state = record.state.value_or(held ? JournalState::receiving : JournalState::interrupted);
-    if (accepting(id))
+    if (accepting(id) && !isFinal(found.state))
         found.state = JournalState::accepted;
     found.bytes = bytes - std::min(bytes, record.partStart);
     if (bytes > 0) {
-        const std::string start = files_.read(raw, record.partStart + describedBy);
+        const std::string start = characters(id, record.partStart + describedBy);
         describe(found,
                  std::string_view(start).substr(std::min<std::size_t>(start.size(), record.partStart)));
     }
@@ -268,7 +286,7 @@ std::vector<JournalEntry> JournalFolder::list() const {
 
 std::string JournalFolder::text(const std::string& id) const {
     if (const auto onItsWay = accepting(id))
-        return onItsWay->text;
+        return *onItsWay;
     const std::string data = path(id, dataEnding);
     if (files_.exists(data))
         return files_.read(data, mostText);
@@ -277,23 +295,25 @@ std::string JournalFolder::text(const std::string& id) const {
 
 std::string JournalFolder::received(const std::string& id) const {
     const JournalRecord record = readJournal(files_.read(path(id, logEnding), mostText));
-    std::string raw = files_.read(path(id, rawEnding), record.partStart + mostText);
-    return raw.erase(0, record.partStart);
+    return characters(id, record.partStart + mostText).erase(0, record.partStart);
 }
 
-void JournalFolder::mark(const std::string& id, JournalState state) {
-    // What became of it before stands before it.
-    settle();
+JournalFile JournalFolder::logOf(const std::string& id) const {
     JournalFile log;
     if (!log.open(path(id, logEnding)))
         throw files_.exists(path(id, logEnding)) ? fault::pathFileAccess() : fault::fileNotFound();
-    if (!log.write(journalState(state)) || !log.sync())
+    return log;
+}
+
+void JournalFolder::mark(const std::string& id, JournalState state) {
+    JournalFile log = logOf(id);
+    if (!log.write(journalState(state)))
         throw log.isFull() ? fault::diskFull() : fault::deviceIo();
+    bring(log);
 }
 
 void JournalFolder::accept(const std::string& id, std::string_view text) {
-    replaceFile(path(id, dataEnding), text, Access::owner);
-    mark(id, JournalState::accepted);
+    bringAccepted(id, text, logOf(id));
 }
 
 bool JournalFolder::keeps(const std::string& id) {

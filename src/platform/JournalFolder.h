@@ -5,9 +5,11 @@
 #include "link/Journal.h"
 #include "platform/DiskThread.h"
 #include "platform/JournalFile.h"
+#include "platform/ReceptionFile.h"
 
 #include <QTimer>
 #include <functional>
+#include <map>
 #include <mutex>
 #include <optional>
 #include <string>
@@ -15,19 +17,20 @@
 namespace tally {
 
 // The journal as files of a folder, three to a reception: ".raw" the characters as they came, ".log" what is
-// known about them, ".dat" the accepted text; all for this user alone. Characters are with the system at once
-// and on the disk within a second; a thread of the journal's own waits for the disk. What it could not do is
-// told when the event loop runs.
+// known about them, ".dat" the accepted text; all for this user alone. Characters are with the system the
+// moment they are read and on the disk within a second; a thread of the journal's own waits for the disk.
+// What it could not do is told when the event loop runs.
 class JournalFolder : public Journal {
 public:
     JournalFolder(std::string folder, Files& files);
     ~JournalFolder() override;
 
-    // Called once, when receptions cannot be written down.
+    // Called when receptions cannot be written down, once for each of them.
     void onProblem(std::function<void(const std::string&)> tell) { tell_ = std::move(tell); }
 
     void begin(const JournalHeader& header) override;
     void append(std::string_view bytes) override;
+    std::span<char> room() override;
     void restart(const std::string& settings) override;
     void clockDifference(std::int64_t minutes) override;
     void end(JournalState state) override;
@@ -46,18 +49,16 @@ public:
     void settle();
 
 private:
-    // An accepted text on its way to the disk.
-    struct Accepting {
-        std::string id;
-        std::string text;
-    };
-
     std::string path(const std::string& id, const char* ending) const;
     std::string newId() const;
     std::vector<std::string> ids() const; // newest first
     std::optional<JournalEntry> entry(const std::string& id) const;
     bool create();
-    std::optional<Accepting> accepting(const std::string& id) const;
+    std::optional<std::string> accepting(const std::string& id) const;
+    void bringAccepted(const std::string& id, std::string_view text, JournalFile log);
+    JournalFile logOf(const std::string& id) const;
+    std::string characters(const std::string& id, std::uint64_t most) const;
+    std::uint64_t countOf(const std::string& id) const;
     void note(const std::string& line);
     void bring(JournalFile file);
     void report(const std::string& why);
@@ -71,15 +72,14 @@ private:
     std::function<void(const std::string&)> tell_;
     std::string id_;
     std::string problem_;
-    JournalFile raw_;
+    ReceptionFile raw_;
     JournalFile log_;
     QTimer syncTimer_;
-    std::uint64_t bytes_ = 0;
     bool receiving_ = false;
     bool told_ = false;
 
-    mutable std::mutex mutex_; // of what the thread shares
-    std::optional<Accepting> accepting_;
+    mutable std::mutex mutex_;                     // of what the thread shares
+    std::map<std::string, std::string> accepting_; // texts on their way to the disk
     std::string report_;
     DiskThread disk_; // ends first
 };

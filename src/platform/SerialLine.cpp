@@ -5,7 +5,10 @@
 
 #include <QFileInfo>
 #include <QStringList>
+#include <algorithm>
 #include <optional>
+#include <span>
+#include <utility>
 
 namespace tally {
 
@@ -13,7 +16,8 @@ namespace {
 
 constexpr char endOfFile = '\x1a';
 // More than the longest recording; a device that never stops is held back there.
-constexpr qint64 mostBuffered = 1 << 20;
+constexpr std::size_t mostBuffered = 1 << 20;
+constexpr std::size_t mostAtOnce = 32768;
 
 struct LineSettings {
     int baud = 0;
@@ -51,6 +55,10 @@ LineSettings parse(const std::string& settings) {
     throw Fault(380, "Invalid property value");
 }
 
+std::string goneText(const std::string& line) {
+    return "The serial line " + line + " has gone. Was the adapter or its cable pulled out?";
+}
+
 bool isReal(QSerialPort::SerialPortError error) {
     return error == QSerialPort::ReadError || error == QSerialPort::WriteError ||
            error == QSerialPort::ResourceError || error == QSerialPort::UnknownError;
@@ -59,9 +67,8 @@ bool isReal(QSerialPort::SerialPortError error) {
 } // namespace
 
 SerialLine::SerialLine(DeviceOf deviceOf) : deviceOf_(std::move(deviceOf)) {
-    port_.setReadBufferSize(mostBuffered);
     connect(&port_, &QSerialPort::errorOccurred, this, &SerialLine::onError);
-    connect(&port_, &QSerialPort::readyRead, this, [this] {
+    connect(&reader_, &PortReader::ready, this, [this] {
         if (arrive())
             Q_EMIT stirred();
     });
@@ -130,6 +137,7 @@ void SerialLine::open() {
     port_.clearError();
     bestEffort_ = false;
     if (opened) {
+        reader_.start();
         port_.clear();
         DTREnable(dtr_);
         return;
@@ -155,12 +163,16 @@ void SerialLine::open() {
 void SerialLine::onError(QSerialPort::SerialPortError error) {
     if (bestEffort_ || !port_.isOpen() || !isReal(error))
         return;
-    bestEffort_ = true;
-    arrive();
-    bestEffort_ = false;
-    problem_ = error == QSerialPort::WriteError
-                   ? "The serial line " + name() + " takes no more characters. It was closed."
-                   : "The serial line " + name() + " has gone. Was the adapter or its cable pulled out?";
+    while (arrive()) {
+    }
+    if (port_.isOpen())
+        gone(error == QSerialPort::WriteError
+                 ? "The serial line " + name() + " takes no more characters. It was closed."
+                 : goneText(name()));
+}
+
+void SerialLine::gone(const std::string& problem) {
+    problem_ = problem;
     lost_ = true;
     close();
     Q_EMIT stirred();
@@ -170,6 +182,7 @@ void SerialLine::close() {
     if (!port_.isOpen())
         return;
     bestEffort_ = true;
+    reader_.stop();
     port_.close();
     port_.clearError();
     bestEffort_ = false;
@@ -179,39 +192,51 @@ void SerialLine::close() {
     }
 }
 
-bool SerialLine::hasNews() const {
-    return lost_ || (!ended_ && (used_ < arrived_.size() || port_.bytesAvailable() > 0));
+bool SerialLine::hasNews() {
+    return lost_ || (!ended_ && used_ < arrived_.size()) || arrive() || lost_;
 }
 
-// Everything that the port holds, first to whoever keeps it. False when nothing is to be read from it.
+// What one reading of the port gives, first to whoever keeps it. False when there is nothing new to look at.
 bool SerialLine::arrive() {
-    if (port_.bytesAvailable() == 0 || arrived_.size() - used_ >= mostBuffered)
+    if (!port_.isOpen())
         return false;
-    const QByteArray piece = port_.readAll();
-    if (keep_)
-        keep_({piece.constData(), static_cast<std::size_t>(piece.size())});
+    if (arrived_.size() - used_ >= mostBuffered) {
+        reader_.listen(false);
+        return false;
+    }
+    std::span<char> place = keeper_.room ? keeper_.room() : std::span<char>();
+    if (place.empty()) {
+        piece_.resize(mostAtOnce);
+        place = piece_;
+    }
+    place = place.first(std::min(place.size(), mostAtOnce));
+    const auto count = reader_.read(place);
+    if (!count) {
+        gone(goneText(name()));
+        return false;
+    }
+    const std::string_view piece(place.data(), *count);
+    if (keeper_.keep && !piece.empty())
+        keeper_.keep(piece);
     if (ended_)
         return false;
-    if (used_ == arrived_.size())
-        arrived_ = piece;
-    else
-        arrived_ = arrived_.mid(used_) + piece;
-    used_ = 0;
-    return !piece.isEmpty();
+    arrived_.erase(0, std::exchange(used_, 0));
+    arrived_ += piece;
+    return !piece.empty();
 }
 
 // The next characters, up to `most` and to ctrl/Z; they stay valid until the next call.
 std::string_view SerialLine::take(std::size_t most) {
     if (ended_ || (used_ == arrived_.size() && !arrive()))
         return {};
-    std::string_view piece(arrived_.constData() + used_, static_cast<std::size_t>(arrived_.size() - used_));
-    piece = piece.substr(0, most);
+    reader_.listen(true);
+    std::string_view piece = std::string_view(arrived_).substr(used_, most);
     if (eofEnable_) {
         const std::size_t end = piece.find(endOfFile);
         ended_ = end != std::string_view::npos;
         piece = piece.substr(0, ended_ ? end + 1 : piece.size());
     }
-    used_ += static_cast<qsizetype>(piece.size());
+    used_ += piece.size();
     return piece;
 }
 

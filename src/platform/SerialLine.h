@@ -2,10 +2,12 @@
 #pragma once
 
 #include "link/Line.h"
+#include "platform/PortReader.h"
 
 #include <QObject>
 #include <QSerialPort>
 #include <functional>
+#include <vector>
 
 namespace tally {
 
@@ -28,15 +30,15 @@ public:
     // Throws also Fault 8002 for a device that is no serial line; problem() tells the cases apart.
     void PortOpen(bool open) override;
     bool isOpen() const override { return port_.isOpen(); }
-    void onArrival(std::function<void(std::string_view)> keep) override { keep_ = std::move(keep); }
+    void onArrival(Keeper keeper) override { keeper_ = std::move(keeper); }
     std::string Input() override;
     void inputAll(std::string& into, std::size_t most) override;
     // Does nothing on a closed line.
     void Output(std::string_view characters) override;
     std::string problem() const override { return problem_; }
 
-    // Characters wait to be read, or the line has closed itself since it was opened.
-    bool hasNews() const;
+    // Characters wait to be read, or the line has closed itself since it was opened. Has the port read.
+    bool hasNews();
 
 Q_SIGNALS:
     // Characters have arrived, or the line has closed itself.
@@ -47,17 +49,20 @@ private:
     void onError(QSerialPort::SerialPortError error);
     void close();
     bool arrive();
+    void gone(const std::string& problem);
     std::string_view take(std::size_t most);
     // "COM3 (/dev/ttyUSB0)"; the device alone when it was given by its path
     std::string name() const;
 
     DeviceOf deviceOf_;
-    std::function<void(std::string_view)> keep_;
+    Keeper keeper_;
     QSerialPort port_;
+    PortReader reader_{port_};
     std::string device_;
     std::string problem_;
-    QByteArray arrived_; // characters from used_ on are unread
-    qsizetype used_ = 0;
+    std::vector<char> piece_; // what was read last, where it is kept nowhere else
+    std::string arrived_;     // characters from used_ on are unread
+    std::size_t used_ = 0;
     std::size_t inputLen_ = 0; // 0: all that has arrived
     int commPort_ = 1;
     bool eofEnable_ = false;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Stands between a program and the disk (LD_PRELOAD) and lets chosen calls fail, wait or kill the program:
 //   TALLY_FAULT       faults, "CALL NTH ACTION[ NUMBER]", joined with ';'
-//                     CALL   write, datasync, sync (of a folder), rename, lock
+//                     CALL   write, datasync, sync (of a folder), rename, lock, allocate
 //                     NTH    the how many-th call of that kind, from 1; 0 for each
 //                     ACTION error NUMBER (errno; a write takes half before it), kill, killafter,
 //                            before NUMBER or after NUMBER (milliseconds of waiting)
@@ -27,8 +27,8 @@
 
 namespace {
 
-enum Call { writing, datasync, folderSync, renaming, locking, calls };
-const char* const names[calls] = {"write", "datasync", "sync", "rename", "lock"};
+enum Call { writing, datasync, folderSync, renaming, locking, allocating, calls };
+const char* const names[calls] = {"write", "datasync", "sync", "rename", "lock", "allocate"};
 
 struct Rule {
     Call call;
@@ -208,6 +208,13 @@ int renameat2(int from, const char* old, int to, const char* name, unsigned flag
 int rename(const char* old, const char* name) noexcept {
     static const auto real = next<int (*)(const char*, const char*)>("rename");
     return call(renaming, isOurs(name), [&] { return real(old, name); });
+}
+
+// Gives the error instead of setting it.
+int posix_fallocate(int file, off_t start, off_t length) {
+    static const auto real = next<int (*)(int, off_t, off_t)>("posix_fallocate");
+    const int error = call(allocating, isOurs(file), [&] { return real(file, start, length); });
+    return error < 0 ? errno : error;
 }
 
 int flock(int file, int operation) noexcept {

@@ -60,7 +60,7 @@ struct KillTest : ::testing::Test {
         if (std::filesystem::exists(place))
             for (const auto& entry : std::filesystem::directory_iterator(place))
                 if (entry.path().extension() == ".raw")
-                    return std::filesystem::file_size(entry.path());
+                    return withoutFilling(TemporaryFolder::read(entry.path().string())).size();
         return 0;
     }
     bool waitUntilReceived(std::size_t count) const {

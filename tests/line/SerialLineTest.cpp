@@ -111,7 +111,7 @@ TEST(SerialLine, EveryCharacterIsKeptBeforeAnythingLooksAtIt) {
     port.line.EOFEnable(true);
     port.line.InputLen(1);
     std::string kept;
-    port.line.onArrival([&](std::string_view characters) { kept += characters; });
+    port.line.onArrival({.keep = [&](std::string_view characters) { kept += characters; }});
     port.open();
     port.pty->write("abc\x1a"
                     "de");

@@ -46,6 +46,13 @@ TEST(JournalTextTest, aLineCutShortDoesNotCount) {
     EXPECT_EQ(readJournal("state received").state, std::nullopt);
 }
 
+TEST(JournalText, WhatWasSavedOrDroppedIsNotAcceptedAfterwards) {
+    EXPECT_EQ(readJournal("state saved\nstate accepted\n").state, JournalState::saved);
+    EXPECT_EQ(readJournal("state dropped\nstate accepted\n").state, JournalState::dropped);
+    EXPECT_EQ(readJournal("state dropped\nstate saved\n").state, JournalState::saved);
+    EXPECT_EQ(readJournal("state refused\nstate accepted\n").state, JournalState::accepted);
+}
+
 TEST(JournalTextTest, unknownAndDamagedLinesAreLeftOut) {
     const JournalRecord record =
         readJournal("port x\npart 12\npart y z\nclock 1x\nstate lost\n\n nonsense\n");

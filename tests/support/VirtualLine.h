@@ -107,7 +107,7 @@ public:
             onOpen(settings_);
     }
     bool isOpen() const override { return open_; }
-    void onArrival(std::function<void(std::string_view)> keep) override { keep_ = std::move(keep); }
+    void onArrival(Keeper keeper) override { keep_ = std::move(keeper.keep); }
     std::string Input() override {
         if (unread() == 0)
             return {};

@@ -151,8 +151,7 @@ std::vector<std::string> Plan::simulatorOptions() const {
 std::vector<std::string> Plan::programOptions(const std::string& device, const std::string& output) const {
     std::vector<std::string> all = {nameOf(kind), "--port", device, "--type",
                                     automatic ? "11" : std::to_string(type)};
-    if (kind == Kind::download || kind == Kind::status)
-        all.insert(all.end(), {"--wait", automatic ? "20" : "1.5"});
+    all.insert(all.end(), {"--wait", automatic ? "20" : "1.5"});
     if (kind == Kind::download || kind == Kind::recover)
         all.insert(all.end(), {"-o", output});
     if (kind == Kind::download && keepErrors)
