@@ -25,6 +25,7 @@ FileBasis basisOf(const FileFacts& info, const TimeAxis& axis, int file, const s
     basis.serial = info.serial;
     basis.unreadable = info.unreadable;
     basis.forced = info.forced;
+    basis.complete = info.complete;
     basis.minMaxAvg = isMinMaxAvg(info.modeLetter);
     basis.entries = info.count / axis.stride;
     basis.oddTriple = info.count % axis.stride != 0;

@@ -40,6 +40,13 @@ TEST_F(StudyReport, TheFirstPageSaysWhatTheFiguresRestOn) {
     EXPECT_THAT(page, HasSubstr("a season with a higher load may lie outside"));
 }
 
+TEST_F(StudyReport, TheFirstPageNamesAFileThatMayHaveBeenCut) {
+    addFile(recordings, "red.dat", constant(96, 100), {.start = on(2024, 3, 4)});
+    EXPECT_THAT(text(), Not(HasSubstr("end mark")));
+    recordings.gInfo[0].complete = false;
+    EXPECT_THAT(text(), HasSubstr("red.dat: the file ends without its end mark, it may have been cut."));
+}
+
 TEST_F(StudyReport, AFigureThatDoesNotExistIsADash) {
     addFile(recordings, "red.dat", constant(2, 0), {.start = on(2024, 3, 4)});
     EXPECT_THAT(text(), ContainsRegex("Load factor +–\n"));
