@@ -5,9 +5,15 @@
 #include "support/MemoryFiles.h"
 #include "support/SampleFile.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace tally::testing {
+
+// A file in a folder, as the system writes paths.
+inline std::string in(const std::string& folder, const std::string& name) {
+    return (std::filesystem::path(folder) / name).string();
+}
 
 // Nothing is open; exports go to /out.
 class ExportTest : public ::testing::Test {
