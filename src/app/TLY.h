@@ -39,6 +39,8 @@ public:
     void openFiles(const std::vector<std::string>& paths, bool plot = false);
     // A quiet word that the settings could not be read or written.
     void reportSettings(const std::string& text);
+    // The journal of downloads has a problem to tell.
+    void journalChanged();
 
 Q_SIGNALS:
     void firstFrame(); // the window has been painted for the first time
@@ -59,6 +61,7 @@ private:
     void connectTexts();
     void addShortcuts();
     void placeWindow();
+    bool mayClose();
     // File names in the title bar.
     void updateTitle();
 

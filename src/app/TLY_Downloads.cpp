@@ -9,11 +9,17 @@
 #include "app/forms/NoticeBar.h"
 #include "app/forms/Words.h"
 #include "control/Rescue.h"
+#include "core/Fault.h"
+#include "core/Header.h"
 #include "core/RecentFiles.h"
 #include "core/SaveText.h"
 #include "core/Text1252.h"
+#include "link/OnlyInMemory.h"
+#include "link/ReceivedText.h"
 #include "link/Rescue.h"
 #include "link/SavedDownload.h"
+
+#include <algorithm>
 
 namespace tally {
 
@@ -23,6 +29,7 @@ namespace {
 constexpr std::size_t mostNotices = 3;
 const QString problemKey = QStringLiteral("journal");
 const QString savedKey = QStringLiteral("saved download");
+const QString pendingKey = QStringLiteral("only in memory");
 
 // Instruments end their lines with CR LF, LF CR or one of them alone; shown, each is one line end.
 std::string shownLines(const std::string& text) {
@@ -40,6 +47,14 @@ std::string shownLines(const std::string& text) {
     return lines;
 }
 
+// What the notices of these receptions say.
+std::string textsOf(const std::vector<JournalEntry>& entries) {
+    std::string texts;
+    for (const JournalEntry& entry : entries)
+        texts += entry.id + " " + receptionText(entry) + "\n";
+    return texts;
+}
+
 } // namespace
 
 void TLY_Downloads::take(const SessionResult<PendingDownload>& accepted) {
@@ -54,13 +69,31 @@ FileQuestion TLY_Downloads::question(const std::string& text) const {
     return saveQuestion(text, services_.settings, folder_.forDialog(), saveFilter);
 }
 
-void TLY_Downloads::pendingSaved(const std::string& path) {
+bool TLY_Downloads::savePending() {
+    const PendingDownload writing = *pending_;
+    const auto path = services_.prompt.chooseFile(question(writing.text));
+    if (!path)
+        return false;
+    services_.files.write(*path, tally::quoted(writing.text));
+    settle(writing.id, JournalState::saved);
+    saved(writing.text, *path);
+    return true;
+}
+
+bool TLY_Downloads::mayGo() {
     if (!pending_)
-        return;
-    const PendingDownload done = *pending_;
-    pending_.reset();
-    settle(done.id, JournalState::saved);
-    saved(done.text, path);
+        return true;
+    switch (fateOf(*pending_, services_.link.journal, services_.prompt, [this] { return savePending(); })) {
+    case Fate::kept:
+    case Fate::saved:
+        return true;
+    case Fate::dropped:
+        settle(std::string(pending_->id), JournalState::dropped);
+        return true;
+    case Fate::stays:
+        break;
+    }
+    return false;
 }
 
 // Where it went, with a way to open it; the next one is proposed beside it.
@@ -73,6 +106,20 @@ void TLY_Downloads::saved(const std::string& text, const std::string& path) {
                                                            }}});
 }
 
+// Newest first; without what is left of the waiting text in a journal that could not keep the whole of it.
+std::vector<JournalEntry> TLY_Downloads::waiting() const {
+    auto entries = unsavedReceptions(services_.link.journal);
+    std::erase_if(entries, [this](const JournalEntry& entry) {
+        return pending_ && entry.id == pending_->id && entry.state != JournalState::accepted;
+    });
+    return entries;
+}
+
+bool TLY_Downloads::onlyInMemory(const std::vector<JournalEntry>& waiting) const {
+    return pending_ && std::none_of(waiting.begin(), waiting.end(),
+                                    [this](const JournalEntry& entry) { return entry.id == pending_->id; });
+}
+
 void TLY_Downloads::showNotices() {
     const Journal& journal = services_.link.journal;
     for (const QString& key : keys_)
@@ -80,15 +127,41 @@ void TLY_Downloads::showNotices() {
     keys_.clear();
     if (!journal.problem().empty())
         notices_.put(problemKey, words(journal.problem()));
-    const auto waiting = unsavedReceptions(journal);
-    for (std::size_t i = 0; i < waiting.size() && i < mostNotices; ++i)
-        notice(waiting[i]);
+    const auto entries = waiting();
+    if (onlyInMemory(entries))
+        noticeOfPending();
+    for (std::size_t i = 0; i < entries.size() && i < mostNotices; ++i)
+        notice(entries[i]);
+    shown_ = textsOf(entries);
+}
+
+void TLY_Downloads::lookAgain() {
+    if (textsOf(waiting()) != shown_)
+        showNotices();
+}
+
+// The journal could not keep it: what it has is not offered instead.
+void TLY_Downloads::noticeOfPending() {
+    const auto on = [this](auto action) { return [this, action] { dispatcher_.run(action); }; };
+    const std::string id = pending_->id;
+    const std::string serial = toUtf8(headerField(headerOf(pending_->text), column::serial));
+    const std::string title = "The download" + (serial.empty() ? "" : " of instrument " + serial);
+    keys_.append(pendingKey);
+    notices_.put(keys_.last(), words(title + " is in no file and on no disk. Save it before anything else."),
+                 {{QStringLiteral("Show"), on([this, id, title] { show(id, title); })},
+                  {QStringLiteral("Save As..."), on([this] {
+                       if (pending_)
+                           savePending();
+                   })},
+                  {QStringLiteral("Drop"), on([this, id] { drop(id); })}},
+                 false);
 }
 
 void TLY_Downloads::notice(const JournalEntry& entry) {
     const auto on = [this](auto action) { return [this, action] { dispatcher_.run(action); }; };
     const std::string id = entry.id;
-    std::vector<NoticeAction> actions = {{QStringLiteral("Show"), on([this, entry] { show(entry); })}};
+    std::vector<NoticeAction> actions = {
+        {QStringLiteral("Show"), on([this, id, title = receptionText(entry)] { show(id, title); })}};
     if (entry.state != JournalState::accepted)
         actions.push_back({QStringLiteral("Validate"), on([this, entry] { validate(entry); })});
     actions.push_back({QStringLiteral("Save As..."), on([this, id] { saveAs(id); })});
@@ -97,18 +170,25 @@ void TLY_Downloads::notice(const JournalEntry& entry) {
     notices_.put(keys_.last(), words(receptionText(entry)), actions, false);
 }
 
-void TLY_Downloads::show(const JournalEntry& entry) {
-    views_.showReception(toUtf8(shownLines(services_.link.journal.text(entry.id))), receptionText(entry));
+// The whole of the waiting text, whatever the journal holds of it.
+std::string TLY_Downloads::textOf(const std::string& id) const {
+    return pending_ && pending_->id == id ? pending_->text : services_.link.journal.text(id);
+}
+
+void TLY_Downloads::show(const std::string& id, const std::string& title) {
+    views_.showReception(toUtf8(shownLines(textOf(id))), title);
 }
 
 void TLY_Downloads::validate(const JournalEntry& entry) {
+    if (!mayGo())
+        return;
     take(rescue(services_.link.journal, entry, services_.prompt));
     showNotices();
 }
 
 void TLY_Downloads::saveAs(const std::string& id) {
     const Services& s = services_;
-    const std::string text = s.link.journal.text(id);
+    const std::string text = textOf(id);
     const auto path = s.prompt.chooseFile(question(text));
     if (!path)
         return;
@@ -133,9 +213,23 @@ void TLY_Downloads::settle(const std::string& id, JournalState state) {
         pending_.reset();
     if (!pending_ && !services_.recordings.isOpen(0))
         menus_.apply(MenuEvent::saved);
-    if (!id.empty())
-        services_.link.journal.mark(id, state);
+    note(id, state);
     showNotices();
+}
+
+// A journal that cannot be written changes nothing about a file that was.
+void TLY_Downloads::note(const std::string& id, JournalState state) {
+    if (id.empty())
+        return;
+    try {
+        services_.link.journal.mark(id, state);
+    } catch (const Fault& fault) {
+        if (fault.number() == fault::fileNotFound().number())
+            return;
+        notices_.put(problemKey,
+                     words("The journal could not note that a download was " + std::string(stateName(state)) +
+                           " (" + fault.what() + "): it is offered again at the next start."));
+    }
 }
 
 } // namespace tally

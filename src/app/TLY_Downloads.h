@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tally {
 
@@ -37,23 +38,33 @@ public:
     const std::optional<PendingDownload>& pending() const { return pending_; }
     // The question where a received text goes.
     FileQuestion question(const std::string& text) const;
-    // The waiting text was written to a file.
-    void pendingSaved(const std::string& path);
+    // Asks where the waiting text goes and writes it there; false when the user chose no file.
+    bool savePending();
+    // Whether the waiting text may be replaced, or the window closed: one that the journal could not keep is
+    // offered to be saved before, and stays where it is unless it was saved or given up.
+    bool mayGo();
 
     // What opens a download that was saved.
     void onOpen(std::function<void(const std::string& path)> open) { open_ = std::move(open); }
 
     // One notice for each reception that waits for the user.
     void showNotices();
+    // The same when another program may have received something meanwhile.
+    void lookAgain();
 
 private:
+    std::vector<JournalEntry> waiting() const;
+    bool onlyInMemory(const std::vector<JournalEntry>& waiting) const;
+    void noticeOfPending();
     void notice(const JournalEntry& entry);
-    void show(const JournalEntry& entry);
+    std::string textOf(const std::string& id) const;
+    void show(const std::string& id, const std::string& title);
     void validate(const JournalEntry& entry);
     void saveAs(const std::string& id);
     void drop(const std::string& id);
     void saved(const std::string& text, const std::string& path);
     void settle(const std::string& id, JournalState state);
+    void note(const std::string& id, JournalState state);
 
     const Services& services_;
     Dispatcher& dispatcher_;
@@ -63,7 +74,8 @@ private:
     NoticeBar& notices_;
     std::optional<PendingDownload> pending_;
     std::function<void(const std::string& path)> open_;
-    QStringList keys_; // of the notices shown
+    QStringList keys_;  // of the notices shown
+    std::string shown_; // what they told of
 };
 
 } // namespace tally

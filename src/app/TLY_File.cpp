@@ -143,7 +143,7 @@ void TLY_File::showMru() {
 }
 
 void TLY_File::mnuItemClose_Click() {
-    if (!parts_.forced.mayLeave())
+    if (!parts_.forced.mayLeave() || !parts_.downloads.mayGo())
         return;
     reset();
     showMru();
@@ -182,14 +182,15 @@ Done TLY_File::saveWhole(int slot) {
 
 // The text that waits since a download; without one what the last save left.
 void TLY_File::savePending() {
-    const auto& pending = parts_.downloads.pending();
-    const std::string text = tally::quoted(pending ? pending->text : services_.recordings.gText);
+    if (parts_.downloads.pending()) {
+        parts_.downloads.savePending();
+        return;
+    }
+    const std::string text = tally::quoted(services_.recordings.gText);
     const auto path = services_.prompt.chooseFile(parts_.downloads.question(text));
     if (!path)
         return;
     services_.files.write(*path, text);
-    if (pending)
-        parts_.downloads.pendingSaved(*path);
     parts_.menus.apply(MenuEvent::saved);
 }
 

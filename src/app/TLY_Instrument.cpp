@@ -76,16 +76,23 @@ void TLY_Instrument::sayProblem() {
 
 void TLY_Instrument::mnuItemDownload_Click() {
     const Services& s = services_;
+    if (!downloads_.mayGo())
+        return;
     session([&] { downloads_.take(runDownload(window_, context_, s.files, s.link.workingDirectory)); });
     downloads_.showNotices();
 }
 
+// The instrument may hold the only other copy of what waits in memory alone.
 void TLY_Instrument::mnuItemInitialize_Click() {
+    if (!downloads_.mayGo())
+        return;
     session([&] { runInitialize(window_, context_); });
 }
 
 void TLY_Instrument::mnuItemRecover_Click() {
     const Services& s = services_;
+    if (!downloads_.mayGo())
+        return;
     session([&] { downloads_.take(runRecover(window_, context_, s.files, s.link.temporary)); });
     downloads_.showNotices();
 }

@@ -91,6 +91,9 @@ void TLY::placeWindow() {
 
 bool TLY::event(QEvent* event) {
     const bool done = QMainWindow::event(event);
+    // The command line may have received something meanwhile.
+    if (painted_ && event->type() == QEvent::WindowActivate && !dispatcher_.running())
+        commands_->downloads.lookAgain();
     if (!painted_ && event->type() == QEvent::Paint) {
         painted_ = true;
         QTimer::singleShot(0, this, [this] {
@@ -101,11 +104,22 @@ bool TLY::event(QEvent* event) {
     return done;
 }
 
+// A question whose save fails leaves everything as it is.
+bool TLY::mayClose() {
+    bool may = false;
+    dispatcher_.run([&] { may = commands_->forced.mayLeave() && commands_->downloads.mayGo(); });
+    return may;
+}
+
+void TLY::journalChanged() {
+    commands_->downloads.showNotices();
+}
+
 void TLY::closeEvent(QCloseEvent* event) {
     // A session with an instrument ends first.
     if (dispatcher_.running())
         services_.link.requestCancel();
-    if (dispatcher_.running() || !commands_->forced.mayLeave()) {
+    if (dispatcher_.running() || !mayClose()) {
         event->ignore();
         return;
     }

@@ -89,6 +89,10 @@ int main(int argc, char** argv) {
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });
+    // It is told in the middle of a session.
+    link.journal.onProblem([&window](const std::string&) {
+        QMetaObject::invokeMethod(&window, &tally::TLY::journalChanged, Qt::QueuedConnection);
+    });
     QObject::connect(&window, &tally::TLY::firstFrame, &splash, &QWidget::close);
     window.show();
     QTimer::singleShot(0, &window, [&] {

@@ -140,8 +140,12 @@ SessionResult<void> RecoverSession::watchEnd() {
 
 std::optional<RecoverRefusal> RecoverSession::onCharacter(char c) {
     hint_.heard();
-    if (text_.empty())
+    if (text_.empty()) {
         session_.panel.progressVisible(true);
+        // From here on nothing bounds the wait.
+        if (waitFor_ != Waiter::never)
+            hint_.start();
+    }
     text_ += scan_.feed(c);
     if (text_.size() > mostCharacters)
         throw fault::subscript();

@@ -138,6 +138,7 @@ InstrumentWait::Step InstrumentWait::checkToken(char c) {
     if (received_.scan.token() != HeaderScan::Token::valid)
         return policy_.tokenAtOnce ? wrongToken() : Step::goOn;
     tokenSeen_ = true;
+    hint_.start();
     if (timer_.running())
         timer_.StopTimer();
     timer_.setTriedBoth();
@@ -198,8 +199,12 @@ InstrumentWait::Step InstrumentWait::watchEnd() {
 }
 
 void InstrumentWait::firstCharacter() {
-    if (progress_ && progress_->first())
+    if (progress_ && progress_->first()) {
+        // From here on nothing bounds the wait.
+        if (waitDeadline_ != Waiter::never)
+            hint_.start();
         waitDeadline_ = Waiter::never;
+    }
     if (policy_.onFirst)
         policy_.onFirst();
     if (policy_.onRecording && !automatic())

@@ -4,6 +4,7 @@
 #include "core/Fault.h"
 #include "link/JournalText.h"
 #include "platform/Folders.h"
+#include "platform/Patiently.h"
 #include "platform/ReplaceFile.h"
 
 #include <QCoreApplication>
@@ -317,7 +318,8 @@ void JournalFolder::accept(const std::string& id, std::string_view text) {
 }
 
 bool JournalFolder::keeps(const std::string& id) {
-    settle();
+    patiently([this] { disk_.finish(); });
+    takeReport();
     try {
         const auto found = id.empty() ? std::nullopt : entry(id);
         return found && found->state == JournalState::accepted && files_.exists(path(id, dataEnding));

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
+#include "control/forms/InitInst.h"
 #include "link/forms/Dwnloaditem.h"
 #include "link/forms/InstSel.h"
 #include "link/forms/PortSel.h"
+#include "platform/JournalFolder.h"
+#include "platform/SafeFile.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTemporaryDir>
 
 namespace tally {
 namespace {
@@ -237,6 +241,197 @@ TEST_F(InstrumentTest, JournalThatCannotBeWrittenIsSaid) {
     send(memory());
     download();
     EXPECT_EQ(window.notices().text(QStringLiteral("journal")), QStringLiteral("Receptions cannot be kept."));
+}
+
+// A journal on a disk that fills up: it has a part of what came, and not what was accepted.
+class MemoryOnlyTest : public InstrumentTest {
+protected:
+    void SetUp() override {
+        journal.trouble = "No space left on device";
+        send(memory());
+        download();
+        prompt.shown.clear();
+        journal.receptions[0].parts = {memory().substr(0, 70)};
+    }
+    QString notice() { return window.notices().text(QStringLiteral("only in memory")); }
+    bool closes() {
+        QCloseEvent close;
+        QApplication::sendEvent(&window, &close);
+        return close.isAccepted();
+    }
+};
+
+TEST_F(MemoryOnlyTest, TheWholeIsOfferedAndNotWhatTheJournalHasOfIt) {
+    window.journalChanged();
+    EXPECT_EQ(notice().toStdString(),
+              "The download of instrument 1234 is in no file and on no disk. Save it before anything else.");
+    EXPECT_TRUE(noticeOf("1").isEmpty());
+    prompt.files.push_back("/d/new.dat");
+    press("Save As...");
+    EXPECT_THAT(files.contents["/d/new.dat"], HasSubstr("128 129\n\r\x1a"));
+    EXPECT_TRUE(notice().isEmpty());
+    EXPECT_TRUE(closes());
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(MemoryOnlyTest, ExitAsksNamesTheCauseAndSavesTheWhole) {
+    prompt.answers = {Answer::Yes};
+    prompt.files.push_back("/d/new.dat");
+    EXPECT_TRUE(closes());
+    EXPECT_THAT(files.contents["/d/new.dat"], HasSubstr("128 129\n\r\x1a"));
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_THAT(prompt.shown[0].text, HasSubstr("No space left on device"));
+}
+
+TEST_F(MemoryOnlyTest, ExitIsGivenUpUnlessItIsSavedOrDropped) {
+    prompt.answers = {Answer::No, Answer::No};
+    EXPECT_FALSE(closes());
+    prompt.answers = {Answer::Yes};
+    prompt.files.push_back(std::nullopt);
+    EXPECT_FALSE(closes());
+    prompt.answers = {Answer::Yes};
+    prompt.files.push_back("/d/new.dat");
+    files.failWrite = fault::diskFull();
+    EXPECT_FALSE(closes());
+    EXPECT_EQ(prompt.shown.back().text, "Error number 61: Disk full");
+    prompt.answers = {Answer::No, Answer::Yes};
+    EXPECT_TRUE(closes());
+}
+
+TEST_F(MemoryOnlyTest, CloseAsks) {
+    open("/d/a.dat", dataFile('a', {100, 200, 300}));
+    prompt.answers = {Answer::No, Answer::No};
+    click("mnuItemClose");
+    EXPECT_TRUE(recordings.isOpen(0));
+    prompt.answers = {Answer::Yes};
+    prompt.files.push_back("/d/new.dat");
+    click("mnuItemClose");
+    EXPECT_FALSE(recordings.isOpen(0));
+    EXPECT_THAT(files.contents["/d/new.dat"], HasSubstr("128 129\n\r\x1a"));
+}
+
+TEST_F(MemoryOnlyTest, AnotherSessionDoesNotReplaceIt) {
+    const auto openings = line.calls.size();
+    for (const char* command : {"mnuItemDownload", "mnuItemRecover", "mnuItemInitialize"}) {
+        prompt.answers = {Answer::No, Answer::No};
+        click(command);
+        EXPECT_EQ(line.calls.size(), openings) << command;
+    }
+    EXPECT_FALSE(notice().isEmpty());
+    prompt.files.push_back("/d/new.dat");
+    click("mnuItemSave");
+    EXPECT_THAT(files.contents["/d/new.dat"], HasSubstr("128 129\n\r\x1a"));
+}
+
+TEST_F(MemoryOnlyTest, AReceptionThatIsValidatedDoesNotReplaceIt) {
+    journal.receptions.push_back({.parts = {memory()}, .state = JournalState::interrupted});
+    window.journalChanged();
+    prompt.answers = {Answer::No, Answer::No};
+    press("Validate");
+    EXPECT_FALSE(notice().isEmpty());
+    EXPECT_EQ(journal.receptions[1].state, JournalState::interrupted);
+}
+
+// The same with a real journal in a folder that cannot be made.
+TEST_F(InstrumentTest, WhatAJournalWithoutItsFolderCouldNotKeepIsAskedAbout) {
+    const QTemporaryDir folder;
+    QFile blocker(folder.filePath(QStringLiteral("data")));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    SafeFile disk;
+    JournalFolder real(blocker.fileName().toStdString() + "/journal", disk);
+    LinkServices realLink{line, waiter, real, instrument, ports, [this] { waiter.cancelNow(); }, "/work", ""};
+    Services realServices{recordings, display, settings, files, clock, prompt, chooser, realLink};
+    TLY other(realServices);
+    send(memory());
+    instrument.instSelection = 4;
+    whenOpen<Dwnloaditem>(
+        [](Dwnloaditem& form) { form.findChild<QPushButton*>(QStringLiteral("OK"))->click(); });
+    other.menus().item("mnuItemDownload").trigger();
+    EXPECT_FALSE(other.notices().text(QStringLiteral("only in memory")).isEmpty());
+    EXPECT_THAT(other.notices().text(QStringLiteral("journal")).toStdString(),
+                HasSubstr("The journal of downloads cannot be written in "));
+    prompt.answers = {Answer::No, Answer::No};
+    QCloseEvent close;
+    QApplication::sendEvent(&other, &close);
+    EXPECT_FALSE(close.isAccepted());
+    EXPECT_THAT(prompt.shown.at(prompt.shown.size() - 2).text, HasSubstr("Not a directory"));
+}
+
+TEST_F(InstrumentTest, SaveProposesSerialNumberAndDayInTheFolderUsedLast) {
+    send(memory());
+    download();
+    prompt.files.push_back("/usb/stick/other.dat");
+    click("mnuItemSave");
+    EXPECT_EQ(prompt.filesAsked.back().name, "1234-2024-03-15.dat");
+    download();
+    prompt.files.push_back(std::nullopt);
+    click("mnuItemSave");
+    EXPECT_EQ(prompt.filesAsked.back().name, "1234-2024-03-15.dat");
+    EXPECT_EQ(prompt.filesAsked.back().folder, "/usb/stick");
+}
+
+TEST_F(InstrumentTest, RefusedDownloadIsOffered) {
+    std::string bad = memory();
+    bad.replace(bad.find(" 120"), 4, " 1x0");
+    send(bad);
+    prompt.answers = {Answer::No};
+    download();
+    EXPECT_THAT(noticeOf("1").toStdString(), HasSubstr("PQX Ser. 1234"));
+    EXPECT_THAT(noticeOf("1").toStdString(), HasSubstr("refused"));
+    prompt.answers = {Answer::Yes};
+    press("Validate");
+    EXPECT_TRUE(enabled("mnuItemSave"));
+}
+
+TEST_F(InstrumentTest, WhatTheCommandLineReceivedIsOfferedWhenTheWindowIsLookedAtAgain) {
+    window.show();
+    QApplication::processEvents();
+    window.grab();
+    QApplication::processEvents();
+    journal.receptions.push_back({.parts = {memory()}, .state = JournalState::refused});
+    QEvent activate(QEvent::WindowActivate);
+    QApplication::sendEvent(&window, &activate);
+    EXPECT_FALSE(noticeOf("1").isEmpty());
+}
+
+TEST_F(InstrumentTest, InitializeAsksBeforeItErasesWhatIsNotSaved) {
+    send(memory());
+    download();
+    prompt.shown.clear();
+    whenOpen<InitInst>([](InitInst& form) { form.accept(); });
+    prompt.answers = {Answer::Ok, Answer::Ok, Answer::No};
+    click("mnuItemInitialize");
+    ASSERT_EQ(prompt.shown.size(), 3U);
+    EXPECT_THAT(prompt.shown[2].text, StartsWith("A download of this instrument is not saved yet:"));
+    EXPECT_EQ(prompt.shown[2].defaultAnswer, Answer::No);
+    EXPECT_EQ(prompt.shown[0].defaultAnswer, Answer::Cancel);
+    EXPECT_EQ(prompt.shown[1].defaultAnswer, Answer::Cancel);
+    EXPECT_EQ(line.written, "");
+    EXPECT_FALSE(line.isOpen());
+}
+
+TEST_F(InstrumentTest, AWaitSaysWhatToCheckAfterTenSecondsAndNoLongerToInsertTheCable) {
+    QString hint;
+    QString before;
+    QString during;
+    instrument.instSelection = 4;
+    waiter.after(11000, [&] {
+        const auto* form = QApplication::activeModalWidget();
+        hint = form->findChild<QLabel*>(QStringLiteral("HintLabel"))->text();
+        line.send(memory().substr(0, 60));
+        waiter.after(100, [&, form] {
+            during = form->findChild<QLabel*>(QStringLiteral("PromptLabel"))->text();
+            waiter.cancelNow();
+        });
+    });
+    whenOpen<Dwnloaditem>([&](Dwnloaditem& form) {
+        before = form.findChild<QLabel*>(QStringLiteral("PromptLabel"))->text();
+        form.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    });
+    click("mnuItemDownload");
+    EXPECT_THAT(before.toStdString(), HasSubstr("Insert the cable into the instrument."));
+    EXPECT_THAT(hint.toStdString(), StartsWith("Nothing has come since "));
+    EXPECT_EQ(during, QStringLiteral("The instrument is sending. Leave the cable in until the end."));
 }
 
 } // namespace

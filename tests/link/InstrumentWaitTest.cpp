@@ -121,6 +121,24 @@ TEST_F(InstrumentWaitTest, aWaitWithALimitNeedsNoHint) {
     EXPECT_TRUE(panel.hints.empty());
 }
 
+TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterABoundedWaitIsSaidToo) {
+    ofType(5, 10710);
+    line.sendAt(1000, memory().substr(0, 60));
+    waiter.cancelAt(30000);
+    EXPECT_FALSE(run(5000));
+    ASSERT_EQ(panel.hints.size(), 2U);
+    EXPECT_TRUE(panel.hints[0].starts_with("Nothing has come since 14:05. Check that "));
+}
+
+TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterTheTokenIsSaidToo) {
+    automatic(7);
+    line.sendAt(1000, memory().substr(0, 60));
+    waiter.cancelAt(30000);
+    EXPECT_FALSE(run());
+    ASSERT_EQ(panel.hints.size(), 2U);
+    EXPECT_NE(panel.hints[0].find("Nothing has come since 14:05"), std::string::npos);
+}
+
 TEST_F(InstrumentWaitTest, theSpecialTestSizeHasTheLimitOfItsOwnSize) {
     ofType(9, 294);
     line.sendAt(10, "P" + std::string(60000, '1'));

@@ -11,7 +11,7 @@
 
 namespace tally::testing {
 
-// A journal in memory; it keeps everything.
+// A journal in memory; it keeps everything, but no accepted text while it has trouble.
 class MemoryJournal : public Journal {
 public:
     struct Reception {
@@ -37,6 +37,8 @@ public:
     void end(JournalState state) override { receptions.back().state = state; }
     void accepted(std::string_view text) override { accept(id(), text); }
     void accept(const std::string& id, std::string_view text) override {
+        if (!trouble.empty())
+            return;
         at(id).accepted = text;
         at(id).state = JournalState::accepted;
     }
