@@ -186,6 +186,7 @@ SessionResult<PendingDownload> RecoverSession::workOut(Files& files, const std::
         const SessionEnd why = recoverEnd(RecoverRefusal::notRecoverable);
         return session_.end(why.kind, why.why);
     }
+    warnOfDamage(text_, session_.prompt);
     return accept(recoverText(text_, header, readings));
 }
 

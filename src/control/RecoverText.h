@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/Header.h"
+#include "core/Prompt.h"
 #include "core/ReadingTime.h"
 #include "link/SessionEnd.h"
 
@@ -37,6 +38,11 @@ RecoverHeader recoverHeader(std::string_view text);
 // Overflow for a reading that no recording can hold.
 std::string quotedText(std::string_view text);
 int countReadings(std::string_view file);
+
+// What was damaged on the line, as far as that can be seen: lines of another number of readings than ten, and
+// readings that are no numbers. Words for a warning; empty when there is nothing.
+std::string damageText(std::string_view text);
+void warnOfDamage(std::string_view text, Prompt& prompt);
 
 // Whether a recording of so many readings has overwritten its own beginning, so that its end has no time.
 bool overwritten(char mode, int readings, std::int32_t maxSamples);

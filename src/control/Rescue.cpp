@@ -50,6 +50,7 @@ SessionResult<PendingDownload> rescueRecover(Journal& journal, const JournalEntr
         const RecoverHeader header = recoverHeader(ended.text);
         const int readings = countReadings(quotedText(ended.text));
         if (!overwritten(header.mode, readings, memoryOf(entry.header))) {
+            warnOfDamage(ended.text, prompt);
             const RecoveredText recovered = recoverText(ended.text, header, readings);
             journal.accept(entry.id, recovered.text);
             return PendingDownload{recovered.text, entry.id};

@@ -5,6 +5,7 @@
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
 #include "core/Text1252.h"
+#include <algorithm>
 #include <string_view>
 
 namespace tally {
@@ -34,10 +35,21 @@ void readMode(char c, StatusFields& fields) {
     fields.whenFull = row.whenFull;
 }
 
+bool isPrintable(char c) {
+    return c >= ' ' && c <= '~';
+}
+
+bool isOfCode(char c) {
+    return isLetter(c) || (c >= '0' && c <= '9') || c == ' ';
+}
+
 } // namespace
 
+// Noise may end where a header begins, and lend it an initial of its own.
 bool hasStatusFields(std::string_view line1) {
-    return line1.size() >= column::mode.end() && timeOf(line1).has_value();
+    return line1.size() >= column::mode.end() && timeOf(line1).has_value() &&
+           std::ranges::all_of(headerField(line1, column::model), isOfCode) &&
+           std::ranges::all_of(headerField(line1, column::serial), isPrintable);
 }
 
 StatusFields readStatusHeader(const std::string& line1, bool lowBattery) {

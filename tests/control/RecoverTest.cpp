@@ -348,6 +348,21 @@ TEST(Recover, AWaitWithoutALimitSaysWhatToCheckAfterTenSeconds) {
     EXPECT_EQ(test.panel.hints[1], "");
 }
 
+TEST(Recover, ReadingsThatWereDamagedOnTheLineAreWarnedOf) {
+    Recovery test;
+    std::string text = memory('F', 10);
+    text.insert(text.find("T:") + 2, " 1A ");
+    test.comes(text);
+    EXPECT_TRUE(test.run());
+    EXPECT_EQ(std::count_if(test.user.shown.begin(), test.user.shown.end(),
+                            [](const Message& message) {
+                                return message.title == "WARNING" &&
+                                       message.text.find("1 reading(s) that are no numbers") !=
+                                           std::string::npos;
+                            }),
+              1);
+}
+
 TEST(Recover, AModeOutsideTheTableIsAFault) {
     Recovery test;
     test.comes(memory('Q', 60));

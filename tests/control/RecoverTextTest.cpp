@@ -111,5 +111,17 @@ TEST(RecoverText, TheStopTimeTakesTheFourteenPlacesOfTheHeaderTime) {
     EXPECT_EQ(done.readings, 60);
 }
 
+TEST(RecoverText, DamageOnTheLineIsCounted) {
+    const std::string header = "KWTF   1234                   03-15-24 11:00\r\nT:";
+    const std::string ten = "   1   2   3   4   5   6   7   8   9  10\n\r";
+    EXPECT_EQ(damageText(header + ten + ten + "  11\x1a"), "");
+    EXPECT_EQ(damageText(header + "105.3 99.9 99.8  0.8  0.5  0.0  0.1  0.2  0.3  0.4\n\r  0.6\x1a"), "");
+    EXPECT_EQ(damageText(header + "\x1a"), "");
+    const std::string damaged = damageText(header + ten + "   1   2   A   4   5   6   7   8   9\n\r\x1a");
+    EXPECT_NE(damaged.find("1 line(s) with an incorrect number of readings\r\n"), std::string::npos);
+    EXPECT_NE(damaged.find("1 reading(s) that are no numbers\r\n"), std::string::npos);
+    EXPECT_NE(damageText(header + "   1 1.2.3\x1a").find(" 1 reading(s)"), std::string::npos);
+}
+
 } // namespace
 } // namespace tally

@@ -102,5 +102,20 @@ TEST(StatusHeaderTest, aBlankModeKeepsItsWordsAndIsExplainedUnderThem) {
               "\r HVN 40 and 80 have no mode letter; they record 15-minute averages in a continuous loop.");
 }
 
+TEST(StatusHeader, NoiseThatEndsWhereAHeaderBeginsIsNone) {
+    const std::string header = "KWTH   1234                   03-15-24 12:00   Vbatt 3E8";
+    EXPECT_TRUE(hasStatusFields(header));
+    EXPECT_TRUE(hasStatusFields("HV     1234                   03-15-24 12:00   Vbatt 3E8"));
+    std::string odd = header;
+    odd[3] = '\0';
+    EXPECT_TRUE(hasStatusFields(odd));
+    std::string model = header;
+    model[1] = '"';
+    EXPECT_FALSE(hasStatusFields(model));
+    std::string serial = header;
+    serial[8] = '\xf5';
+    EXPECT_FALSE(hasStatusFields(serial));
+}
+
 } // namespace
 } // namespace tally

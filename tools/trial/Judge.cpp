@@ -5,6 +5,8 @@
 #include "sim/Record.h"
 
 #include <algorithm>
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -86,7 +88,10 @@ std::string portFault(const Plan& plan, const Remains& remains, const std::vecto
     std::error_code none;
     for (const auto& entry : fs::directory_iterator("/run/lock", none)) {
         const std::string name = entry.path().filename().string();
-        if (name.starts_with("LCK..") && (name.ends_with("_" + terminal) || name == "LCK.." + terminal))
+        // A terminal that has gone may be another session's by now, and its lock too.
+        const long holder = std::atol(bytesOf(entry.path().string()).c_str());
+        if (name.starts_with("LCK..") && (name.ends_with("_" + terminal) || name == "LCK.." + terminal) &&
+            (holder <= 0 || kill(static_cast<pid_t>(holder), 0) != 0))
             return "a lock of the port was left behind";
     }
     return "";
