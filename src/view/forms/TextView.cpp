@@ -2,10 +2,12 @@
 #include "view/forms/TextView.h"
 
 #include "view/forms/FindBar.h"
+#include "view/forms/ShapedLine.h"
 #include "view/forms/TextViewAccess.h"
 
 #include <QClipboard>
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QLabel>
@@ -13,6 +15,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 
 namespace tally {
 namespace {
@@ -42,8 +45,8 @@ protected:
         painter.setPen(palette().color(QPalette::WindowText));
         const QFontMetrics metrics(font());
         for (int line = 0; line < lines.size(); ++line)
-            painter.drawText(margin - shift, margin / 2 + line * metrics.lineSpacing() + metrics.ascent(),
-                             lines[line]);
+            ShapedLine(lines[line], *this)
+                .draw(painter, {double(margin - shift), margin / 2.0 + line * metrics.lineSpacing()});
     }
 };
 
@@ -82,21 +85,18 @@ void TextView::setText(const QString& heading, const QString& text) {
     heading_ = oneBreak(heading);
     text_ = oneBreak(text);
     starts_.assign(1, 0);
-    widest_ = 0;
     for (qsizetype at = 0, end = 0; at <= text_.size(); at = end + 1) {
         end = text_.indexOf(u'\n', at);
         if (end < 0)
             end = text_.size();
-        widest_ = std::max(widest_, int(end - at));
         if (end + 1 < text_.size()) // what follows the last line break is no line
             starts_.push_back(int(end + 1));
     }
     auto* head = static_cast<Heading*>(head_);
     head->lines = heading_.isEmpty() ? QStringList() : heading_.split(u'\n');
-    for (const QString& line : head->lines)
-        widest_ = std::max(widest_, int(line.size()));
     head->setAccessibleName(heading_);
     anchor_ = cursor_ = 0;
+    measure();
     layOut();
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
@@ -104,8 +104,33 @@ void TextView::setText(const QString& heading, const QString& text) {
     TextViewAccess::textChanged(*this);
 }
 
-int TextView::cell() const {
-    return std::max(QFontMetrics(font()).horizontalAdvance(u'0'), 1);
+QString TextView::lineText(int line) const {
+    const int begin = starts_[std::size_t(line)];
+    return text_.mid(begin, lineEnd(line) - begin);
+}
+
+// In a font of one width a line of letters is as wide as it is long, so that one line need be shaped; the
+// others are shaped each.
+double TextView::widestLine() const {
+    const bool oneWidth = QFontInfo(font()).fixedPitch();
+    double widest = 0;
+    int longest = -1;
+    for (int line = 0; line < lineCount(); ++line) {
+        const QString letters = lineText(line);
+        if (!oneWidth || !isPlain(letters))
+            widest = std::max(widest, ShapedLine(letters, *this).width());
+        else if (letters.size() > longest) {
+            longest = int(letters.size());
+            widest = std::max(widest, ShapedLine(letters, *this).width());
+        }
+    }
+    return widest;
+}
+
+void TextView::measure() {
+    widest_ = widestLine();
+    for (const QString& line : static_cast<Heading*>(head_)->lines)
+        widest_ = std::max(widest_, ShapedLine(line, *this).width());
 }
 
 int TextView::lineHeight() const {
@@ -125,9 +150,10 @@ void TextView::layOut() {
     const int rows = viewport()->height() / lineHeight();
     verticalScrollBar()->setRange(0, std::max(lineCount() - rows, 0));
     verticalScrollBar()->setPageStep(std::max(rows - 1, 1));
-    horizontalScrollBar()->setRange(0, std::max(widest_ * cell() + 2 * margin - viewport()->width(), 0));
+    horizontalScrollBar()->setRange(0,
+                                    std::max(int(std::ceil(widest_)) + 2 * margin - viewport()->width(), 0));
     horizontalScrollBar()->setPageStep(viewport()->width());
-    horizontalScrollBar()->setSingleStep(cell() * 4);
+    horizontalScrollBar()->setSingleStep(QFontMetrics(font()).averageCharWidth() * 4);
 }
 
 void TextView::resizeEvent(QResizeEvent* event) {
@@ -137,8 +163,10 @@ void TextView::resizeEvent(QResizeEvent* event) {
 
 void TextView::changeEvent(QEvent* event) {
     QAbstractScrollArea::changeEvent(event);
-    if (event->type() == QEvent::FontChange && head_)
+    if (event->type() == QEvent::FontChange && head_) {
+        measure();
         layOut();
+    }
 }
 
 void TextView::scrollContentsBy(int, int) {
@@ -153,28 +181,31 @@ int TextView::firstVisibleLine() const {
 
 void TextView::paintEvent(QPaintEvent*) {
     QPainter painter(viewport());
-    const QFontMetrics metrics(font());
     const int height = lineHeight();
-    const int left = margin - horizontalScrollBar()->value();
+    const double left = margin - horizontalScrollBar()->value();
     const auto [from, to] = std::minmax(anchor_, cursor_);
     const auto group = hasFocus() ? QPalette::Active : QPalette::Inactive;
+    painter.setPen(palette().color(QPalette::Text));
     for (int line = firstVisibleLine(), top = 0; line < lineCount() && top < viewport()->height();
          ++line, top += height) {
         const int begin = starts_[std::size_t(line)];
-        const int end = lineEnd(line);
-        painter.setPen(palette().color(QPalette::Text));
-        painter.drawText(left, top + metrics.ascent(), text_.mid(begin, end - begin));
-        const int first = std::max(begin, from);
-        const int last = std::min(end, to);
+        const ShapedLine shaped(lineText(line), *this);
+        shaped.draw(painter, QPointF(left, top));
+        const int first = std::max(begin, from) - begin;
+        const int last = std::min(lineEnd(line), to) - begin;
         if (first >= last)
             continue;
-        const QRect mark(left + (first - begin) * cell(), top, (last - first) * cell(), height);
+        const double start = left + shaped.xOf(first);
+        const QRectF mark(start, top, left + shaped.xOf(last) - start, height);
+        painter.save();
+        painter.setClipRect(mark);
         painter.fillRect(mark, palette().brush(group, QPalette::Highlight));
         painter.setPen(palette().color(group, QPalette::HighlightedText));
-        painter.drawText(mark.left(), top + metrics.ascent(), text_.mid(first, last - first));
+        shaped.draw(painter, QPointF(left, top));
+        painter.restore();
     }
     if (hasFocus() && anchor_ == cursor_)
-        painter.fillRect(QRect(characterRect(cursor_).topLeft(), QSize(1, height)),
+        painter.fillRect(QRectF(characterRect(cursor_).topLeft(), QSizeF(1, height)),
                          palette().color(QPalette::Text));
 }
 
@@ -194,16 +225,21 @@ int TextView::at(int line, int column) const {
                       lineEnd(line));
 }
 
-QRect TextView::characterRect(int position) const {
+QRectF TextView::characterRect(int position) const {
     const int line = lineOf(position);
-    const int x = margin - horizontalScrollBar()->value() + (position - starts_[std::size_t(line)]) * cell();
-    return {x, (line - firstVisibleLine()) * lineHeight(), cell(), lineHeight()};
+    const int column = position - starts_[std::size_t(line)];
+    const ShapedLine shaped(lineText(line), *this);
+    const double x = shaped.xOf(column);
+    const double end = column < lineEnd(line) - starts_[std::size_t(line)] ? shaped.xOf(column + 1) : x;
+    return {margin - horizontalScrollBar()->value() + x, double(line - firstVisibleLine()) * lineHeight(),
+            end - x, double(lineHeight())};
 }
 
-int TextView::positionAt(const QPoint& place) const {
-    const int line = firstVisibleLine() + int(std::floor(double(place.y()) / lineHeight()));
-    const int column = (place.x() - margin + horizontalScrollBar()->value() + cell() / 2) / cell();
-    return at(line, column);
+int TextView::positionAt(const QPointF& place) const {
+    const int line =
+        std::clamp(firstVisibleLine() + int(std::floor(place.y() / lineHeight())), 0, lineCount() - 1);
+    const double x = place.x() - margin + horizontalScrollBar()->value();
+    return starts_[std::size_t(line)] + ShapedLine(lineText(line), *this).nearestGap(x);
 }
 
 QString TextView::selectedText() const {
@@ -232,7 +268,7 @@ void TextView::showCursor() {
         verticalScrollBar()->setValue(line);
     else if (line >= first + rows)
         verticalScrollBar()->setValue(line - rows + 1);
-    const int x = (cursor_ - starts_[std::size_t(line)]) * cell();
+    const int x = int(std::ceil(ShapedLine(lineText(line), *this).xOf(cursor_ - starts_[std::size_t(line)])));
     const int shift = horizontalScrollBar()->value();
     if (x < shift)
         horizontalScrollBar()->setValue(x);

@@ -40,8 +40,9 @@ public:
     void showFindBar();
 
     // The place of a character on the viewport.
-    QRect characterRect(int position) const;
-    int positionAt(const QPoint& place) const;
+    QRectF characterRect(int position) const;
+    // The gap between characters that is nearest to a place on the viewport.
+    int positionAt(const QPointF& place) const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -62,13 +63,15 @@ private:
     int lineOf(int position) const;
     int lineEnd(int line) const;
     int at(int line, int column) const;
-    int cell() const;
     int lineHeight() const;
+    QString lineText(int line) const;
+    double widestLine() const;
+    void measure();
 
     QString heading_;
     QString text_;
     std::vector<int> starts_; // where each line begins in text_
-    int widest_ = 0;          // characters of the longest line
+    double widest_ = 0;       // pixels of the widest line
     int anchor_ = 0;
     int cursor_ = 0;
     QWidget* head_ = nullptr;

@@ -102,7 +102,7 @@ int TextViewAccess::characterCount() const {
 }
 
 QRect TextViewAccess::characterRect(int offset) const {
-    const QRect place = view().characterRect(offset);
+    const QRect place = view().characterRect(offset).toRect();
     return {view().viewport()->mapToGlobal(place.topLeft()), place.size()};
 }
 

@@ -16,16 +16,16 @@ namespace tally {
 void TextView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return;
-    moveCursor(positionAt(event->position().toPoint()), event->modifiers().testFlag(Qt::ShiftModifier));
+    moveCursor(positionAt(event->position()), event->modifiers().testFlag(Qt::ShiftModifier));
 }
 
 void TextView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton))
-        moveCursor(positionAt(event->position().toPoint()), true); // beyond the border this scrolls
+        moveCursor(positionAt(event->position()), true); // beyond the border this scrolls
 }
 
 void TextView::mouseDoubleClickEvent(QMouseEvent* event) {
-    const int place = positionAt(event->position().toPoint());
+    const int place = positionAt(event->position());
     int from = place;
     int to = place;
     while (from > 0 && !text_[from - 1].isSpace())

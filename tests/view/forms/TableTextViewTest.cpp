@@ -27,8 +27,8 @@ protected:
     }
 
     void mouse(QEvent::Type type, int position, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        const QPointF place = QRectF(view.characterRect(position)).center() -
-                              QPointF(view.characterRect(position).width() / 2.0 - 1, 0);
+        const QRectF character = view.characterRect(position);
+        const QPointF place(character.left() + 1, character.center().y());
         QMouseEvent event(type, place, view.viewport()->mapToGlobal(place), Qt::LeftButton,
                           type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, modifiers);
         QApplication::sendEvent(view.viewport(), &event);
