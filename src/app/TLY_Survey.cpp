@@ -19,7 +19,7 @@ void TLY_Survey::mnuitemsurvfil_Click() {
         .folder = folder_.forDialog(),
         .print = [this](const SurveyPaper& paper) { printing_.print(paper.title, {}, paper.text); },
         .preview = [this](const SurveyPaper& paper) { printing_.preview(paper.title, paper.text); },
-        .attempt = [this](const std::function<void()>& step) { dispatcher_.attempt(step); }};
+        .attempt = [this](const std::function<Done()>& step) { dispatcher_.attempt(step); }};
     LoadSurv dialog(survey_, services, window_);
     dialog.exec();
 }

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/AnswerPrompt.h"
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
@@ -10,9 +9,6 @@
 namespace tally::cli {
 
 namespace {
-
-// A survey's peak times stand with six blanks between hour and date.
-constexpr std::string_view peakTime = "%H:%M      %b %d, %y";
 
 struct Options {
     std::string station;
@@ -48,15 +44,11 @@ FeederOption parseFeeder(const std::string& text) {
 }
 
 void processFeeder(Context& context, SurveyDesk& desk, int number, const FeederOption& feeder) {
-    AnswerPrompt prompt;
     desk.proceed(number, feeder.name);
     for (int phase = 0; phase < phaseCount; ++phase) {
         const std::string& file = feeder.files[static_cast<std::size_t>(phase)];
-        const LoadOutcome outcome = desk.load(phase, file, context.files(), prompt);
-        if (outcome == LoadOutcome::voltage)
-            throw Refused(prompt.told());
-        if (outcome != LoadOutcome::loaded)
-            throw Refused(prompt.told() + "\n(" + desk.refusal() + ")");
+        if (const auto loaded = desk.load(phase, file, context.files()); !loaded)
+            throw Refused(loaded.error());
     }
     desk.showResult();
 }
@@ -119,8 +111,7 @@ int run(Context& context, const Options& options) {
     if (count > feederCount)
         throw WrongUsage("A survey takes at most four feeders");
     SurveyData survey;
-    AnswerPrompt station(options.station);
-    startSurvey(survey, station);
+    beginSurvey(survey, options.station);
     SurveyDesk desk(survey);
     for (int feeder = 0; feeder < count; ++feeder)
         processFeeder(context, desk, feeder, feeders[static_cast<std::size_t>(feeder)]);

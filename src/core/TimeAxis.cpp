@@ -9,6 +9,23 @@ namespace tally {
 
 namespace {
 
+constexpr std::int64_t minutesPerHour = 60;
+constexpr std::int64_t minutesPerDay = 24 * minutesPerHour;
+// From here on hours say less than days.
+constexpr std::int64_t daysFrom = 3 * minutesPerDay;
+
+// "15 min", "26 h", "1 h 30 min", "12 days".
+std::string lengthText(std::int64_t minutes) {
+    if (minutes >= daysFrom)
+        return std::to_string(minutes / minutesPerDay) + " days";
+    const std::int64_t hours = minutes / minutesPerHour;
+    const std::int64_t rest = minutes % minutesPerHour;
+    std::string text = hours > 0 ? std::to_string(hours) + " h" : "";
+    if (rest > 0)
+        text += (text.empty() ? "" : " ") + std::to_string(rest) + " min";
+    return text;
+}
+
 // The entries of one file.
 struct Stretch {
     ReadingTime start;
@@ -24,7 +41,7 @@ Stretch wholeFile(const FileFacts& info, int stride) {
 }
 
 // Only the entries that the range touches.
-Stretch narrowed(const Stretch& whole, const IndexRange& range, int stride, int interval) {
+Stretch narrowed(const Stretch& whole, const Range& range, int stride, int interval) {
     const auto entryOf = [&](int reading) { return std::max(reading - whole.firstReading, 0) / stride; };
     const std::int64_t from = entryOf(range.first);
     const std::int64_t past = range.last < whole.firstReading
@@ -80,7 +97,7 @@ std::optional<Refusal> cutTo(const FileFacts& info, const Stretch& other, const 
 
 } // namespace
 
-Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<IndexRange> range) {
+Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<Range> range) {
     const FileFacts& info = files.front();
     const int interval = modeRow(info.modeLetter).minutes;
     const int stride = valuesPerInterval(info.modeLetter);
@@ -106,9 +123,16 @@ Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<I
     return axis;
 }
 
-Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<IndexRange> range) {
+Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<Range> range) {
     const auto begin = recordings.gInfo.begin();
     return timeAxis(std::vector<FileFacts>(begin, begin + recordings.openCount()), range);
+}
+
+std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes) {
+    if (minutes == 0)
+        return {};
+    return file + " starts " + lengthText(std::abs(minutes)) + (minutes > 0 ? " after " : " before ") +
+           first + "; readings are combined by number, not by time";
 }
 
 } // namespace tally

@@ -5,15 +5,10 @@
 #include "core/Refusal.h"
 
 #include <optional>
+#include <string>
 #include <vector>
 
 namespace tally {
-
-// Reading indexes of a file as they were given, both inclusive.
-struct IndexRange {
-    int first = 0;
-    int last = 0;
-};
 
 // The stretch of time that files share, as entries one interval apart. An entry is a reading, or a triple of
 // a Min/Max/Avg recording: triples are counted from the newest reading, an incomplete oldest one is left out.
@@ -37,9 +32,13 @@ struct TimeAxis {
 // readings of the first file and narrows it; a triple that it touches takes part whole. Refuses files of
 // another unit or interval than the first, a start that lies no whole interval from the first file's, and
 // files (or a range) without a common entry.
-Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<IndexRange> range = {});
+Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<Range> range = {});
 // The same of the files that are open.
-Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<IndexRange> range = {});
+Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<Range> range = {});
+
+// What is to be said of files without a common axis: "b.dat starts 26 h after a.dat; readings are combined by
+// number, not by time"; empty for no minutes.
+std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes);
 
 inline constexpr const char* axisOtherUnit = "The files are not all of one unit";
 inline constexpr const char* axisOtherInterval = "The files have different intervals";

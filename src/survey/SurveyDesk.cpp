@@ -4,6 +4,8 @@
 #include "core/Fileopen.h"
 #include "core/Fileopenera.h"
 #include "core/ModeTable.h"
+#include "core/Numbers.h"
+#include "core/TimeAxis.h"
 #include "survey/Peaks.h"
 
 #include <algorithm>
@@ -13,10 +15,6 @@ namespace tally {
 namespace {
 
 constexpr std::array<std::string_view, phaseCount> phaseNames = {"red", "white", "blue"};
-
-std::string nameOf(const std::string& path) {
-    return path.substr(path.find_last_of("/\\") + 1);
-}
 
 std::string placeOf(const SurveyData& survey, int feeder, int phase) {
     return survey.feederNames.at(static_cast<std::size_t>(feeder)) + ", " + std::string(phaseName(phase)) +
@@ -39,12 +37,21 @@ std::string upperCased(std::string text) {
 } // namespace
 
 bool startSurvey(SurveyData& survey, Prompt& prompt) {
-    const auto name = prompt.input({.text = std::string(stationNamePrompt), .preset = {}});
-    if (!name)
-        return false;
+    for (;;) {
+        const auto name = prompt.input({.text = std::string(stationNamePrompt), .preset = {}});
+        if (!name)
+            return false;
+        // A report without the name of its station is of no use.
+        if (name->find_first_not_of(' ') == std::string::npos)
+            continue;
+        beginSurvey(survey, *name);
+        return true;
+    }
+}
+
+void beginSurvey(SurveyData& survey, const std::string& station) {
     survey = {};
-    survey.stationName = upperCased(*name);
-    return true;
+    survey.stationName = upperCased(station);
 }
 
 std::string defaultFeederName(int feeder) {
@@ -102,50 +109,49 @@ const PhaseFile* SurveyDesk::reference() const {
 }
 
 void SurveyDesk::addNotices(const PhaseFile& file, const std::string& place, const Files& files) {
-    const std::string lead = place + ": " + nameOf(file.facts.path);
-    const auto add = [&](const std::string& text) { survey_.notices.push_back(lead + text); };
+    const std::string name = fileNameOf(file.facts.path);
+    const auto add = [&](const std::string& text) { survey_.notices.push_back(place + ": " + name + text); };
     for (const Taken& taken : taken_)
         if (files.same(fileOf(taken).facts.path, file.facts.path))
             add(" is also taken for " + placeOf(survey_, taken.feeder, taken.phase));
     if (const std::string cut = incompleteNotice(file.facts); !cut.empty())
         add(" " + cut);
     if (file.facts.unreadable > 0)
-        add(" has " + std::to_string(file.facts.unreadable) +
-            " item(s) that are no numbers; each counts with its leading number, or 0");
+        add(" has " + counted(file.facts.unreadable, "item") +
+            " that can be read as no number; each counts with its leading number, or 0");
     const PhaseFile* first = reference();
     if (first == nullptr)
         return;
-    if (file.facts.start != first->facts.start)
-        add(" starts at " + screenTime(file.facts.start) + ", " + nameOf(first->facts.path) + " at " +
-            screenTime(first->facts.start));
+    const std::string firstName = fileNameOf(first->facts.path);
+    const std::string apart =
+        startsApart(name, firstName, file.facts.start.minutes - first->facts.start.minutes);
+    if (!apart.empty())
+        survey_.notices.push_back(place + ": " + apart);
     if (file.readings.size() != first->readings.size())
-        add(" has " + std::to_string(file.readings.size()) + " readings, " + nameOf(first->facts.path) + " " +
+        add(" has " + counted(std::int64_t(file.readings.size()), "reading") + ", " + firstName + " " +
             std::to_string(first->readings.size()) + "; the shortest count is scanned");
 }
 
-LoadOutcome SurveyDesk::refuse(LoadOutcome why, const std::string& path, const std::string& advice) {
-    refusal_ = nameOf(path) + ": " + advice;
-    return why;
+Expected<Recording> SurveyDesk::phaseFile(const Files& files, const std::string& path) const {
+    Expected<Recording> recording = Fileopenera(files, path);
+    if (!recording)
+        return recording;
+    const PhaseFile* first = reference();
+    if (first != nullptr && recording->facts.modeLetter != first->facts.modeLetter)
+        return refuse(unknownFileError, path,
+                      "Mode mixing not allowed. Choose a file of the mode of " +
+                          fileNameOf(first->facts.path) + ".");
+    if (recording->facts.unit() == 'V')
+        return refuse("Not a current file", path,
+                      "It is a recording of voltage. Choose the recording of the phase's current.");
+    return recording;
 }
 
-LoadOutcome SurveyDesk::load(int phase, const std::string& path, const Files& files, Prompt& prompt) {
-    Expected<Recording> recording = Fileopenera(files, path);
+Expected<void> SurveyDesk::load(int phase, const std::string& path, const Files& files) {
+    Expected<Recording> recording = phaseFile(files, path);
     if (!recording) {
-        prompt.tell(unknownFileError);
-        return refuse(LoadOutcome::unreadable, path, recording.error().advice);
-    }
-    const PhaseFile* first = reference();
-    if (first != nullptr && recording->facts.modeLetter != first->facts.modeLetter) {
-        prompt.tell(unknownFileError);
-        return refuse(LoadOutcome::otherMode, path,
-                      "Mode mixing not allowed. Choose a file of the mode of " + nameOf(first->facts.path) +
-                          ".");
-    }
-    if (recording->facts.unit() == 'V') {
-        prompt.tell("Not a current file\r\n" + path +
-                    "\r\nIt is a recording of voltage. Choose the recording of the phase's current.");
-        return refuse(LoadOutcome::voltage, path,
-                      "a recording of voltage. Choose the recording of the phase's current.");
+        refusal_ = fileNameOf(path) + ": " + recording.error().advice;
+        return tl::make_unexpected(recording.error());
     }
     PhaseFile file{std::move(recording->facts), std::move(recording->readings)};
     file.facts.path = path;
@@ -157,12 +163,13 @@ LoadOutcome SurveyDesk::load(int phase, const std::string& path, const Files& fi
     ++survey_.phasesLoaded;
     survey_.stationPeak.reset();
     refusal_.clear();
-    return LoadOutcome::loaded;
+    return {};
 }
 
-LoadOutcome SurveyDesk::askAndLoad(int phase, const std::string& folder, const Files& files, Prompt& prompt) {
+Expected<void> SurveyDesk::askAndLoad(int phase, const std::string& folder, const Files& files,
+                                      Prompt& prompt) {
     const auto path = prompt.chooseFile({.filter = std::string(surveyFileFilter), .folder = folder});
-    return path ? load(phase, *path, files, prompt) : LoadOutcome::cancelled;
+    return path ? load(phase, *path, files) : Expected<void>();
 }
 
 void SurveyDesk::showResult() {

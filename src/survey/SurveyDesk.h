@@ -3,6 +3,7 @@
 
 #include "core/Files.h"
 #include "core/Prompt.h"
+#include "core/Refusal.h"
 #include "survey/SurveyData.h"
 
 #include <array>
@@ -13,11 +14,16 @@
 
 namespace tally {
 
+struct Recording;
+
 inline constexpr std::string_view stationNamePrompt = "\rEnter Station Name";
 inline constexpr std::string_view surveyFileFilter = "data files (*.dat) | *.dat";
 
-// Asks for the station name and empties the survey for it; false, and nothing changed, when cancelled.
+// Asks for the station name, an empty one again, and empties the survey for it; false, and nothing changed,
+// when cancelled.
 bool startSurvey(SurveyData& survey, Prompt& prompt);
+// The same with a name that is known.
+void beginSurvey(SurveyData& survey, const std::string& station);
 
 // "Feeder1" to "Feeder4" for feeder 0 to 3.
 std::string defaultFeederName(int feeder);
@@ -35,8 +41,6 @@ struct SurveyControls {
     bool printStation = false;                                     // Command5
 };
 
-enum class LoadOutcome { loaded, cancelled, unreadable, otherMode, voltage };
-
 // The steps of a survey in the order in which the dialog allows them.
 class SurveyDesk {
 public:
@@ -52,11 +56,11 @@ public:
 
     // PROCEED with feeder 0 to 3 and the name typed; an empty one becomes the default name.
     void proceed(int feeder, const std::string& typedName);
-    // Loads phase 0 to 2 of the current feeder. What is refused is told and changes nothing; what is unusual
-    // is added to the notices of the survey.
-    LoadOutcome load(int phase, const std::string& path, const Files& files, Prompt& prompt);
-    // The same after asking for the file.
-    LoadOutcome askAndLoad(int phase, const std::string& folder, const Files& files, Prompt& prompt);
+    // Loads phase 0 to 2 of the current feeder. What is refused changes nothing; what is unusual is added to
+    // the notices of the survey.
+    Expected<void> load(int phase, const std::string& path, const Files& files);
+    // The same after asking for the file; nothing when the question was cancelled.
+    Expected<void> askAndLoad(int phase, const std::string& folder, const Files& files, Prompt& prompt);
     // Works out the current feeder's peaks.
     void showResult();
     // Works out the station peak. Throws Overflow; then there is none.
@@ -68,7 +72,7 @@ private:
         int phase;
     };
 
-    LoadOutcome refuse(LoadOutcome why, const std::string& path, const std::string& advice);
+    Expected<Recording> phaseFile(const Files& files, const std::string& path) const;
     const PhaseFile& fileOf(const Taken& taken) const;
     const PhaseFile* reference() const;
     void addNotices(const PhaseFile& file, const std::string& place, const Files& files);

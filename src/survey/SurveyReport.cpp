@@ -17,7 +17,6 @@ constexpr std::string_view resultHeading = "Amps          Peak Time;  Date";
 constexpr std::array<std::string_view, phaseCount> resultLines = {"RED           ", "WHITE       ",
                                                                   "BLUE         "};
 constexpr std::string_view resultFill = "           ";
-constexpr std::string_view resultTime = "%H:%M      %b %d, %y";
 constexpr std::string_view momentHeading = "\t\tRED\tWHITE\tBLUE\tSum";
 constexpr std::array<std::string_view, phaseCount> momentLines = {"At RED peak", "At WHITE peak",
                                                                   "At BLUE peak"};
@@ -101,7 +100,7 @@ std::string feederResult(const SurveyData& survey, int feeder) {
     for (std::size_t phase = 0; phase < peaks.size(); ++phase) {
         const PhasePeak& peak = peaks[phase];
         text.append(resultLines[phase]).append("\t").append(amps(peak.currents[phase], "0000"));
-        text.append(resultFill).append("\t").append(formatTime(peak.time, resultTime)).append(lineEnd);
+        text.append(resultFill).append("\t").append(formatTime(peak.time, peakTime)).append(lineEnd);
     }
     text.append(lineEnd).append(momentHeading).append(lineEnd);
     for (std::size_t phase = 0; phase < peaks.size(); ++phase) {

@@ -10,6 +10,8 @@ namespace tally {
 
 inline constexpr std::string_view resultTitle = "TARNWELL STATION FEEDER REPORT";
 inline constexpr std::string_view resultCaption = "FEEDER AMPS DURING FEEDER PEAK (NON-COINCIDENTAL)  ";
+// How the time of a peak is shown: six blanks between hour and date.
+inline constexpr std::string_view peakTime = "%H:%M      %b %d, %y";
 inline constexpr std::string_view stationCaption =
     "Feeder Phase Amps During Station Peak (Coincidental Peak)";
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/FilesTogether.h"
 
+#include "core/TimeAxis.h"
 #include "view/Range.h"
 
 #include <algorithm>
@@ -8,23 +9,6 @@
 namespace tally {
 
 namespace {
-
-constexpr std::int64_t minutesPerHour = 60;
-constexpr std::int64_t minutesPerDay = 24 * minutesPerHour;
-// From here on hours say less than days.
-constexpr std::int64_t daysFrom = 3 * minutesPerDay;
-
-// "15 min", "26 h", "1 h 30 min", "12 days".
-std::string lengthText(std::int64_t minutes) {
-    if (minutes >= daysFrom)
-        return std::to_string(minutes / minutesPerDay) + " days";
-    const std::int64_t hours = minutes / minutesPerHour;
-    const std::int64_t rest = minutes % minutesPerHour;
-    std::string text = hours > 0 ? std::to_string(hours) + " h" : "";
-    if (rest > 0)
-        text += (text.empty() ? "" : " ") + std::to_string(rest) + " min";
-    return text;
-}
 
 const char* unitWord(const FileFacts& info) {
     return info.unit() == 'V' ? "volts" : "amps";
@@ -52,13 +36,6 @@ std::string shorterFiles(const Recordings& recordings) {
                     std::to_string(info.count) + " of " + std::to_string(longest) + " readings)";
     }
     return text;
-}
-
-std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes) {
-    if (minutes == 0)
-        return {};
-    return file + " starts " + lengthText(std::abs(minutes)) + (minutes > 0 ? " after " : " before ") +
-           first + "; readings are combined by number, not by time";
 }
 
 std::vector<std::string> togetherWarnings(const Recordings& recordings) {

@@ -3,7 +3,6 @@
 
 #include "core/Recordings.h"
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -19,9 +18,6 @@ std::string shorterFiles(const Recordings& recordings);
 // than the first one (reading i of one stands beside reading i of the other all the same), and files of
 // another unit. Empty for one file.
 std::vector<std::string> togetherWarnings(const Recordings& recordings);
-
-// "b.dat starts 26 h after a.dat; readings are combined by number, not by time"; empty for no minutes.
-std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes);
 
 // The warnings on one line, parted by "; ".
 std::string togetherLine(const Recordings& recordings);

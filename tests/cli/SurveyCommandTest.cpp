@@ -110,7 +110,7 @@ TEST_F(SurveyCommand, FilesThatAreRefusedEndIt) {
             "tallyline-cli", {"survey", "--station", "n", "--feeder", ":" + red + "," + bad + "," + blue});
         EXPECT_EQ(run.status, 1) << bad;
         EXPECT_EQ(run.out, "");
-        EXPECT_EQ(run.err.find("Unknown File Error; Check\n"), 0U) << run.err;
+        EXPECT_EQ(run.err.find("Unknown File Error; Check\n" + bad + "\n"), 0U) << run.err;
     }
 }
 
@@ -122,9 +122,8 @@ TEST_F(SurveyCommand, AVoltageFileIsNoPhase) {
         "tallyline-cli", {"survey", "--station", "n", "--feeder", ":" + red + "," + volts + "," + blue});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
-    EXPECT_EQ(run.err,
-              "Not a current file\r\n" + volts +
-                  "\r\nIt is a recording of voltage. Choose the recording of the phase's current.\n");
+    EXPECT_EQ(run.err, "Not a current file\n" + volts +
+                           "\nIt is a recording of voltage. Choose the recording of the phase's current.\n");
 }
 
 TEST_F(SurveyCommand, WrongArgumentsAreWrongUsage) {

@@ -82,7 +82,7 @@ TEST(TimeAxis, ARangeCountsInReadingsOfTheFirstFile) {
     Recordings recordings;
     addFile(recordings, "a.dat", ramp(10));
     addFile(recordings, "b.dat", ramp(10), {.start = twoOClock + 30});
-    const auto axis = timeAxis(recordings, IndexRange{1, 5});
+    const auto axis = timeAxis(recordings, Range{1, 5});
     ASSERT_TRUE(axis);
     EXPECT_EQ(axis->start, twoOClock + 30);
     EXPECT_EQ(axis->points, 4);
@@ -92,19 +92,19 @@ TEST(TimeAxis, ARangeCountsInReadingsOfTheFirstFile) {
 TEST(TimeAxis, ATripleThatARangeTouchesTakesPartWhole) {
     Recordings recordings;
     addFile(recordings, "g.dat", ramp(10), {.letter = 'g'}); // triples 1 to 3, 4 to 6, 7 to 9
-    const auto middle = timeAxis(recordings, IndexRange{3, 4});
+    const auto middle = timeAxis(recordings, Range{3, 4});
     ASSERT_TRUE(middle);
     EXPECT_EQ(middle->points, 2);
     EXPECT_EQ(middle->first, std::vector{1});
-    const auto last = timeAxis(recordings, IndexRange{9, 9});
+    const auto last = timeAxis(recordings, Range{9, 9});
     ASSERT_TRUE(last);
     EXPECT_EQ(last->points, 1);
     EXPECT_EQ(last->first, std::vector{7});
-    const auto oldest = timeAxis(recordings, IndexRange{0, 1});
+    const auto oldest = timeAxis(recordings, Range{0, 1});
     ASSERT_TRUE(oldest);
     EXPECT_EQ(oldest->points, 1);
     EXPECT_EQ(oldest->first, std::vector{1});
-    const auto surplus = timeAxis(recordings, IndexRange{0, 0});
+    const auto surplus = timeAxis(recordings, Range{0, 0});
     ASSERT_FALSE(surplus);
     EXPECT_EQ(surplus.error().text, axisNoTriple);
 }
@@ -149,6 +149,16 @@ TEST(TimeAxis, SaysWhenBothFilesRun) {
     ASSERT_FALSE(axis);
     EXPECT_EQ(axis.error().advice, "It runs from 15:00  Mar 15, 24 to 15:15  Mar 15, 24, the first from "
                                    "14:00  Mar 15, 24 to 14:15  Mar 15, 24.");
+}
+
+TEST(TimeAxis, LengthsAreTextsThatSaySomething) {
+    const auto length = [](std::int64_t minutes) { return startsApart("b", "a", minutes).substr(9, 10); };
+    EXPECT_EQ(startsApart("b", "a", 0), "");
+    EXPECT_EQ(length(90), "1 h 30 min");
+    EXPECT_EQ(length(-90), "1 h 30 min");
+    EXPECT_TRUE(startsApart("b", "a", 71 * 60).starts_with("b starts 71 h after a;"));
+    EXPECT_TRUE(startsApart("b", "a", 72 * 60).starts_with("b starts 3 days after a;"));
+    EXPECT_TRUE(startsApart("b", "a", 13LL * 365 * 1440).starts_with("b starts 4745 days after a;"));
 }
 
 } // namespace

@@ -47,16 +47,6 @@ TEST(FilesTogether, AFileThatStartsAtAnotherTimeIsNamed) {
                   "c.dat starts 15 min before a.dat; readings are combined by number, not by time"}));
 }
 
-TEST(FilesTogether, LengthsAreTextsThatSaySomething) {
-    const auto length = [](std::int64_t minutes) { return startsApart("b", "a", minutes).substr(9, 10); };
-    EXPECT_EQ(startsApart("b", "a", 0), "");
-    EXPECT_EQ(length(90), "1 h 30 min");
-    EXPECT_EQ(length(-90), "1 h 30 min");
-    EXPECT_TRUE(startsApart("b", "a", 71 * 60).starts_with("b starts 71 h after a;"));
-    EXPECT_TRUE(startsApart("b", "a", 72 * 60).starts_with("b starts 3 days after a;"));
-    EXPECT_TRUE(startsApart("b", "a", 13LL * 365 * 1440).starts_with("b starts 4745 days after a;"));
-}
-
 TEST(FilesTogether, TriplesAreHeldSideBySideFromTheFirstWholeOne) {
     Recordings recordings;
     addFile(recordings, "g.dat", ramp(9), {.letter = 'g'});

@@ -178,7 +178,8 @@ void LoadSurv::Command1_Click() {
 }
 
 void LoadSurv::loadPhase(int phase) {
-    services_.attempt([&] { desk_.askAndLoad(phase, services_.folder, services_.files, services_.prompt); });
+    services_.attempt(
+        [&] { return desk_.askAndLoad(phase, services_.folder, services_.files, services_.prompt); });
     refresh();
     if (result_->isEnabled())
         result_->setFocus();
@@ -206,7 +207,10 @@ void LoadSurv::Command2_Click() {
 }
 
 void LoadSurv::Command3_Click() {
-    services_.attempt([this] { desk_.showStationPeak(); });
+    services_.attempt([this]() -> Expected<void> {
+        desk_.showStationPeak();
+        return {};
+    });
     refresh();
     if (desk_.survey().stationPeak)
         Station(desk_.survey(), this).exec();

@@ -28,8 +28,8 @@ struct SurveyServices {
     std::string folder; // where file dialogs start: the default directory
     std::function<void(const SurveyPaper&)> print;
     std::function<void(const SurveyPaper&)> preview;
-    // Runs a step that may end in a fault, which it reports.
-    std::function<void(const std::function<void()>&)> attempt;
+    // Runs a step that may be refused or end in a fault, and tells which.
+    std::function<void(const std::function<Expected<void>()>&)> attempt;
 };
 
 // "Load Survey": takes the phase files of up to four feeders and shows and prints their peaks.

@@ -14,8 +14,8 @@ namespace tally {
 namespace {
 
 constexpr int tabColumns = 8;
-constexpr int mostLines = 24; // longer reports are scrolled
-constexpr int mostColumns = 90;
+constexpr int maximumLines = 24; // longer reports are scrolled
+constexpr int maximumColumns = 90;
 
 } // namespace
 
@@ -50,8 +50,8 @@ QPlainTextEdit* reportBox(const std::string& report) {
         widest = std::max(widest, line.size());
     const qreal around = 2 * (box->document()->documentMargin() + box->frameWidth());
     box->setMinimumSize(
-        int(std::ceil(column * qreal(std::min<qsizetype>(widest + 3, mostColumns)) + around)),
-        int(std::ceil(metrics.lineSpacing() * qreal(std::min<qsizetype>(lines.size() + 1, mostLines)) +
+        int(std::ceil(column * qreal(std::min<qsizetype>(widest + 3, maximumColumns)) + around)),
+        int(std::ceil(metrics.lineSpacing() * qreal(std::min<qsizetype>(lines.size() + 1, maximumLines)) +
                       around)));
     return box;
 }

@@ -52,9 +52,10 @@ protected:
             survey, SurveyServices{files, prompt, clock, "/d",
                                    [this](const SurveyPaper& paper) { printed.push_back(paper); },
                                    [this](const SurveyPaper& paper) { previewed.push_back(paper); },
-                                   [this](const std::function<void()>& step) {
+                                   [this](const std::function<Expected<void>()>& step) {
                                        try {
-                                           step();
+                                           if (const auto done = step(); !done)
+                                               prompt.tell(done.error().message());
                                        } catch (const Fault& fault) {
                                            faults.emplace_back(fault.what());
                                        }
@@ -211,7 +212,9 @@ TEST_F(SurveyForms, ACancelledFileDialogChangesNothing) {
 TEST_F(SurveyForms, ARefusedFileIsToldAndItsButtonStays) {
     click("Command1");
     load("red", "/d/none.dat");
-    EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Unknown File Error; Check"});
+    ASSERT_EQ(prompt.shown.size(), 1U);
+    EXPECT_EQ(prompt.texts()[0].find("Unknown File Error; Check\r\n/d/none.dat\r\nFile not found. Check "),
+              0U);
     EXPECT_TRUE(control("red")->isEnabled());
     EXPECT_TRUE(control("Command1")->isEnabled());
     EXPECT_TRUE(
