@@ -43,7 +43,7 @@ Done TLY_Export::exportCsv() {
     const auto done = CsvData(recordings, slot, *part, {services_.files, folder_.stored()});
     if (!done)
         return tl::make_unexpected(done.error());
-    services_.prompt.tell(done->text);
+    services_.prompt.tell(done->message());
     return {};
 }
 
@@ -90,7 +90,7 @@ Done TLY_Export::mnuitemexprep_Click() {
 // A view has to be shown again before the next export.
 void TLY_Export::exported(const Exported& done) {
     services_.display.exported();
-    services_.prompt.tell(done.text);
+    services_.prompt.tell(done.message());
     menus_.apply(MenuEvent::textShown);
 }
 

@@ -20,7 +20,7 @@ constexpr std::size_t timeChars = 19;
 constexpr std::string_view lowField = "  000.0";
 constexpr std::string_view highField = " 0000 ";
 // A 16-bit number makes a field of at most "  -3276.8,  ".
-constexpr std::size_t mostLineChars = timeChars + readingsPerLine * 12 + 2;
+constexpr std::size_t maximumLineChars = timeChars + readingsPerLine * 12 + 2;
 
 // A field, a comma and two blanks.
 char* writeField(char* to, const FieldWriter& field, std::int16_t tenths) {
@@ -37,7 +37,8 @@ std::string csvText(const Recordings& recordings, int slot, const Range& range) 
     RunningTime time(timeColumn, timeOf(info, range.first));
     auto readings = present(recordings, slot, range);
     // Room for the longest lines, and for the writer, which may touch what lies behind its field.
-    std::string text((readings.size() / readingsPerLine + 1) * mostLineChars + FieldWriter::mostChars, ' ');
+    std::string text((readings.size() / readingsPerLine + 1) * maximumLineChars + FieldWriter::maximumChars,
+                     ' ');
     char* to = text.data();
     while (!readings.empty()) {
         const auto inLine = std::min(readingsPerLine, readings.size());
@@ -63,8 +64,7 @@ Expected<Exported> CsvData(const Recordings& recordings, int slot, const Range& 
     const std::string path = exportPath(recordings, slot, std::string(csvName), place);
     if (const auto free = checkNotOpen(recordings, path, place.files); !free)
         return tl::make_unexpected(free.error());
-    place.files.write(path, csvText(recordings, slot, range).append("\r\n"));
-    return Exported{path, path + " saved OK "};
+    return writeExport(place.files, path, csvText(recordings, slot, range).append("\r\n"), " saved OK ");
 }
 
 } // namespace tally

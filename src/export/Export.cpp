@@ -95,9 +95,9 @@ PerLineText onePerLineText(std::string_view table, char modeLetter) {
         if (!line.starts_with(expected.text()))
             expected.set(parseScreenTime(line));
         time.set(expected.time());
-        const std::size_t most = mode.intervals() * maximumBesideValues + line.size();
-        if (text.size() - used < most)
-            text.resize(text.size() + std::max(most, 2 * table.size()));
+        const std::size_t maximum = mode.intervals() * maximumBesideValues + line.size();
+        if (text.size() - used < maximum)
+            text.resize(text.size() + std::max(maximum, 2 * table.size()));
         char* const to = text.data() + used;
         used += static_cast<std::size_t>(writeIntervals(to, line.substr(dateChars), mode, time) - to);
         expected.advance(mode.minutes * static_cast<int>(mode.intervals()));
@@ -114,17 +114,15 @@ Expected<Exported> Export(const Recordings& recordings, int slot, const Table& t
     const std::string path = pathBeside(info.path, "prn");
     if (const auto free = checkNotOpen(recordings, path, files); !free)
         return tl::make_unexpected(free.error());
-    if (!onePerLine) {
-        files.write(path, table.heading + "\r\n" + table.text + "\r\n");
-    } else {
-        PerLineText made = onePerLineText(table.text, info.modeLetter);
-        if (!made.lineTooShort)
-            made.text += "\r\n";
+    constexpr std::string_view said = " saved OK";
+    if (!onePerLine)
+        return writeExport(files, path, table.heading + "\r\n" + table.text + "\r\n", said);
+    PerLineText made = onePerLineText(table.text, info.modeLetter);
+    if (made.lineTooShort) {
         files.write(path, made.text);
-        if (made.lineTooShort)
-            return refuse(std::string(shortLineError));
+        return refuse(std::string(shortLineError));
     }
-    return Exported{path, path + " saved OK"};
+    return writeExport(files, path, made.text + "\r\n", said);
 }
 
 } // namespace tally

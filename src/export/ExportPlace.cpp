@@ -32,6 +32,12 @@ std::string exportPath(const Recordings& recordings, int slot, const std::string
     return joinPath(place.directory.empty() ? folderOf(recordings.info(slot).path) : place.directory, name);
 }
 
+Exported writeExport(Files& files, const std::string& path, const std::string& bytes, std::string_view said) {
+    const bool replaced = files.exists(path);
+    files.write(path, bytes);
+    return {path, path + std::string(said), replaced};
+}
+
 Expected<void> checkNotOpen(const Recordings& recordings, const std::string& path, const Files& files) {
     for (int slot = 0; slot < Recordings::slotCount; ++slot)
         if (recordings.isOpen(slot) && files.same(recordings.info(slot).path, path))

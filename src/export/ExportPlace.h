@@ -19,7 +19,13 @@ struct ExportPlace {
 // An export that was written.
 struct Exported {
     std::string path;
-    std::string text; // what is said of it, the path included
+    std::string text;      // what is said of it, the path included
+    bool replaced = false; // a file of that name was there
+
+    // As a message box says it: the fixed words alone on the first line.
+    std::string message() const {
+        return replaced ? text + "\r\nIt took the place of an earlier file." : text;
+    }
 };
 
 inline constexpr std::string_view noFileToExport = "Error - No file available. Need to open a file.";
@@ -32,6 +38,9 @@ std::string joinPath(const std::string& folder, const std::string& name);
 // The path of an export with a fixed name, for the data file of a slot.
 std::string exportPath(const Recordings& recordings, int slot, const std::string& name,
                        const ExportPlace& place);
+
+// Writes an export; `said` follows the path in what is said of it.
+Exported writeExport(Files& files, const std::string& path, const std::string& bytes, std::string_view said);
 
 // Refuses a path that is that of an open data file, which an export must not replace.
 Expected<void> checkNotOpen(const Recordings& recordings, const std::string& path, const Files& files);

@@ -36,10 +36,10 @@ int averageAt(const Recordings& recordings, const TimeAxis& axis, int entry) {
 }
 
 int highest(const Recordings& recordings, const TimeAxis& axis) {
-    int most = averageAt(recordings, axis, 0);
+    int maximum = averageAt(recordings, axis, 0);
     for (int entry = 1; entry < axis.points; ++entry)
-        most = std::max(most, averageAt(recordings, axis, entry));
-    return most;
+        maximum = std::max(maximum, averageAt(recordings, axis, entry));
+    return maximum;
 }
 
 // The shortest decimal text that reads back as the number.
@@ -51,10 +51,10 @@ std::string factorText(double factor) {
 }
 
 std::string factors(const Recordings& recordings, const TimeAxis& axis) {
-    const int most = highest(recordings, axis);
+    const int maximum = highest(recordings, axis);
     std::string lines;
     for (int entry = 0; entry < axis.points; ++entry)
-        lines += factorText(most == 0 ? 0.0 : 1.0 * averageAt(recordings, axis, entry) / most) + "\n";
+        lines += factorText(maximum == 0 ? 0.0 : 1.0 * averageAt(recordings, axis, entry) / maximum) + "\n";
     return lines;
 }
 

@@ -30,7 +30,7 @@ std::vector<std::string> fileNames(const Recordings& recordings) {
     return names;
 }
 
-Expected<ReadingTable> readingTable(const Recordings& recordings, std::optional<IndexRange> range) {
+Expected<ReadingTable> readingTable(const Recordings& recordings, std::optional<Range> range) {
     auto axis = timeAxis(recordings, range);
     if (!axis)
         return tl::make_unexpected(std::move(axis.error()));

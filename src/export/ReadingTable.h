@@ -27,7 +27,7 @@ struct ReadingTable {
 };
 
 // The table of the open files, or of a range of the first one. Refuses what timeAxis refuses.
-Expected<ReadingTable> readingTable(const Recordings& recordings, std::optional<IndexRange> range = {});
+Expected<ReadingTable> readingTable(const Recordings& recordings, std::optional<Range> range = {});
 
 // The names of the open files without their folders; the second of equal ones with " (2)", and so on.
 std::vector<std::string> fileNames(const Recordings& recordings);

@@ -57,8 +57,7 @@ Expected<Exported> expmv90(const MeteringPlan& plan, const Power& power, const s
         throw fault::subscript();
     const std::string text =
         meteringText(identifierField(identifier), power.kilowatts, plan.hours, power.basis.factor);
-    files.write(plan.path, text + "\r\n");
-    return Exported{plan.path, plan.path + "  saved OK  "};
+    return writeExport(files, plan.path, text + "\r\n", "  saved OK  ");
 }
 
 std::string keptIdentifier(const std::string& identifier) {

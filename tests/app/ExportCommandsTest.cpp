@@ -111,6 +111,40 @@ TEST_F(WindowTest, MeteringReportAsksForTheVoltageWhenNoneWasEntered) {
     EXPECT_EQ(window.screen().chart().plot().title, before);
 }
 
+TEST_F(WindowTest, MeteringReportLeavesTheMarkedSpanAlone) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
+    prompt.inputs = {"13800", "METER 1"};
+    click("mnuItemViewPlot");
+    mark(100, 120);
+    click("mnuitemexprep");
+    EXPECT_FALSE(files.contents.contains("/d/Lotusint.prn")) << "a data plot enables no report";
+    click("mnuItemViewPower");
+    mark(100, 120);
+    click("mnuitemexprep");
+    EXPECT_TRUE(files.contents.contains("/d/Lotusint.prn"));
+    EXPECT_TRUE(enabled("mnuZoom"));
+    click("mnuZoom");
+    EXPECT_EQ(display.displayed(recordings), (Range{100, 120}));
+}
+
+TEST_F(WindowTest, EveryExportTellsWhenItTookThePlaceOfAnEarlierFile) {
+    open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
+    const std::string earlier = "\r\nIt took the place of an earlier file.";
+    for (const std::string& more : {std::string(), earlier}) {
+        prompt.shown.clear();
+        prompt.inputs = {"13800", "METER 1"};
+        click("mnuItemViewPower");
+        click("mnuitemexprep");
+        click("mnuItemViewPlot");
+        click("MnuItemexpdatacsv");
+        click("mnuItemViewTable");
+        click("mnuItemexpdata1perLine");
+        EXPECT_THAT(prompt.texts(),
+                    ElementsAre("/d/Lotusint.prn  saved OK  " + more, "/d/Lotusint.csv saved OK " + more,
+                                "/d/a.prn saved OK" + more));
+    }
+}
+
 TEST_F(WindowTest, CancelledVoltageOrIdentifierWritesNoReport) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     prompt.inputs = {"13800", std::nullopt};
