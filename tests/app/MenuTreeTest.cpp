@@ -102,82 +102,73 @@ TEST_F(WindowTest, RecentFileEntriesAreAnArrayWithIndicesOneToFour) {
         EXPECT_EQ(entries[i]->property("Index").toInt(), i + 1);
 }
 
-// What the items are in each state; '.' for unchanged by the event.
+// What each event does to each item: '+' on, '-' off, '.' as it was.
 struct State {
     const char* item;
-    char startUp, close, opened, voltage;
+    const char* after;
 };
+// clang-format off
 constexpr State states[] = {
-    {"mnuItemOpen", '+', '+', '.', '.'},
-    {"mnuItemClose", '+', '-', '+', '.'},
-    {"mnuItemSave", '-', '-', '+', '.'},
-    {"mnuItemExportType", '-', '-', '+', '.'},
-    {"mnuitemexprep", '-', '.', '.', '.'},
-    {"MnuItemexpdatacsv", '-', '.', '.', '.'},
-    {"mnuItemexpdata1perLine", '-', '.', '.', '.'},
-    {"mnuView", '-', '-', '+', '.'},
-    {"mnuItemViewPlot", '+', '-', '+', '.'},
-    {"mnuItemViewTable", '-', '-', '+', '.'},
-    {"mnuItemPrintTable", '-', '-', '+', '.'},
-    {"mnuItemViewsummary", '+', '.', '+', '.'},
-    {"mnuZoom", '-', '-', '.', '.'},
-    {"mnuItemScale", '-', '.', '.', '.'},
-    {"mnuItemAnnot", '-', '.', '.', '.'},
-    {"pwrview", '+', '-', '+', '-'},
-    {"mnuItemViewPower", '+', '-', '+', '-'},
-    {"mnuItemViewpwrsummry", '+', '-', '+', '.'},
-    {"mnuItemPrintpwrSum", '+', '.', '+', '-'},
-    {"mnuItemViewPwrTable", '-', '-', '.', '.'},
-    {"mnuItemPrintPwrTable", '-', '.', '.', '-'},
-    {"mnuItemInitialize", '+', '.', '.', '.'},
-    {"mnuItemOnepgPlot", '+', '-', '.', '.'},
+    //                         start-up, close
+    //                         |  opened, voltage, third opened
+    //                         |  |   text kept, forced, saved
+    //                         |  |   |   table, text shown
+    //                         |  |   |   |  plotted, power plotted, span marked, zoomed, one-page
+    {"mnuItemOpen",           "++ ..- ... .. ....."},
+    {"mnuItemClose",          "+- +.. ... .. ....."},
+    {"mnuItemSave",           "-- +.. ++- .. ...+."},
+    {"mnuItemExportType",     "-- +.. ... .. ....."},
+    {"mnuitemexprep",         "-. ... ... .. .+..."},
+    {"MnuItemexpdatacsv",     "-. ... ... +- +-..."},
+    {"mnuItemexpdata1perLine","-. ... ... +- --..."},
+    {"mnuView",               "-- +.. ... .. ....."},
+    {"mnuItemViewPlot",       "+- +.. ... .. ....."},
+    {"mnuItemViewTable",      "-- +.. ... .. ....."},
+    {"mnuItemPrintTable",     "-- +.. ... .. ....."},
+    {"mnuItemViewsummary",    "+. +.. ... .. ....."},
+    {"mnuItemRefresh",        "-. ... ... .. ++..."},
+    {"mnuZoom",               "-- ... ... .. --+.-"},
+    {"mnuItemScale",          "-. ... ... .. ++..."},
+    {"mnuItemAnnot",          "-. ... ... .. ++..."},
+    {"pwrview",               "+- +-. ... .. ....."},
+    {"mnuItemViewPower",      "+- +-. ... .. ....."},
+    {"mnuItemViewpwrsummry",  "+- +.. ... .. ....."},
+    {"mnuItemPrintpwrSum",    "+. +-. ... .. ....."},
+    {"mnuItemViewPwrTable",   "-- ... ... .. .+..."},
+    {"mnuItemPrintPwrTable",  "-. .-. ... .. .+..."},
+    {"mnuItemInitialize",     "+. ... ... .. ....."},
+    {"mnuItemViewStudy",      "-- +.. ... .. ....."},
+    {"mnuItemOnepgPlot",      "+- ... ... .. ++..."},
 };
+// clang-format on
+constexpr MenuEvent events[] = {MenuEvent::startUp,    MenuEvent::close,       MenuEvent::opened,
+                                MenuEvent::voltage,    MenuEvent::thirdOpened, MenuEvent::textKept,
+                                MenuEvent::forced,     MenuEvent::saved,       MenuEvent::tableShown,
+                                MenuEvent::textShown,  MenuEvent::plotted,     MenuEvent::powerPlotted,
+                                MenuEvent::spanMarked, MenuEvent::zoomed,      MenuEvent::onePage};
 
-class MenuStateTest : public WindowTest, public ::testing::WithParamInterface<State> {};
+class MenuState : public WindowTest, public ::testing::WithParamInterface<State> {};
 
-TEST_P(MenuStateTest, TableSaysWhatItMust) {
-    for (const MenuStateRow& row : menuStates()) {
-        if (row.item != GetParam().item)
-            continue;
-        EXPECT_EQ(char(row.at(MenuEvent::startUp)), GetParam().startUp);
-        EXPECT_EQ(char(row.at(MenuEvent::close)), GetParam().close);
-        EXPECT_EQ(char(row.at(MenuEvent::opened)), GetParam().opened);
-        EXPECT_EQ(char(row.at(MenuEvent::voltage)), GetParam().voltage);
-        return;
-    }
-    FAIL() << "no row";
-}
-
-// Each event switches the action as the table says, from either state.
-TEST_P(MenuStateTest, ActionFollowsTheTable) {
+TEST_P(MenuState, EachEventSwitchesTheItemAsItMustFromEitherState) {
     const char* name = GetParam().item;
-    window.menus().set(name, true);
-    if (!enabled(name))
-        GTEST_FAIL() << "no handler";
-    for (const MenuStateRow& row : menuStates()) {
-        if (row.item != name)
-            continue;
-        for (int event = 0; event < menuEvents; ++event) {
-            const Switch wanted = row.at(MenuEvent(event));
-            for (const bool before : {true, false}) {
-                window.menus().set(name, before);
-                window.menus().apply(MenuEvent(event));
-                EXPECT_EQ(enabled(name), wanted == Switch::keep ? before : wanted == Switch::on) << event;
-            }
+    std::string after = GetParam().after;
+    std::erase(after, ' ');
+    ASSERT_EQ(after.size(), std::size(events));
+    for (std::size_t i = 0; i < std::size(events); ++i)
+        for (const bool before : {true, false}) {
+            window.menus().set(name, before);
+            ASSERT_EQ(enabled(name), before) << "an item without a handler is never enabled";
+            window.menus().apply(events[i]);
+            EXPECT_EQ(enabled(name), after[i] == '.' ? before : after[i] == '+') << "event " << i;
         }
-    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Items, MenuStateTest, ::testing::ValuesIn(states),
+INSTANTIATE_TEST_SUITE_P(Items, MenuState, ::testing::ValuesIn(states),
                          [](const auto& test) { return std::string(test.param.item); });
 
-TEST(MenuStates, EveryRowHasOneSwitchForEachEvent) {
-    for (const MenuStateRow& row : menuStates()) {
-        std::string switches(row.switches);
-        std::erase(switches, ' ');
-        EXPECT_EQ(switches.size(), std::size_t(menuEvents)) << row.item;
-        EXPECT_EQ(switches.find_first_not_of("+-."), std::string::npos) << row.item;
-    }
+TEST(MenuStates, NoOtherItemIsSwitched) {
+    EXPECT_EQ(menuStates().size(), std::size(states));
+    EXPECT_EQ(menuEvents, int(std::size(events)));
 }
 
 TEST_F(WindowTest, AtStartUpOnlyWhatNeedsNoFileIsEnabled) {
