@@ -14,7 +14,7 @@
 
 namespace tally::bench {
 
-inline constexpr std::uint64_t mostBytes = std::uint64_t{1} << 24;
+inline constexpr std::uint64_t maximumBytes = std::uint64_t{1} << 24;
 
 // Made-up recordings of feeders: 28 days of quarters of an hour, 42 of them to a circuit over years with
 // gaps, with notes, written into a folder a circuit. The same every time.

@@ -99,7 +99,7 @@ double addRowByRow(const Place& place, const Samples& samples, int count) {
     return secondsOf([&] {
         for (int number = 0; number < count; ++number) {
             const cli::FoundFile file = samples.file(number);
-            store->add({keptOf(files.read(file.path, mostBytes), samples.notes(number),
+            store->add({keptOf(files.read(file.path, maximumBytes), samples.notes(number),
                                {file.path, file.names}, tools)
                             .value()});
         }
@@ -184,7 +184,7 @@ CircuitTimes timesOf(const Place& place) {
     times.search = medianOf(15, [&] {
         Selection selection;
         selection.words = {"feeder 7", "ma"};
-        selection.most = 200;
+        selection.maximum = 200;
         store->find(selection);
     });
     return times;
@@ -195,7 +195,7 @@ int highestOfAll(const Samples& samples, int count) {
     int highest = 0;
     for (int number = 0; number < count; ++number) {
         const SafeFile files;
-        const std::string bytes = files.read(samples.file(number).path, mostBytes);
+        const std::string bytes = files.read(samples.file(number).path, maximumBytes);
         int value = 0;
         for (std::size_t at = bytes.find('\r', 8); at < bytes.size(); ++at) {
             const char c = bytes[at];

@@ -8,7 +8,7 @@ namespace tally {
 Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes& panes)
     : folder(services.settings, panes.notices),
       views(services, dispatcher, panes.screen, panes.menus, panes.status, panes.notices),
-      voltage(services),
+      voltage(services, panes.status),
       forced(services, dispatcher, panes.notices),
       printing(services, panes.screen, &panes.window),
       downloads(services, dispatcher, views, folder, panes.menus, panes.notices),
@@ -20,7 +20,7 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       edit(services, dispatcher, views, forced, panes.menus, &panes.window),
       paper(services, views, voltage, printing),
       exports(services, views, voltage, folder, panes.menus),
-      instrument(services, dispatcher, downloads, panes.menus, panes.status, &panes.window),
+      instrument(services, downloads, panes.menus, panes.status, &panes.window),
       options(services, dispatcher, folder, panes.folderChoice),
       survey(services, dispatcher, folder, printing, &panes.window),
       study(services, dispatcher, views, panes.screen, panes.menus, panes.status),

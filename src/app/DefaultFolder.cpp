@@ -2,7 +2,7 @@
 #include "app/DefaultFolder.h"
 
 #include "app/forms/NoticeBar.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QDir>
 

@@ -27,7 +27,7 @@ bool Dispatcher::runDone(const std::function<Done()>& command) {
     if (running_)
         return false;
     const Flag flag(running_);
-    gErrorCallPoint = 0;
+    gErrorCallPoint_ = 0;
     return attemptDone(command);
 }
 
@@ -42,9 +42,9 @@ bool Dispatcher::attemptDone(const std::function<Done()>& step) {
             return true;
         told = done.error().message();
     } catch (const Fault& fault) {
-        told = faultReport(fault, gErrorCallPoint);
+        told = faultReport(fault, gErrorCallPoint_);
     } catch (const std::bad_alloc&) {
-        told = faultReport(Fault(7, "Out of memory"), gErrorCallPoint);
+        told = faultReport(Fault(7, "Out of memory"), gErrorCallPoint_);
     }
     recordings_.ginx = ginx;
     recordings_.gDateX = gDateX;

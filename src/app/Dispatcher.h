@@ -20,8 +20,9 @@ using Done = Expected<void>;
 // it puts them back.
 class Dispatcher {
 public:
-    Dispatcher(Recordings& recordings, Display& display, Prompt& prompt)
-        : recordings_(recordings), display_(display), prompt_(prompt) {}
+    // `gErrorCallPoint`: where a session was when a fault came, 0 for nowhere. Reset before each command.
+    Dispatcher(Recordings& recordings, Display& display, Prompt& prompt, int& gErrorCallPoint)
+        : recordings_(recordings), display_(display), prompt_(prompt), gErrorCallPoint_(gErrorCallPoint) {}
 
     // A command gives nothing or a Done. False when it failed or was refused, or did not run because another
     // one is running (a session with an instrument lets the window live).
@@ -35,9 +36,6 @@ public:
         return attemptDone(asDone(std::forward<Step>(step)));
     }
     bool running() const { return running_; }
-
-    // Where a session was when a fault came; 0 for nowhere. Reset before each command.
-    int gErrorCallPoint = 0;
 
 private:
     template <class Command>
@@ -56,6 +54,7 @@ private:
     Recordings& recordings_;
     Display& display_;
     Prompt& prompt_;
+    int& gErrorCallPoint_;
     bool running_ = false;
 };
 

@@ -2,8 +2,9 @@
 #include "app/ForcedReadings.h"
 
 #include "app/forms/NoticeBar.h"
-#include "app/forms/Words.h"
 #include "core/ForceReadings.h"
+#include "core/Numbers.h"
+#include "core/forms/Words.h"
 
 namespace tally {
 
@@ -45,11 +46,10 @@ void ForcedReadings::show() {
         if (unsaved < 0)
             unsaved = slot;
         const QString name = words(fileNameOf(recordings.info(slot).path));
-        texts.append((recordings.info(slot).forced
-                          ? QStringLiteral("%1: %2 forced reading(s), not saved yet.")
-                          : QStringLiteral("%1: %2 reading(s) taken back, not saved yet."))
-                         .arg(name)
-                         .arg(count));
+        texts.append((recordings.info(slot).forced ? QStringLiteral("%1: %2, not saved yet.")
+                                                   : QStringLiteral("%1: %2 taken back, not saved yet."))
+                         .arg(name, words(counted(count, recordings.info(slot).forced ? "forced reading"
+                                                                                      : "reading"))));
     }
     if (texts.isEmpty()) {
         notices_.remove(noticeKey);

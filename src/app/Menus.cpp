@@ -2,7 +2,7 @@
 #include "app/Menus.h"
 
 #include "app/MenuTree.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QAction>
 #include <QMenu>
@@ -18,6 +18,16 @@ QAction* addMenu(QWidget& parent, const QString& name, const QString& caption, Q
     made = new QMenu(caption, &parent);
     made->setObjectName(name);
     return made->menuAction();
+}
+
+// A long path with its middle left out: where it begins and the name of its file are what tells it from
+// others.
+QString shortened(const QString& path) {
+    constexpr qsizetype longest = 60;
+    constexpr qsizetype beginning = 20;
+    if (path.size() <= longest)
+        return path;
+    return path.first(beginning) + QChar(u'\u2026') + path.last(longest - beginning - 1);
 }
 
 } // namespace
@@ -97,7 +107,8 @@ void Menus::showMru(const std::array<std::string, 4>& paths, bool shown) {
     for (int index = 1; index <= mruEntries; ++index) {
         const std::string& path = paths[std::size_t(index) - 1];
         // "&" would mark an access key.
-        mru(index)->setText(words(path).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        mru(index)->setText(shortened(words(path)).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        mru(index)->setStatusTip(words(path));
         mru(index)->setData(QByteArray::fromStdString(path));
         mru(index)->setVisible(shown && !path.empty());
     }

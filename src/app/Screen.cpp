@@ -3,7 +3,7 @@
 
 #include "app/forms/ElidedLabel.h"
 #include "app/forms/StartPage.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"
 #include "view/forms/TextView.h"
@@ -144,6 +144,7 @@ void Screen::showPlot(const Plot& plot, bool onePage) {
     setDisplaying(chartLabel_, plot.displaying);
     setCurrentWidget(chartPage_);
     chart_->setFocus();
+    Q_EMIT changed();
 }
 
 void Screen::showText(const std::string& heading, const std::string& text, const std::string& displaying) {
@@ -151,6 +152,7 @@ void Screen::showText(const std::string& heading, const std::string& text, const
     setDisplaying(textLabel_, displaying);
     setCurrentWidget(textPage_);
     text_->setFocus();
+    Q_EMIT changed();
 }
 
 void Screen::showPage(QWidget* page, const std::string& displaying) {
@@ -159,6 +161,7 @@ void Screen::showPage(QWidget* page, const std::string& displaying) {
     displaying_ = displaying;
     setCurrentWidget(page);
     page->setFocus();
+    Q_EMIT changed();
 }
 
 void Screen::reset() {
@@ -174,6 +177,7 @@ void Screen::reset() {
     setPart({});
     setCurrentWidget(start_);
     Q_EMIT wasReset();
+    Q_EMIT changed();
 }
 
 } // namespace tally

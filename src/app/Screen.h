@@ -51,6 +51,7 @@ Q_SIGNALS:
     void showAllWanted();
     void studyWanted();
     void wasReset(); // nothing is open any more
+    void changed();  // something else is shown
 
 private:
     void makeChart();

@@ -6,26 +6,17 @@
 #include "core/Prompt.h"
 #include "core/Recordings.h"
 #include "core/Settings.h"
-#include "link/InstrumentState.h"
-#include "link/Journal.h"
-#include "link/Line.h"
 #include "link/PortChoice.h"
-#include "link/Waiter.h"
+#include "link/Session.h"
 #include "view/Display.h"
 
-#include <functional>
 #include <string>
 
 namespace tally {
 
-// What the sessions with an instrument work with.
-struct LinkServices {
-    Line& line;
-    Waiter& waiter;
-    Journal& journal;
-    InstrumentState& instrument;
+// What sessions with an instrument find on this machine.
+struct InstrumentPlaces {
     const PortCatalogue& ports;
-    std::function<void()> requestCancel;
     std::string workingDirectory; // current directory at start
     std::string temporary;        // file of the recover command
 };
@@ -39,7 +30,8 @@ struct Services {
     Clock& clock;
     Prompt& prompt;
     SlotChooser& chooser;
-    LinkServices& link;
+    SessionServices& session;
+    const InstrumentPlaces& places;
 };
 
 } // namespace tally

@@ -17,7 +17,7 @@ namespace tally {
 TLY::TLY(const Services& services, QWidget* parent)
     : QMainWindow(parent),
       services_(services),
-      dispatcher_(services.recordings, services.display, services.prompt) {
+      dispatcher_(services.recordings, services.display, services.prompt, services.session.gErrorCallPoint) {
     setObjectName(QStringLiteral("TLY"));
     setAcceptDrops(true);
     menus_ = new Menus(*menuBar(), this);
@@ -30,6 +30,7 @@ TLY::TLY(const Services& services, QWidget* parent)
     connectTexts();
     addShortcuts();
     connectStartPage();
+    connect(screen_, &Screen::changed, this, &TLY::updateTitle);
     menus_->apply(MenuEvent::startUp);
     commands_->file.showMru();
     updateTitle();
@@ -58,6 +59,7 @@ template <class Handler>
 std::function<void()> TLY::command(Handler handler) {
     return [this, handler] {
         statusBar()->clearMessage();
+        status_->forget();
         dispatcher_.run(handler);
     };
 }

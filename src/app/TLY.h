@@ -62,7 +62,7 @@ private:
     void addShortcuts();
     void placeWindow();
     bool mayClose();
-    // File names in the title bar.
+    // The names of what is shown in the title bar.
     void updateTitle();
 
     Services services_;

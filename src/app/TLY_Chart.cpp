@@ -6,7 +6,7 @@
 #include "app/Screen.h"
 #include "app/Views.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 #include "view/PlotAxis.h"
 #include "view/PlotModel.h"
 #include "view/forms/Chart.h"
@@ -109,7 +109,8 @@ Done TLY_Chart::mnuItemImport_Click() {
         services_.prompt.chooseFile({.filter = std::string(importFilter), .folder = folder_.forDialog()});
     if (!path)
         return {};
-    const ChartFile::Result result = ChartFile::read(services_.files.read(*path, ChartFile::mostBytes + 1));
+    const ChartFile::Result result =
+        ChartFile::read(services_.files.read(*path, ChartFile::maximumBytes + 1));
     if (!result.contents)
         return refuse(result.why, *path);
     views_.showChartFile(result.contents->plot, *path);

@@ -7,13 +7,13 @@
 #include "app/TLY_File.h"
 #include "app/Views.h"
 #include "app/forms/NoticeBar.h"
-#include "app/forms/Words.h"
 #include "control/Rescue.h"
 #include "core/Fault.h"
 #include "core/Header.h"
 #include "core/RecentFiles.h"
 #include "core/SaveText.h"
 #include "core/Text1252.h"
+#include "core/forms/Words.h"
 #include "link/OnlyInMemory.h"
 #include "link/ReceivedText.h"
 #include "link/Rescue.h"
@@ -26,7 +26,7 @@ namespace tally {
 namespace {
 
 // More would fill the window; the others come up when these are settled.
-constexpr std::size_t mostNotices = 3;
+constexpr std::size_t maximumNotices = 3;
 const QString problemKey = QStringLiteral("journal");
 const QString savedKey = QStringLiteral("saved download");
 const QString pendingKey = QStringLiteral("only in memory");
@@ -83,7 +83,8 @@ bool TLY_Downloads::savePending() {
 bool TLY_Downloads::mayGo() {
     if (!pending_)
         return true;
-    switch (fateOf(*pending_, services_.link.journal, services_.prompt, [this] { return savePending(); })) {
+    switch (
+        fateOf(*pending_, services_.session.journal, services_.prompt, [this] { return savePending(); })) {
     case Fate::kept:
     case Fate::saved:
         return true;
@@ -108,7 +109,7 @@ void TLY_Downloads::saved(const std::string& text, const std::string& path) {
 
 // Newest first; without what is left of the waiting text in a journal that could not keep the whole of it.
 std::vector<JournalEntry> TLY_Downloads::waiting() const {
-    auto entries = unsavedReceptions(services_.link.journal);
+    auto entries = unsavedReceptions(services_.session.journal);
     std::erase_if(entries, [this](const JournalEntry& entry) {
         return pending_ && entry.id == pending_->id && entry.state != JournalState::accepted;
     });
@@ -121,7 +122,7 @@ bool TLY_Downloads::onlyInMemory(const std::vector<JournalEntry>& waiting) const
 }
 
 void TLY_Downloads::showNotices() {
-    const Journal& journal = services_.link.journal;
+    const Journal& journal = services_.session.journal;
     for (const QString& key : keys_)
         notices_.remove(key);
     keys_.clear();
@@ -130,7 +131,7 @@ void TLY_Downloads::showNotices() {
     const auto entries = waiting();
     if (onlyInMemory(entries))
         noticeOfPending();
-    for (std::size_t i = 0; i < entries.size() && i < mostNotices; ++i)
+    for (std::size_t i = 0; i < entries.size() && i < maximumNotices; ++i)
         notice(entries[i]);
     shown_ = textsOf(entries);
 }
@@ -172,7 +173,7 @@ void TLY_Downloads::notice(const JournalEntry& entry) {
 
 // The whole of the waiting text, whatever the journal holds of it.
 std::string TLY_Downloads::textOf(const std::string& id) const {
-    return pending_ && pending_->id == id ? pending_->text : services_.link.journal.text(id);
+    return pending_ && pending_->id == id ? pending_->text : services_.session.journal.text(id);
 }
 
 void TLY_Downloads::show(const std::string& id, const std::string& title) {
@@ -182,7 +183,7 @@ void TLY_Downloads::show(const std::string& id, const std::string& title) {
 void TLY_Downloads::validate(const JournalEntry& entry) {
     if (!mayGo())
         return;
-    take(rescue(services_.link.journal, entry, services_.prompt));
+    take(rescue(services_.session.journal, entry, services_.prompt));
     showNotices();
 }
 
@@ -222,7 +223,7 @@ void TLY_Downloads::note(const std::string& id, JournalState state) {
     if (id.empty())
         return;
     try {
-        services_.link.journal.mark(id, state);
+        services_.session.journal.mark(id, state);
     } catch (const Fault& fault) {
         if (fault.number() == fault::fileNotFound().number())
             return;

@@ -8,10 +8,11 @@
 #include "app/Views.h"
 #include "app/forms/NoticeBar.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
 #include "core/Fileopen.h"
+#include "core/Numbers.h"
 #include "core/RecentFiles.h"
 #include "core/SaveText.h"
+#include "core/forms/Words.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -116,9 +117,8 @@ Done TLY_File::opened() {
         parts_.status.remark(QStringLiteral("The notes of the file could not be read."));
     if (info.unreadable > 0)
         parts_.status.remark(
-            QStringLiteral("%1 item(s) of the file could not be read as numbers; each counts with its "
-                           "leading number, or 0")
-                .arg(info.unreadable));
+            words(counted(info.unreadable, "item") +
+                  " of the file could not be read as numbers; each counts with its leading number, or 0"));
     return shown;
 }
 

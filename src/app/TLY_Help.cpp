@@ -4,7 +4,7 @@
 #include "app/forms/About.h"
 #include "app/forms/HelpWindow.h"
 #include "app/forms/MenuHelp.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/TLY_Instrument.h"
 
-#include "app/Dispatcher.h"
 #include "app/Menus.h"
 #include "app/TLY_Downloads.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
 #include "control/forms/Abort.h"
 #include "control/forms/Recover.h"
+#include "core/forms/Words.h"
 #include "link/forms/Dwnloaditem.h"
 #include "link/forms/InstSel.h"
 #include "link/forms/PortSel.h"
@@ -37,26 +36,20 @@ private:
 
 } // namespace
 
-TLY_Instrument::TLY_Instrument(const Services& services, Dispatcher& dispatcher, TLY_Downloads& downloads,
-                               Menus& menus, StatusPanels& status, QMainWindow* window)
+TLY_Instrument::TLY_Instrument(const Services& services, TLY_Downloads& downloads, Menus& menus,
+                               StatusPanels& status, QMainWindow* window)
     : services_(services),
       downloads_(downloads),
       menus_(menus),
       status_(status),
       window_(window),
-      context_{services.link.line,
-               services.link.waiter,
-               services.prompt,
-               services.link.instrument,
-               services.link.journal,
-               dispatcher.gErrorCallPoint,
-               services.link.requestCancel,
-               [&status](const std::string& text) { status.remark(lines(text)); }} {
-    services.link.instrument.gCommPort = storedCommPort(services.settings);
+      context_(services.session) {
+    context_.mainStatus = [&status](const std::string& text) { status.say(lines(text)); };
+    context_.instrument.gCommPort = storedCommPort(services.settings);
 }
 
 void TLY_Instrument::session(const std::function<void()>& run) {
-    InstrumentState& instrument = services_.link.instrument;
+    InstrumentState& instrument = context_.instrument;
     if (instrument.instSelection == 0)
         runInstSel(window_, instrument, true);
     if (instrument.instSelection == 0)
@@ -69,16 +62,16 @@ void TLY_Instrument::session(const std::function<void()>& run) {
 
 // What made a port invalid; the message boxes of the commands do not name it.
 void TLY_Instrument::sayProblem() {
-    const std::string problem = services_.link.line.problem();
+    const std::string problem = context_.line.problem();
     if (!problem.empty())
-        status_.remark(lines(problem));
+        status_.say(lines(problem));
 }
 
 void TLY_Instrument::mnuItemDownload_Click() {
     const Services& s = services_;
     if (!downloads_.mayGo())
         return;
-    session([&] { downloads_.take(runDownload(window_, context_, s.files, s.link.workingDirectory)); });
+    session([&] { downloads_.take(runDownload(window_, context_, s.files, s.places.workingDirectory)); });
     downloads_.showNotices();
 }
 
@@ -93,7 +86,7 @@ void TLY_Instrument::mnuItemRecover_Click() {
     const Services& s = services_;
     if (!downloads_.mayGo())
         return;
-    session([&] { downloads_.take(runRecover(window_, context_, s.files, s.link.temporary)); });
+    session([&] { downloads_.take(runRecover(window_, context_, s.files, s.places.temporary)); });
     downloads_.showNotices();
 }
 
@@ -103,13 +96,13 @@ void TLY_Instrument::mnuItemStatusCheck_Click() {
 
 void TLY_Instrument::mnuItemPortSelect_Click() {
     const Services& s = services_;
-    runPortSel(window_, s.link.instrument, s.link.line, s.settings, s.prompt, s.link.ports);
+    runPortSel(window_, context_.instrument, context_.line, s.settings, s.prompt, s.places.ports);
     sayProblem();
     window_->activateWindow();
 }
 
 void TLY_Instrument::mnuItemInstSelect_Click() {
-    runInstSel(window_, services_.link.instrument);
+    runInstSel(window_, context_.instrument);
     window_->activateWindow();
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/Services.h"
-#include "link/Session.h"
 
 #include <functional>
 
@@ -10,7 +9,6 @@ class QMainWindow;
 
 namespace tally {
 
-class Dispatcher;
 class Menus;
 class StatusPanels;
 class TLY_Downloads;
@@ -18,8 +16,8 @@ class TLY_Downloads;
 // The Instrument menu, and the choice of port and type.
 class TLY_Instrument {
 public:
-    TLY_Instrument(const Services& services, Dispatcher& dispatcher, TLY_Downloads& downloads, Menus& menus,
-                   StatusPanels& status, QMainWindow* window);
+    TLY_Instrument(const Services& services, TLY_Downloads& downloads, Menus& menus, StatusPanels& status,
+                   QMainWindow* window);
 
     void mnuItemDownload_Click();
     void mnuItemInitialize_Click();

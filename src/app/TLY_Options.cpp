@@ -4,8 +4,8 @@
 #include "app/DefaultFolder.h"
 #include "app/Dispatcher.h"
 #include "app/forms/FolderChoice.h"
-#include "app/forms/Words.h"
 #include "core/Text1252.h"
+#include "core/forms/Words.h"
 
 namespace tally {
 

@@ -4,8 +4,8 @@
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
 #include "core/Numbers.h"
+#include "core/forms/Words.h"
 #include "view/LineVoltage.h"
 
 namespace tally {
@@ -16,10 +16,7 @@ Done TLY_Power::mnuItemViewPower_Click() {
     if (!voltage_.ask())
         return {};
     services_.display.startPower(services_.recordings);
-    const Done drawn = views_.redraw();
-    if (drawn && !voltage_.hint().empty())
-        status_.remark(words(voltage_.hint()));
-    return drawn;
+    return views_.redraw();
 }
 
 Done TLY_Power::mnuItemViewPwrTable_Click() {
@@ -42,8 +39,7 @@ void TLY_Power::mnuItemPF_Click() {
         return;
     display.setPowerFactor(powerFactorOf(*answer));
     views_.renewPower();
-    if (const std::string hint = powerFactorHint(*answer); !hint.empty())
-        status_.remark(words(hint));
+    status_.say(words(powerFactorHint(*answer)));
 }
 
 } // namespace tally

@@ -3,12 +3,19 @@
 
 #include "app/Menus.h"
 #include "app/Views.h"
+#include "core/Fault.h"
 #include "view/PlotModel.h"
 #include "view/Print.h"
 #include "view/Printinfo.h"
 #include "view/forms/DisplaySel.h"
 
 namespace tally {
+
+namespace {
+
+constexpr std::string_view scaleAdvice = "The y axis can begin at a whole number from -32768 to 32767.";
+
+} // namespace
 
 Done TLY_View::mnuItemViewPlot_Click() {
     if (const Done file = needFile(services_.recordings); !file)
@@ -45,7 +52,11 @@ Done TLY_View::mnuItemScale_Click() {
     const auto answer = services_.prompt.input({.text = std::string(scalePrompt), .preset = {}});
     if (!answer)
         return {};
-    services_.display.setScale(*answer);
+    try {
+        services_.display.setScale(*answer);
+    } catch (const Fault& fault) {
+        return refuse(faultReport(fault), *answer, std::string(scaleAdvice));
+    }
     return views_.redraw();
 }
 

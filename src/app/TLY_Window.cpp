@@ -6,7 +6,7 @@
 #include "app/TLY.h"
 #include "app/forms/NoticeBar.h"
 #include "app/forms/StartPage.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"
 
@@ -67,9 +67,12 @@ void TLY::openFiles(const std::vector<std::string>& paths, bool plot) {
 
 void TLY::updateTitle() {
     QStringList names;
-    for (int slot = 0; slot < Recordings::slotCount; ++slot)
-        if (services_.recordings.isOpen(slot))
-            names.append(words(fileNameOf(services_.recordings.info(slot).path)));
+    if (services_.display.view() == View::chartFile)
+        names.append(words(screen_->displaying()));
+    else
+        for (int slot = 0; slot < Recordings::slotCount; ++slot)
+            if (services_.recordings.isOpen(slot))
+                names.append(words(fileNameOf(services_.recordings.info(slot).path)));
     setWindowTitle(names.isEmpty() ? QStringLiteral("Tallyline")
                                    : names.join(QStringLiteral(", ")) + QStringLiteral(" - Tallyline"));
 }
@@ -118,7 +121,7 @@ void TLY::journalChanged() {
 void TLY::closeEvent(QCloseEvent* event) {
     // A session with an instrument ends first.
     if (dispatcher_.running())
-        services_.link.requestCancel();
+        services_.session.requestCancel();
     if (dispatcher_.running() || !mayClose()) {
         event->ignore();
         return;

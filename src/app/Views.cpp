@@ -5,8 +5,8 @@
 #include "app/Screen.h"
 #include "app/forms/NoticeBar.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
 #include "core/ModeTable.h"
+#include "core/forms/Words.h"
 #include "view/FilesTogether.h"
 #include "view/PlotModel.h"
 #include "view/Print.h"
@@ -99,8 +99,8 @@ Done Views::showSummary(int slot) {
     const auto part = services_.display.part(services_.recordings, slot);
     if (!part)
         return tl::make_unexpected(part.error());
-    screen_.showText({}, summary(slot), "summary of " + fileNameOf(services_.recordings.info(slot).path));
     services_.display.textShown(View::summary, slot);
+    screen_.showText({}, summary(slot), "summary of " + fileNameOf(services_.recordings.info(slot).path));
     showPart(slot);
     status_.remark({});
     menus_.apply(MenuEvent::textShown);
@@ -124,9 +124,9 @@ Done Views::showPowerSummary() {
     const auto made = power();
     if (!made)
         return tl::make_unexpected(made.error());
+    services_.display.textShown(View::powerSummary, 0);
     screen_.showText({}, Printpwrinfo(services_.recordings, *made, services_.display.zoomed()),
                      "power summary");
-    services_.display.textShown(View::powerSummary, 0);
     showPart(0);
     status_.remark(words(powerSource(services_.recordings, *made)));
     menus_.apply(MenuEvent::textShown);
@@ -134,18 +134,20 @@ Done Views::showPowerSummary() {
 }
 
 void Views::showReception(const std::string& text, const std::string& remark) {
-    screen_.showText({}, text, "a reception that is not saved");
     services_.display.foreignShown(View::reception);
+    screen_.showText({}, text, "a reception that is not saved");
     screen_.setPart({});
     status_.remark(words(remark));
     menus_.apply(MenuEvent::textShown);
 }
 
-void Views::showChartFile(const Plot& plot, const std::string& remark) {
-    screen_.showPlot(plot, false);
+// The chart has its own name, not that of what it was made from.
+void Views::showChartFile(Plot plot, const std::string& path) {
+    plot.displaying = fileNameOf(path);
     services_.display.foreignShown(View::chartFile);
+    screen_.showPlot(plot, false);
     screen_.setPart({});
-    status_.remark(words(remark));
+    status_.remark(words(path));
     menus_.apply(MenuEvent::textShown);
     menus_.set("mnuZoom", false);
     menus_.set("mnuItemAnnot", true);

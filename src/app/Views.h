@@ -45,7 +45,7 @@ public:
     // A text that belongs to no open file; `remark` goes to the status line.
     void showReception(const std::string& text, const std::string& remark);
     // A plot that does not belong to the open files: no range, no read-out.
-    void showChartFile(const Plot& plot, const std::string& remark);
+    void showChartFile(Plot plot, const std::string& path);
 
     // Makes what is shown anew after readings or notes have changed. When that fails, it is told, and the
     // status line says that what is shown is no longer current.

@@ -2,6 +2,8 @@
 #include "app/VoltageQuestion.h"
 
 #include "app/Voltages.h"
+#include "app/forms/StatusPanels.h"
+#include "core/forms/Words.h"
 #include "view/LineVoltage.h"
 
 namespace tally {
@@ -12,7 +14,7 @@ bool VoltageQuestion::ask() {
         {.text = std::string(voltagePrompt), .preset = stored, .choices = lastVoltages(services_.settings)});
     if (!answer || answer->empty())
         return false;
-    hint_ = voltageHint(*answer);
+    status_.say(words(voltageHint(*answer)));
     keepVline(services_.settings, *answer);
     rememberVoltage(services_.settings, *answer);
     services_.display.setPowerKnown();

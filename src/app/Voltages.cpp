@@ -11,7 +11,7 @@ namespace tally {
 
 namespace {
 
-constexpr std::size_t mostVoltages = 5;
+constexpr std::size_t maximumVoltages = 5;
 constexpr const char* section = "Settings";
 constexpr const char* key = "LastVoltages"; // parted by blanks
 
@@ -20,7 +20,7 @@ constexpr const char* key = "LastVoltages"; // parted by blanks
 std::vector<std::string> lastVoltages(const Settings& settings) {
     std::istringstream text(settings.get(section, key));
     std::vector<std::string> list;
-    for (std::string word; list.size() < mostVoltages && text >> word;)
+    for (std::string word; list.size() < maximumVoltages && text >> word;)
         if (Val(word) > 0)
             list.push_back(word);
     if (list.empty())
@@ -36,7 +36,7 @@ void rememberVoltage(Settings& settings, const std::string& entry) {
     std::string text = word;
     std::size_t kept = 1;
     for (const std::string& old : lastVoltages(settings))
-        if (old != word && kept++ < mostVoltages)
+        if (old != word && kept++ < maximumVoltages)
             text += " " + old;
     settings.set(section, key, text);
 }

@@ -4,7 +4,7 @@
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
 #include "app/forms/Splash.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 #include "platform/FilePath.h"
 #include "platform/Folders.h"
 #include "platform/JournalFolder.h"
@@ -28,10 +28,11 @@ namespace {
 
 // The serial line and what keeps what comes over it.
 struct Link {
-    Link(tally::SafeFile& files, const tally::Settings& settings)
+    Link(tally::SafeFile& files, const tally::Settings& settings, tally::Prompt& prompt)
         : line([this, &settings](int commPort) { return device(commPort, settings); }),
           waiter(line),
-          journal(tally::folders::data() + "/journal", files) {}
+          journal(tally::folders::data() + "/journal", files),
+          session{line, waiter, prompt, instrument, journal, gErrorCallPoint, [this] { waiter.cancel(); }} {}
 
     // The simulated instrument is started when its port is opened; it plays the chosen type.
     std::string device(int commPort, const tally::Settings& settings) {
@@ -49,14 +50,9 @@ struct Link {
     tally::SerialLine line;
     tally::QtWaiter waiter;
     tally::JournalFolder journal;
-    tally::LinkServices services{line,
-                                 waiter,
-                                 journal,
-                                 instrument,
-                                 ports,
-                                 [this] { waiter.cancel(); },
-                                 QDir::currentPath().toStdString(),
-                                 tally::folders::recoverFile()};
+    int gErrorCallPoint = 0;
+    tally::SessionServices session;
+    tally::InstrumentPlaces places{ports, QDir::currentPath().toStdString(), tally::folders::recoverFile()};
 };
 
 } // namespace
@@ -84,8 +80,9 @@ int main(int argc, char** argv) {
     tally::Display display;
     tally::QtPrompt prompt;
     tally::AppSlotChooser chooser(prompt);
-    Link link(disk, settings);
-    tally::TLY window({recordings, display, settings, files, clock, prompt, chooser, link.services});
+    Link link(disk, settings, prompt);
+    tally::TLY window(
+        {recordings, display, settings, files, clock, prompt, chooser, link.session, link.places});
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });

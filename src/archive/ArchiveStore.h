@@ -23,7 +23,7 @@ struct Selection {
     std::optional<int> from;  // a reading on this date or later
     std::optional<int> to;    // a reading on this date or earlier
     std::optional<IdBeginning> id;
-    std::size_t most = 0; // how many to give at most; 0: all
+    std::size_t maximum = 0; // how many to give at most; 0: all
 };
 
 // The bytes of a recording, as they were packed.
@@ -68,7 +68,7 @@ public:
     virtual std::vector<Entry> find(const Selection& selection) = 0;
     virtual void addSources(std::vector<Entry>& entries) = 0;
     // The next recordings in the order of adding, with sources.
-    virtual std::vector<Entry> page(std::int64_t after, std::size_t most) = 0;
+    virtual std::vector<Entry> page(std::int64_t after, std::size_t maximum) = 0;
     virtual std::vector<DaySpan> spans(const Selection& selection) = 0;
     virtual Stats stats() = 0;
 

@@ -9,7 +9,7 @@ namespace {
 
 constexpr int bitsPerByte = 7;
 constexpr std::uint64_t moreFollow = 0x80;
-constexpr int mostBits = 64;
+constexpr int maximumBits = 64;
 
 } // namespace
 
@@ -24,7 +24,7 @@ void putNumber(std::string& bytes, std::int64_t number) {
 
 std::int64_t NumberReader::next() {
     std::uint64_t bits = 0;
-    for (int shift = 0; shift < mostBits && at_ < bytes_.size(); shift += bitsPerByte) {
+    for (int shift = 0; shift < maximumBits && at_ < bytes_.size(); shift += bitsPerByte) {
         const auto byte = static_cast<std::uint64_t>(static_cast<unsigned char>(bytes_[at_++]));
         bits |= (byte & (moreFollow - 1)) << shift;
         if ((byte & moreFollow) == 0)

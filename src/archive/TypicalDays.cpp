@@ -32,9 +32,9 @@ std::optional<DaySlot> slotOf(const CircuitLoad& load, std::vector<std::int64_t>
         total += value;
     slot.mean = static_cast<double>(total) /
                 static_cast<double>(static_cast<std::int64_t>(values.size()) * load.scale * 10);
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    slot.min = load.value(*least);
-    slot.max = load.value(*most);
+    const auto [minimum, maximum] = std::minmax_element(values.begin(), values.end());
+    slot.min = load.value(*minimum);
+    slot.max = load.value(*maximum);
     slot.p10 = load.value(percentile(values, 10));
     slot.p90 = load.value(percentile(values, 90));
     return slot;

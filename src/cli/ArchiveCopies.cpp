@@ -2,6 +2,7 @@
 #include "archive/CopyArchive.h"
 #include "cli/ArchiveCommands.h"
 #include "cli/ArchivePlace.h"
+#include "core/Numbers.h"
 #include "platform/archive/OpenArchive.h"
 
 namespace tally::cli {
@@ -20,7 +21,7 @@ int backup(Context& context, const Options& options) {
     if (*options.json)
         outJson(context, {{"path", options.target}, {"recordings", recordings}});
     else
-        context.out(std::to_string(recordings) + " recording(s) in " + options.target + "\n");
+        context.out(counted(recordings, "recording") + " in " + options.target + "\n");
     return status::done;
 }
 

@@ -18,16 +18,16 @@ using archive::Kept;
 namespace {
 
 constexpr std::size_t batchSize = 500;
-constexpr std::uint64_t mostNotesBytes = std::uint64_t{1} << 20;
+constexpr std::uint64_t maximumNotesBytes = std::uint64_t{1} << 20;
 
 std::optional<std::string> notesBeside(const Files& files, const std::string& path) {
     const std::string notes = notesPath(path);
     if (notes == path || !files.exists(notes))
         return std::nullopt;
     try {
-        std::string bytes = files.read(notes, mostNotesBytes + 1);
+        std::string bytes = files.read(notes, maximumNotesBytes + 1);
         // What is so long is no notes file.
-        if (bytes.size() > mostNotesBytes)
+        if (bytes.size() > maximumNotesBytes)
             return std::nullopt;
         return bytes;
     } catch (const Fault&) {

@@ -23,11 +23,11 @@ bool ArchiveFiles::same(const std::string& path, const std::string& other) const
     return kept_.contains(path) || kept_.contains(other) ? path == other : SafeFile::same(path, other);
 }
 
-std::string ArchiveFiles::read(const std::string& path, std::uint64_t most) const {
+std::string ArchiveFiles::read(const std::string& path, std::uint64_t maximum) const {
     const auto kept = kept_.find(path);
     if (kept == kept_.end())
-        return SafeFile::read(path, most);
-    return kept->second.substr(0, most);
+        return SafeFile::read(path, maximum);
+    return kept->second.substr(0, maximum);
 }
 
 void ArchiveFiles::write(const std::string& path, const std::string& bytes) {

@@ -17,7 +17,7 @@ class ArchiveFiles : public SafeFile {
 public:
     bool exists(const std::string& path) const override;
     bool same(const std::string& path, const std::string& other) const override;
-    std::string read(const std::string& path, std::uint64_t most) const override;
+    std::string read(const std::string& path, std::uint64_t maximum) const override;
     void write(const std::string& path, const std::string& bytes) override;
 
     void put(const std::string& path, std::string bytes) { kept_[path] = std::move(bytes); }

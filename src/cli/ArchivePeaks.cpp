@@ -25,9 +25,9 @@ const std::map<std::string, archive::Rank>& ranks() {
 }
 
 std::size_t topOf(const std::string& typed) {
-    constexpr std::size_t mostDigits = 9;
+    constexpr std::size_t maximumDigits = 9;
     const bool plain =
-        typed.size() <= mostDigits && typed.find_first_not_of("0123456789") == std::string::npos;
+        typed.size() <= maximumDigits && typed.find_first_not_of("0123456789") == std::string::npos;
     const std::size_t top = plain ? std::stoul(typed) : 0;
     if (top == 0)
         throw WrongUsage("'" + typed + "' is no number of circuits");

@@ -3,6 +3,7 @@
 #include "archive/Questions.h"
 #include "cli/ArchiveCommands.h"
 #include "cli/ArchivePlace.h"
+#include "core/Numbers.h"
 
 #include <algorithm>
 
@@ -53,7 +54,7 @@ int station(Context& context, const Options& options) {
     for (const archive::StationDay& day : days)
         context.out(archive::dayText(day.day) + "  peak " + figureText(day.peak) + " A at " +
                     formatTime(day.peakAt, "%H:%M") + "  mean " + figureText(day.mean) + " A  " +
-                    std::to_string(day.circuits) + " circuit(s)\n");
+                    counted(day.circuits, "circuit") + "\n");
     return status::done;
 }
 

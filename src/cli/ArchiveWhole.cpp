@@ -3,6 +3,7 @@
 #include "archive/Verify.h"
 #include "cli/ArchiveCommands.h"
 #include "cli/ArchivePlace.h"
+#include "core/Numbers.h"
 
 namespace tally::cli {
 
@@ -22,9 +23,9 @@ int stats(Context& context, bool json) {
                           {"last", last}});
         return status::done;
     }
-    context.out(std::to_string(stats.recordings) + " recording(s), " + std::to_string(stats.readings) +
-                " readings, " + std::to_string(stats.bytes) + " bytes\n" + std::to_string(stats.circuits) +
-                " circuit(s) at " + std::to_string(stats.stations) + " station(s)\n");
+    context.out(counted(stats.recordings, "recording") + ", " + counted(stats.readings, "reading") + ", " +
+                std::to_string(stats.bytes) + " bytes\n" + counted(stats.circuits, "circuit") + " at " +
+                counted(stats.stations, "station") + "\n");
     if (stats.days)
         context.out(archive::dayText(stats.days->first) + " to " + archive::dayText(stats.days->last) + "\n");
     return status::done;
@@ -36,7 +37,7 @@ int verify(Context& context, bool json) {
     if (json)
         outJson(context, {{"checked", verified.checked}, {"bad", verified.bad}});
     else
-        context.out(std::to_string(verified.checked) + " recording(s) checked, " +
+        context.out(counted(verified.checked, "recording") + " checked, " +
                     std::to_string(verified.bad.size()) + " bad\n");
     if (!json)
         for (const std::string& name : verified.bad)

@@ -3,6 +3,7 @@
 #include "cli/ArchiveCommands.h"
 #include "cli/ArchivePlace.h"
 #include "cli/CircuitOptions.h"
+#include "core/Numbers.h"
 
 namespace tally::cli {
 
@@ -25,7 +26,7 @@ Json jsonOf(const archive::Coverage& coverage) {
 }
 
 std::string textOf(const archive::Coverage& coverage) {
-    std::string text = std::to_string(coverage.days) + " day(s) with readings\n";
+    std::string text = counted(coverage.days, "day") + " with readings\n";
     for (const archive::DaySpan& span : coverage.covered)
         text += archive::dayText(span.first) + " to " + archive::dayText(span.last) + "\n";
     return text;
@@ -62,7 +63,7 @@ int growth(Context& context, const Options& options) {
     }
     for (const archive::YearOfLoad& year : years)
         context.out(std::to_string(year.year) + "  peak " + figureText(year.peak) + "  mean " +
-                    figureText(year.mean) + "  " + std::to_string(year.days) + " day(s)  change " +
+                    figureText(year.mean) + "  " + counted(year.days, "day") + "  change " +
                     figureText(year.change) + " %\n");
     return status::done;
 }

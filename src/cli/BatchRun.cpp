@@ -123,9 +123,9 @@ private:
 };
 
 std::size_t threadsFor(const BatchRun& run, std::size_t jobs) {
-    constexpr std::size_t most = 64; // more only cost memory
+    constexpr std::size_t maximum = 64; // more only cost memory
     return std::clamp<std::size_t>(static_cast<std::size_t>(run.workers), 1,
-                                   std::max<std::size_t>(std::min(jobs, most), 1));
+                                   std::max<std::size_t>(std::min(jobs, maximum), 1));
 }
 
 // Before any file is touched: what is wrong with the arguments themselves.

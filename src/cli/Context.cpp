@@ -41,8 +41,8 @@ public:
     bool same(const std::string& path, const std::string& other) const override {
         return files().same(path, other);
     }
-    std::string read(const std::string& path, std::uint64_t most) const override {
-        return files().read(path, most);
+    std::string read(const std::string& path, std::uint64_t maximum) const override {
+        return files().read(path, maximum);
     }
     void write(const std::string& path, const std::string& bytes) override {
         const std::string& to = place.empty() ? path : place;

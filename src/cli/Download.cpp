@@ -24,8 +24,7 @@ int download(Context& context, const DownloadOptions& options) {
     checkOutput(options.output);
     Session session(link.services(), link.panel);
     DownloadSession download(session, waitFor(*options.wait));
-    if (const auto ready = download.mnuItemDownload_Click(context.files(), QDir::currentPath().toStdString());
-        !ready)
+    if (const auto ready = download.prepare(context.files(), QDir::currentPath().toStdString()); !ready)
         return link.refused(ready.error());
     return link.keep(download.DownLoadProc(), options.output);
 }

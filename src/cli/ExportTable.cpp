@@ -51,7 +51,7 @@ void write(Context& context, const std::string& path, const std::string& bytes) 
 int exportTable(Context& context, const Options& options) {
     const std::string ending = endingOf(options.to, {"csv", "xlsx"});
     const OpenFiles open = openFiles(context, *options.files, *options.range);
-    std::optional<IndexRange> range;
+    std::optional<Range> range;
     if (options.range->given())
         range = {open.readings().first, open.readings().last};
     keepDataFiles(context, *options.files, options.to);

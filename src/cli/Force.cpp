@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/OpenFiles.h"
 #include "core/ForceReadings.h"
+#include "core/Numbers.h"
 #include "core/SaveText.h"
 
 namespace tally::cli {
@@ -24,7 +25,7 @@ int run(Context& context, const Options& options) {
     float lastValue = 0;
     const int count = valueOrRefused(
         forceReadings(open.recordings, 0, open.readings(), options.value, whichOf(options.which), lastValue));
-    context.warn(std::to_string(count) + " reading(s) forced");
+    context.warn(counted(count, "reading") + " forced");
     writeFile(context, options.to, tally::quoted(buildDataText(open.recordings, 0, open.recordings.all(0))));
     return 0;
 }

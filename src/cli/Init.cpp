@@ -52,7 +52,7 @@ int initialize(Context& context, const InitOptions& options) {
     context.warn(knownDownloads(link.journal.list()));
     TracePanel panel(context, options.link->log);
     Session session(link.services(), panel);
-    if (const auto ready = mnuItemInitialize_Click(session); !ready) {
+    if (const auto ready = prepareInitialize(session); !ready) {
         if (!options.yes)
             context.warn("Nothing was sent; --yes goes on");
         return status::refused;

@@ -8,6 +8,7 @@
 #include "core/Fileopen.h"
 #include "core/ModeTable.h"
 #include "core/NotesFile.h"
+#include "core/Numbers.h"
 #include "platform/FilePath.h"
 #include "view/FilesTogether.h"
 
@@ -28,7 +29,7 @@ int indexOf(const std::optional<std::string>& text, int whenNone) {
     return index;
 }
 
-WrongForFile outsideFile(const IndexRange& range, int count) {
+WrongForFile outsideFile(const Range& range, int count) {
     return WrongForFile("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
                         " is turned round or outside the file, which has the readings 0 to " +
                         std::to_string(count - 1));
@@ -38,14 +39,14 @@ void warnOfFile(Context& context, const FileFacts& info) {
     if (const std::string cut = incompleteNotice(info); !cut.empty())
         context.warn(info.path + ": " + cut);
     if (info.unreadable > 0)
-        context.warn(info.path + ": " + std::to_string(info.unreadable) +
-                     " item(s) could not be read as numbers; each counts with its leading number, or 0");
+        context.warn(info.path + ": " + counted(info.unreadable, "item") +
+                     " could not be read as numbers; each counts with its leading number, or 0");
     if (info.notesUnreadable)
         context.warn(notesPath(info.path) + ": the notes file cannot be read");
 }
 
 // Of a range inside the file that holds none of its whole intervals.
-WrongUsage noWholeInterval(const IndexRange& range, const FileFacts& info) {
+WrongUsage noWholeInterval(const Range& range, const FileFacts& info) {
     const int whole = info.count % valuesPerInterval(info.modeLetter);
     return WrongUsage("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
                       " holds no whole interval: a Min/Max/Avg file is taken in threes, counted from the "
@@ -102,13 +103,13 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
     return open;
 }
 
-std::optional<IndexRange> indexRange(const RangeOptions& range, int count) {
+std::optional<Range> indexRange(const RangeOptions& range, int count) {
     if (!range.given())
         return std::nullopt;
     const bool both = range.from && range.to;
     if (both && indexOf(range.from, 0) > indexOf(range.to, 0))
         throw WrongUsage("The range " + *range.from + " to " + *range.to + " is turned round");
-    const IndexRange given = {indexOf(range.from, 0), indexOf(range.to, count - 1)};
+    const Range given = {indexOf(range.from, 0), indexOf(range.to, count - 1)};
     if (given.first < 0 || given.last < given.first || given.last >= count)
         throw outsideFile(given, count);
     return given;

@@ -45,7 +45,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths, con
 
 // The given range as indexes of a file with so many readings; nothing when none is given. Throws WrongUsage
 // for one whose ends are no numbers, turned round or outside the file.
-std::optional<IndexRange> indexRange(const RangeOptions& range, int count);
+std::optional<Range> indexRange(const RangeOptions& range, int count);
 
 // Adds --align.
 std::shared_ptr<bool> addAlign(CLI::App& command);

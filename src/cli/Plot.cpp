@@ -31,12 +31,12 @@ QSize sizeOf(const std::string& text) {
     const auto [cross, badWidth] = std::from_chars(text.data(), end, width);
     if (badWidth == std::errc() && cross != end && *cross == 'x') {
         const auto [stopped, badHeight] = std::from_chars(cross + 1, end, height);
-        const auto fits = [](int pixels) { return pixels >= pictureLeast && pixels <= pictureMost; };
+        const auto fits = [](int pixels) { return pixels >= pictureMinimum && pixels <= pictureMaximum; };
         if (badHeight == std::errc() && stopped == end && fits(width) && fits(height))
             return {width, height};
     }
     throw WrongUsage("--size: '" + text + "' is no size such as 1200x700 (each side " +
-                     std::to_string(pictureLeast) + " to " + std::to_string(pictureMost) + ")");
+                     std::to_string(pictureMinimum) + " to " + std::to_string(pictureMaximum) + ")");
 }
 
 Statistic statisticOf(const std::string& name) {

@@ -19,7 +19,7 @@ int recover(Context& context, const RecoverOptions& options) {
     checkOutput(options.output);
     Session session(link.services(), link.panel);
     RecoverSession recover(session, waitFor(*options.wait));
-    if (const auto ready = recover.mnuItemRecover_Click(); !ready)
+    if (const auto ready = recover.prepare(); !ready)
         return link.refused(ready.error());
     return link.keep(recover.RecoverProc(context.files(), folders::recoverFile()), options.output);
 }

@@ -28,7 +28,7 @@ constexpr std::int64_t beforeInitString = 500; // milliseconds
 
 } // namespace
 
-SessionResult<void> mnuItemInitialize_Click(Session& session) {
+SessionResult<void> prepareInitialize(Session& session) {
     const Message question = {
         .text = warning, .buttons = Buttons::OkCancel, .exclamation = true, .defaultAnswer = Answer::Cancel};
     if (session.prompt.show(question) == Answer::Cancel)

@@ -15,7 +15,7 @@ namespace tally {
 
 // What comes before the options of the initialization: the warning that data will be lost, and a try of the
 // port. The end was told.
-SessionResult<void> mnuItemInitialize_Click(Session& session);
+SessionResult<void> prepareInitialize(Session& session);
 
 // How an initialization may be asked for.
 struct InitializeRules {

@@ -19,7 +19,7 @@ const char* const caution = "                           CAUTION  \r"
                             "            INSTRUMENT HAD BEEN IN \r"
                             " CONTINUOUS MODE AND MEMORY FILLED \r\r";
 const char* const cableOff = "         OK TO REMOVE THE CABLE NOW       \r\r";
-constexpr std::size_t mostCharacters = 80100;
+constexpr std::size_t maximumCharacters = 80100;
 constexpr std::size_t shownCharacters = 47;
 constexpr std::size_t showEvery = 1000; // characters between two steps of the progress bar
 constexpr int progressMaximum = 20000;
@@ -62,7 +62,7 @@ private:
 
 } // namespace
 
-SessionResult<void> RecoverSession::mnuItemRecover_Click() {
+SessionResult<void> RecoverSession::prepare() {
     session_.waiter.resetCancel();
     if (session_.instrument.instSelection == autoSelectType)
         return session_.end(EndKind::wrongInstrument, {autoSelectRefusal()});
@@ -147,7 +147,7 @@ std::optional<RecoverRefusal> RecoverSession::onCharacter(char c) {
             hint_.start();
     }
     text_ += scan_.feed(c);
-    if (text_.size() > mostCharacters)
+    if (text_.size() > maximumCharacters)
         throw fault::subscript();
     countProgress();
     const std::size_t offset = scan_.started() ? text_.size() - 1 - scan_.startIndex() : 0;

@@ -23,7 +23,7 @@ public:
 
     // What comes before the dialog: refuses automatic selection, warns, tries the port and puts the prompt
     // into the panel. The end was told.
-    SessionResult<void> mnuItemRecover_Click();
+    SessionResult<void> prepare();
 
     // What the OK button runs: receives, works out and reports. The end without a recording was told (a
     // cancel needs no word). `temporary` is the path of the file that the text is read back from; it stays.

@@ -7,6 +7,7 @@
 #include "core/ModeTable.h"
 #include "core/Recordings.h"
 #include "link/Instruments.h"
+#include "link/ReceivedText.h"
 
 #include <algorithm>
 
@@ -18,11 +19,6 @@ const char* const notValid = "     NOT A VALID INSTRUMENT    \r         REMOVE T
 const char* const notVoltmeter = "Not Voltmeter";
 const char* const notRecoverable = "    CONTINUOUS DATA; NOT RECOVERABLE     \r"
                                    "  CANNOT DETERMINE STOPPED TIME \r\r";
-
-std::size_t startOf(std::string_view text) {
-    const auto found = std::find_if(text.begin(), text.end(), isFamilyInitial);
-    return static_cast<std::size_t>(found - text.begin());
-}
 
 constexpr int perLine = 10;
 
@@ -103,7 +99,7 @@ std::optional<RecoverRefusal> recoverRefusal(std::size_t offset, char c, int ins
 }
 
 RecoverHeader recoverHeader(std::string_view text) {
-    const std::string_view header = text.substr(startOf(text));
+    const std::string_view header = text.substr(startOfRecording(text));
     const char letter = modeLetterOf(header);
     if (headerField(header, column::mode).empty() || !isMode(letter))
         throw fault::subscript();
@@ -137,7 +133,7 @@ ReadingTime stopTime(const RecoverHeader& header, int readings) {
 
 RecoveredText recoverText(std::string text, const RecoverHeader& header, int readings) {
     const ReadingTime stopped = stopTime(header, readings);
-    text.replace(startOf(text) + column::time.at, column::time.length, headerTime(stopped));
+    text.replace(startOfRecording(text) + column::time.at, column::time.length, headerTime(stopped));
     return {std::move(text), header.start, stopped, readings};
 }
 

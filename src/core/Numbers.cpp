@@ -207,6 +207,10 @@ std::string plainTenths(std::int32_t tenths) {
     return plain(static_cast<double>(tenths) / 10.0);
 }
 
+std::string counted(std::int64_t number, std::string_view thing) {
+    return std::to_string(number) + " " + std::string(thing) + (number == 1 ? "" : "s");
+}
+
 std::string Str(double value) {
     std::string text = plain(value);
     if (value >= 0)

@@ -35,6 +35,9 @@ std::string plainTenths(std::int32_t tenths);
 // plain() with the leading blank of a positive number.
 std::string Str(double value);
 
+// How many of a thing, in the form that the number asks for: "1 reading", "2 readings".
+std::string counted(std::int64_t number, std::string_view thing);
+
 // A number through a pattern of literal text around one run of "#", "0", "," and "." places ("  000.0",
 // "###,##0"). "0" places set the minimum number of digits, "," groups by thousands; halves are rounded away
 // from zero.

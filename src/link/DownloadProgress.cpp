@@ -10,7 +10,7 @@ namespace tally {
 namespace {
 
 constexpr std::size_t silenceAfter = 500; // characters; before that a silent line is waited for
-constexpr double mostSilent = 2000.0 / static_cast<double>(DownloadProgress::interval); // ticks
+constexpr double maximumSilent = 2000.0 / static_cast<double>(DownloadProgress::interval); // ticks
 constexpr int maximum = 20000;
 constexpr int atFirst = 1000;
 
@@ -38,7 +38,7 @@ bool DownloadProgress::tick(std::size_t received) {
     if (received == counted_) {
         label += "\r\nWaiting for data... ";
         if (received > silenceAfter)
-            goesOn = silentTicks_++ <= mostSilent;
+            goesOn = silentTicks_++ <= maximumSilent;
     }
     counted_ = received;
     session_.panel.progressText(label);

@@ -84,8 +84,7 @@ WaitPolicy downloadPolicy(Panel& panel, std::int64_t waitFor) {
 DownloadSession::DownloadSession(Session& session, std::int64_t waitFor)
     : session_(session), waitFor_(waitFor) {}
 
-SessionResult<void> DownloadSession::mnuItemDownload_Click(const Files& files,
-                                                           const std::string& workingDirectory) {
+SessionResult<void> DownloadSession::prepare(const Files& files, const std::string& workingDirectory) {
     session_.waiter.resetCancel();
     if (auto there = session_.probe(); !there)
         return there;

@@ -22,7 +22,7 @@ public:
 
     // What comes before the dialog: tries the port, reads the run specification, warns about voltage
     // recorders and puts the prompt into the panel. Throws file faults.
-    SessionResult<void> mnuItemDownload_Click(const Files& files, const std::string& workingDirectory);
+    SessionResult<void> prepare(const Files& files, const std::string& workingDirectory);
 
     // What the OK button runs: receives, judges and reports. The port is closed when it returns or throws.
     SessionResult<PendingDownload> DownLoadProc();

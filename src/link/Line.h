@@ -43,9 +43,9 @@ public:
     virtual void onArrival(Keeper keeper) = 0;
     // What has arrived, at most InputLen characters; empty when nothing has.
     virtual std::string Input() = 0;
-    // The same again and again: appends what has arrived until `into` holds `most` characters.
-    virtual void inputAll(std::string& into, std::size_t most) {
-        for (std::string next; into.size() < most && !(next = Input()).empty();)
+    // The same again and again: appends what has arrived until `into` holds `maximum` characters.
+    virtual void inputAll(std::string& into, std::size_t maximum) {
+        for (std::string next; into.size() < maximum && !(next = Input()).empty();)
             into += next;
     }
     virtual void Output(std::string_view characters) = 0;

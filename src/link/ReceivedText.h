@@ -3,12 +3,16 @@
 
 #include "core/ReadingTime.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace tally {
 
 // What a received text (bytes) says about itself, and the two repairs that make a data text of it.
+
+// Where the recording starts: the first family initial, or the end of the text.
+std::size_t startOfRecording(std::string_view gText);
 
 // Puts the model code at the start of the recording into upper case. False when none of the first 32,766
 // characters begins one.

@@ -9,7 +9,7 @@ namespace tally {
 namespace {
 
 // Little enough to look at timers and cancel often.
-constexpr std::size_t mostKept = 1024;
+constexpr std::size_t maximumKept = 1024;
 constexpr std::size_t clockEvery = 64; // kept characters
 
 } // namespace
@@ -50,8 +50,8 @@ void Session::closePort() {
     used_ = 0;
 }
 
-void Session::drain(std::size_t most) {
-    line.inputAll(kept_, most);
+void Session::drain(std::size_t maximum) {
+    line.inputAll(kept_, maximum);
 }
 
 std::string Session::Input() {
@@ -59,7 +59,7 @@ std::string Session::Input() {
         kept_.clear();
         used_ = 0;
         looked_ = waiter.now();
-        drain(mostKept);
+        drain(maximumKept);
     }
     return unused() > 0 ? std::string(1, kept_[used_++]) : std::string();
 }
@@ -80,7 +80,7 @@ Wake Session::pause(std::int64_t deadline) {
         const Wake wake = waiter.until(deadline);
         if (wake != Wake::data)
             return wake;
-        drain(kept_.size() + mostKept);
+        drain(kept_.size() + maximumKept);
         if (!line.isOpen())
             return Wake::due;
     }

@@ -64,8 +64,8 @@ public:
 
 private:
     SessionResult<void> tryPort(const std::function<void()>& open, bool quiet) const;
-    // Reads into the store, up to `most` characters kept.
-    void drain(std::size_t most);
+    // Reads into the store, up to `maximum` characters kept.
+    void drain(std::size_t maximum);
 
     std::string kept_;
     std::size_t used_ = 0;

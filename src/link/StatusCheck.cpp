@@ -88,7 +88,7 @@ void ReportError(Prompt& prompt, const Fault& fault, int gErrorCallPoint) {
                 faultReport(fault));
 }
 
-void StatusCheckSession::mnuItemStatusCheck_Click() {
+void StatusCheckSession::prepare() {
     session_.waiter.resetCancel();
     if (!session_.line.isOpen())
         return;

@@ -18,7 +18,7 @@ public:
         : session_(session), waitFor_(waitFor) {}
 
     // What comes before the form: a port that is still open is closed, and told.
-    void mnuItemStatusCheck_Click();
+    void prepare();
 
     // Gives the fields of the check that ended it, or how that ended without them, which was told. The port
     // is closed when it returns.

@@ -22,7 +22,7 @@ namespace {
 
 constexpr const char* beginning = ".tallyline-";
 constexpr const char* ending = ".part";
-constexpr int mostNames = 10000; // tried; more are never taken at once
+constexpr int maximumNames = 10000; // tried; more are never taken at once
 
 bool isOurs(const char* name) {
     const std::size_t length = std::strlen(name);
@@ -72,7 +72,7 @@ void removeIfLeft(int folder, const char* name) {
 
 FileBeside::FileBeside(const Descriptor& folder, mode_t mode) : folder_(folder) {
     static std::atomic<unsigned> count = 0;
-    for (int i = 0; i < mostNames; ++i) {
+    for (int i = 0; i < maximumNames; ++i) {
         const std::string name =
             beginning + std::to_string(getpid()) + "-" + std::to_string(++count) + ending;
         if (make(name.c_str(), mode) || errno != EEXIST)

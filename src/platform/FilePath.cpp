@@ -27,8 +27,8 @@ std::string absolutePath(const std::string& path) {
 }
 
 std::string throughLinks(std::string path) {
-    constexpr int mostLinks = 40; // where the system gives up as well
-    for (int i = 0; i < mostLinks; ++i) {
+    constexpr int maximumLinks = 40; // where the system gives up as well
+    for (int i = 0; i < maximumLinks; ++i) {
         std::array<char, PATH_MAX> target{};
         const ssize_t length = readlink(path.c_str(), target.data(), target.size());
         if (length <= 0)

@@ -17,7 +17,7 @@ namespace tally {
 namespace {
 
 constexpr int syncEvery = 1000; // milliseconds
-constexpr std::uint64_t mostText = 1 << 20;
+constexpr std::uint64_t maximumText = 1 << 20;
 constexpr std::size_t describedBy = 65536; // characters that may stand before and in a header
 
 const char* const rawEnding = ".raw";
@@ -242,8 +242,8 @@ std::vector<std::string> JournalFolder::ids() const {
 }
 
 // What was received, without the filling of a file that a killed program left.
-std::string JournalFolder::characters(const std::string& id, std::uint64_t most) const {
-    return std::string(withoutFilling(files_.read(path(id, rawEnding), most)));
+std::string JournalFolder::characters(const std::string& id, std::uint64_t maximum) const {
+    return std::string(withoutFilling(files_.read(path(id, rawEnding), maximum)));
 }
 
 std::uint64_t JournalFolder::countOf(const std::string& id) const {
@@ -253,7 +253,7 @@ std::uint64_t JournalFolder::countOf(const std::string& id) const {
 
 // Nothing when no character came and nobody waits for one.
 std::optional<JournalEntry> JournalFolder::entry(const std::string& id) const {
-    const JournalRecord record = readJournal(files_.read(path(id, logEnding), mostText));
+    const JournalRecord record = readJournal(files_.read(path(id, logEnding), maximumText));
     const std::uint64_t bytes = countOf(id);
     const bool held = isHeld(path(id, logEnding));
     if (bytes == 0 && !held)
@@ -290,13 +290,13 @@ std::string JournalFolder::text(const std::string& id) const {
         return *onItsWay;
     const std::string data = path(id, dataEnding);
     if (files_.exists(data))
-        return files_.read(data, mostText);
+        return files_.read(data, maximumText);
     return received(id);
 }
 
 std::string JournalFolder::received(const std::string& id) const {
-    const JournalRecord record = readJournal(files_.read(path(id, logEnding), mostText));
-    return characters(id, record.partStart + mostText).erase(0, record.partStart);
+    const JournalRecord record = readJournal(files_.read(path(id, logEnding), maximumText));
+    return characters(id, record.partStart + maximumText).erase(0, record.partStart);
 }
 
 JournalFile JournalFolder::logOf(const std::string& id) const {
@@ -329,7 +329,7 @@ bool JournalFolder::keeps(const std::string& id) {
 }
 
 // Keeps the last ones, every unsaved one and those that are being written.
-void JournalFolder::removeOld(std::size_t most) const {
+void JournalFolder::removeOld(std::size_t maximum) const {
     std::size_t kept = 0;
     for (const std::string& id : ids()) {
         std::optional<JournalEntry> found;
@@ -339,7 +339,7 @@ void JournalFolder::removeOld(std::size_t most) const {
             continue;
         }
         const bool wanted =
-            found && (kept < most || isUnsaved(found->state) || found->state == JournalState::receiving);
+            found && (kept < maximum || isUnsaved(found->state) || found->state == JournalState::receiving);
         kept += found ? 1 : 0;
         if (!wanted)
             whileHeld(path(id, logEnding), [&] { remove(id); });

@@ -57,14 +57,14 @@ private:
     std::optional<std::string> accepting(const std::string& id) const;
     void bringAccepted(const std::string& id, std::string_view text, JournalFile log);
     JournalFile logOf(const std::string& id) const;
-    std::string characters(const std::string& id, std::uint64_t most) const;
+    std::string characters(const std::string& id, std::uint64_t maximum) const;
     std::uint64_t countOf(const std::string& id) const;
     void note(const std::string& line);
     void bring(JournalFile file);
     void report(const std::string& why);
     void takeReport();
     void fail(const std::string& why);
-    void removeOld(std::size_t most) const;
+    void removeOld(std::size_t maximum) const;
     void remove(const std::string& id) const;
 
     std::string folder_;

@@ -17,8 +17,8 @@ public:
     bool same(const std::string& path, const std::string& other) const override {
         return files_.same(path, other);
     }
-    std::string read(const std::string& path, std::uint64_t most) const override {
-        return files_.read(path, most);
+    std::string read(const std::string& path, std::uint64_t maximum) const override {
+        return files_.read(path, maximum);
     }
     void write(const std::string& path, const std::string& bytes) override;
 

@@ -10,8 +10,8 @@
 namespace tally {
 
 PortReader::PortReader(QSerialPort& port) : port_(port) {
-    constexpr qint64 mostBuffered = 1 << 20;
-    port_.setReadBufferSize(mostBuffered);
+    constexpr qint64 maximumBuffered = 1 << 20;
+    port_.setReadBufferSize(maximumBuffered);
     connect(&port_, &QSerialPort::readyRead, this, &PortReader::ready);
 }
 

@@ -9,7 +9,7 @@ namespace tally {
 namespace {
 
 constexpr std::size_t mapped = 4 * FileMap::step; // a whole memory, with what came before it
-constexpr std::size_t leastRoom = 32768;          // more than a line gives at once
+constexpr std::size_t minimumRoom = 32768;        // more than a line gives at once
 
 } // namespace
 
@@ -24,7 +24,7 @@ std::span<char> ReceptionFile::room() {
     if (!isOpen() || !mayMap_)
         return {};
     std::size_t used = static_cast<std::size_t>(size_ - start_);
-    if (map_.place().size() < used + leastRoom) {
+    if (map_.place().size() < used + minimumRoom) {
         start_ = size_ / FileMap::step * FileMap::step;
         used = static_cast<std::size_t>(size_ - start_);
         mayMap_ = map_.map(file_.descriptor(), start_, mapped);

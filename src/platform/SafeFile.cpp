@@ -21,7 +21,7 @@ namespace tally {
 
 namespace {
 
-constexpr std::size_t mostAtOnce = 65536;
+constexpr std::size_t maximumAtOnce = 65536;
 
 // The path without links and ways around; empty when it leads nowhere.
 std::string canonical(const std::string& path) {
@@ -60,7 +60,7 @@ std::string bytesOf(const std::string& path, std::uint64_t maximum) {
     bytes.reserve(std::min<std::uint64_t>(maximum, static_cast<std::uint64_t>(facts.st_size) + 1));
     while (bytes.size() < maximum) {
         const std::size_t had = bytes.size();
-        const std::size_t left = bytes.capacity() > had ? bytes.capacity() - had : mostAtOnce;
+        const std::size_t left = bytes.capacity() > had ? bytes.capacity() - had : maximumAtOnce;
         bytes.resize(had + std::min<std::uint64_t>(left, maximum - had));
         const ssize_t got = ::read(file.get(), bytes.data() + had, bytes.size() - had);
         // What was read before an error is no shorter file.

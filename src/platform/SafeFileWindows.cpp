@@ -60,7 +60,7 @@ bool SafeFile::same(const std::string& path, const std::string& other) const {
     return !found.isEmpty() && found == QFileInfo(QString::fromStdString(other)).canonicalFilePath();
 }
 
-std::string SafeFile::read(const std::string& path, std::uint64_t most) const {
+std::string SafeFile::read(const std::string& path, std::uint64_t maximum) const {
     const QFileInfo info(QString::fromStdString(path));
     if (path.empty() || !info.exists())
         throw fault::fileNotFound();
@@ -73,7 +73,7 @@ std::string SafeFile::read(const std::string& path, std::uint64_t most) const {
         throw info.exists() ? fault::pathFileAccess() : fault::fileNotFound();
     }
     std::string bytes(static_cast<std::size_t>(std::min<std::uint64_t>(
-                          most, static_cast<std::uint64_t>(std::max<qint64>(file.size(), 0)))),
+                          maximum, static_cast<std::uint64_t>(std::max<qint64>(file.size(), 0)))),
                       '\0');
     const qint64 got = file.read(bytes.data(), static_cast<qint64>(bytes.size()));
     if (got < 0)

@@ -16,8 +16,8 @@ namespace {
 
 constexpr char endOfFile = '\x1a';
 // More than the longest recording; a device that never stops is held back there.
-constexpr std::size_t mostBuffered = 1 << 20;
-constexpr std::size_t mostAtOnce = 32768;
+constexpr std::size_t maximumBuffered = 1 << 20;
+constexpr std::size_t maximumAtOnce = 32768;
 
 struct LineSettings {
     int baud = 0;
@@ -200,16 +200,16 @@ bool SerialLine::hasNews() {
 bool SerialLine::arrive() {
     if (!port_.isOpen())
         return false;
-    if (arrived_.size() - used_ >= mostBuffered) {
+    if (arrived_.size() - used_ >= maximumBuffered) {
         reader_.listen(false);
         return false;
     }
     std::span<char> place = keeper_.room ? keeper_.room() : std::span<char>();
     if (place.empty()) {
-        piece_.resize(mostAtOnce);
+        piece_.resize(maximumAtOnce);
         place = piece_;
     }
-    place = place.first(std::min(place.size(), mostAtOnce));
+    place = place.first(std::min(place.size(), maximumAtOnce));
     const auto count = reader_.read(place);
     if (!count) {
         gone(goneText(name()));
@@ -225,12 +225,12 @@ bool SerialLine::arrive() {
     return !piece.empty();
 }
 
-// The next characters, up to `most` and to ctrl/Z; they stay valid until the next call.
-std::string_view SerialLine::take(std::size_t most) {
+// The next characters, up to `maximum` and to ctrl/Z; they stay valid until the next call.
+std::string_view SerialLine::take(std::size_t maximum) {
     if (ended_ || (used_ == arrived_.size() && !arrive()))
         return {};
     reader_.listen(true);
-    std::string_view piece = std::string_view(arrived_).substr(used_, most);
+    std::string_view piece = std::string_view(arrived_).substr(used_, maximum);
     if (eofEnable_) {
         const std::size_t end = piece.find(endOfFile);
         ended_ = end != std::string_view::npos;
@@ -244,9 +244,9 @@ std::string SerialLine::Input() {
     return std::string(take(inputLen_ > 0 ? inputLen_ : std::string_view::npos));
 }
 
-void SerialLine::inputAll(std::string& into, std::size_t most) {
-    while (into.size() < most) {
-        const std::string_view piece = take(most - into.size());
+void SerialLine::inputAll(std::string& into, std::size_t maximum) {
+    while (into.size() < maximum) {
+        const std::string_view piece = take(maximum - into.size());
         if (piece.empty())
             return;
         into += piece;

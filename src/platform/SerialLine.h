@@ -32,7 +32,7 @@ public:
     bool isOpen() const override { return port_.isOpen(); }
     void onArrival(Keeper keeper) override { keeper_ = std::move(keeper); }
     std::string Input() override;
-    void inputAll(std::string& into, std::size_t most) override;
+    void inputAll(std::string& into, std::size_t maximum) override;
     // Does nothing on a closed line.
     void Output(std::string_view characters) override;
     std::string problem() const override { return problem_; }
@@ -50,7 +50,7 @@ private:
     void close();
     bool arrive();
     void gone(const std::string& problem);
-    std::string_view take(std::size_t most);
+    std::string_view take(std::size_t maximum);
     // "COM3 (/dev/ttyUSB0)"; the device alone when it was given by its path
     std::string name() const;
 

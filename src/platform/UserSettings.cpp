@@ -12,7 +12,7 @@ namespace tally {
 namespace {
 
 // A store of some dozen short values; anything longer is not ours.
-constexpr std::uint64_t mostBytes = 1'000'000;
+constexpr std::uint64_t maximumBytes = 1'000'000;
 constexpr int lockMilliseconds = 500;
 
 std::string backup(const std::string& path) {
@@ -33,8 +33,8 @@ UserSettings::~UserSettings() {
 }
 
 std::optional<IniText> UserSettings::load(const std::string& path) const {
-    const std::string bytes = files_.read(path, mostBytes + 1);
-    if (bytes.size() > mostBytes)
+    const std::string bytes = files_.read(path, maximumBytes + 1);
+    if (bytes.size() > maximumBytes)
         return std::nullopt;
     return parseIni(bytes);
 }
@@ -116,7 +116,7 @@ void UserSettings::save() {
     written_ = false;
     try {
         if (damaged_) {
-            files_.write(path_ + ".damaged", files_.read(path_, mostBytes));
+            files_.write(path_ + ".damaged", files_.read(path_, maximumBytes));
             damaged_ = false;
         }
         files_.write(path_, text);

@@ -18,7 +18,7 @@ namespace {
 
 constexpr double minutesPerDay = 24 * 60;
 constexpr double epochDay = 25569; // of 1970-01-01, counted as spreadsheets count days
-constexpr std::size_t mostTextBytes = 32767;
+constexpr std::size_t maximumTextBytes = 32767;
 
 // A date and time as the number that stands in its cell.
 double dayNumber(ReadingTime time) {
@@ -27,7 +27,7 @@ double dayNumber(ReadingTime time) {
 
 // Text as a cell takes it: valid UTF-8 without characters that XML has no way to write.
 std::string cellText(const std::string& text) {
-    std::string clean = repairedUtf8(text.substr(0, mostTextBytes));
+    std::string clean = repairedUtf8(text.substr(0, maximumTextBytes));
     std::replace_if(
         clean.begin(), clean.end(),
         [](char c) { return static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n'; }, ' ');

@@ -50,15 +50,15 @@ const Entry entries[] = {
     {"read-back-cut", "N", &Faults::readBackCut, "initialisation: only N characters are read back"},
 };
 
-constexpr std::int64_t mostMade = 1'000'000;        // characters, readings or lines that are made up
-constexpr std::int64_t mostCounted = 1'000'000'000; // characters or milliseconds that are only counted
+constexpr std::int64_t maximumMade = 1'000'000;        // characters, readings or lines that are made up
+constexpr std::int64_t maximumCounted = 1'000'000'000; // characters or milliseconds that are only counted
 
-std::int64_t number(std::string_view text, std::string_view whole, std::int64_t most = mostCounted) {
+std::int64_t number(std::string_view text, std::string_view whole, std::int64_t maximum = maximumCounted) {
     std::int64_t value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec != std::errc() || result.ptr != text.data() + text.size() || value < 0 || value > most)
+    if (result.ec != std::errc() || result.ptr != text.data() + text.size() || value < 0 || value > maximum)
         throw std::invalid_argument("\"" + std::string(whole) + "\": a whole number, at most " +
-                                    std::to_string(most) + ", is expected after \"=\"");
+                                    std::to_string(maximum) + ", is expected after \"=\"");
     return value;
 }
 
@@ -66,7 +66,7 @@ void assign(Faults& faults, const Entry& entry, std::string_view argument, std::
     if (const auto* flag = std::get_if<bool Faults::*>(&entry.member)) {
         faults.** flag = true;
     } else if (const auto* small = std::get_if<int Faults::*>(&entry.member)) {
-        faults.** small = static_cast<int>(number(argument, whole, mostMade));
+        faults.** small = static_cast<int>(number(argument, whole, maximumMade));
     } else if (const auto* large = std::get_if<std::int64_t Faults::*>(&entry.member)) {
         faults.** large = number(argument, whole);
     } else {

@@ -14,7 +14,7 @@ namespace {
 constexpr char tab = '\t';
 constexpr char dc4 = '\x14';
 constexpr std::size_t initLength = 18;
-constexpr std::size_t mostAtOnce = 65536;
+constexpr std::size_t maximumAtOnce = 65536;
 constexpr std::int64_t minute = 60'000; // milliseconds
 constexpr int rubbishLength = 16;
 const char* const prompt = "\r\nSET"; // its "T" is what the computer waits for
@@ -232,7 +232,7 @@ std::string Instrument::onLine(const std::string& characters) {
 std::string Instrument::sent(std::int64_t time) {
     std::string all;
     // A text that takes no time and never ends must not hold the caller.
-    std::size_t budget = mostAtOnce;
+    std::size_t budget = maximumAtOnce;
     for (std::int64_t next = nextAt(); next <= time && budget > 0; next = nextAt()) {
         if (next == plugAt_) {
             plug(next);

@@ -35,11 +35,12 @@ const Entry entries[] = {
     {"repeat", "", Kind::repeat, "begins again with the first step"},
 };
 
-// A number from 0 to `most`, taken so many times.
-bool readNumber(std::string_view text, double most, int times, std::int64_t& result) {
+// A number from 0 to `maximum`, taken so many times.
+bool readNumber(std::string_view text, double maximum, int times, std::int64_t& result) {
     double value = 0;
     const auto parsed = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() || !(value >= 0 && value <= most))
+    if (parsed.ec != std::errc() || parsed.ptr != text.data() + text.size() ||
+        !(value >= 0 && value <= maximum))
         return false;
     result = static_cast<std::int64_t>(value * times);
     return true;

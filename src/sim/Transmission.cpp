@@ -10,7 +10,7 @@ namespace {
 constexpr std::int64_t nanoseconds = 1'000'000; // in a millisecond
 constexpr double bitsPerCharacter = 10;
 // At no time at all an endless text would never end.
-constexpr std::size_t mostAtOnce = 65536;
+constexpr std::size_t maximumAtOnce = 65536;
 
 } // namespace
 
@@ -43,7 +43,7 @@ void Transmission::cutAtLineEnd() {
 
 std::string Transmission::take(std::int64_t time) {
     std::string taken;
-    while (!atEnd() && next_ <= time * nanoseconds && taken.size() < mostAtOnce) {
+    while (!atEnd() && next_ <= time * nanoseconds && taken.size() < maximumAtOnce) {
         taken += text_[position_++];
         ++count_;
         last_ = next_;

@@ -71,8 +71,8 @@ Channel powerChannel(const std::vector<Channel>& files, const PowerScale& scale)
     power.scale = scale;
     power.files = static_cast<int>(files.size());
     power.loads = summedCurrents(spans, files.front().loads.size());
-    const auto [least, most] = std::minmax_element(power.loads.begin(), power.loads.end());
-    for (const std::int32_t end : {*least, *most})
+    const auto [minimum, maximum] = std::minmax_element(power.loads.begin(), power.loads.end());
+    for (const std::int32_t end : {*minimum, *maximum})
         if (!std::isfinite(power.value(end)))
             throw fault::overflow();
     return power;

@@ -11,7 +11,7 @@ namespace tally::study {
 namespace {
 
 // Far beyond every reading; what is larger compares the same.
-constexpr std::int64_t mostTenths = 1000000000;
+constexpr std::int64_t maximumTenths = 1000000000;
 
 bool areDigits(std::string_view text) {
     return std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
@@ -20,9 +20,9 @@ bool areDigits(std::string_view text) {
 std::int64_t wholeTenths(std::string_view digits, std::string_view fraction) {
     std::int64_t tenths = 0;
     for (const char digit : digits)
-        tenths = std::min(tenths * 10 + (digit - '0'), mostTenths);
+        tenths = std::min(tenths * 10 + (digit - '0'), maximumTenths);
     const int first = fraction.empty() ? 0 : fraction.front() - '0';
-    return std::min(tenths * 10 + first, mostTenths);
+    return std::min(tenths * 10 + first, maximumTenths);
 }
 
 } // namespace

@@ -55,7 +55,7 @@ int Study::days() const {
     return static_cast<int>(dayOf(axis.at(axis.points - 1)) - dayOf(axis.start)) + 1;
 }
 
-Expected<Study> studyOf(const Recordings& recordings, std::optional<IndexRange> range,
+Expected<Study> studyOf(const Recordings& recordings, std::optional<Range> range,
                         const StudyOptions& options) {
     const auto common = timeAxis(recordings, range);
     if (!common)
@@ -82,7 +82,7 @@ Expected<Study> studyOf(const Recordings& recordings, std::optional<IndexRange> 
     return study;
 }
 
-Expected<LoadSeries> loadSeries(const Recordings& recordings, std::optional<IndexRange> range) {
+Expected<LoadSeries> loadSeries(const Recordings& recordings, std::optional<Range> range) {
     const auto axis = timeAxis(std::vector<FileFacts>{recordings.info(0)}, range);
     if (!axis)
         return tl::make_unexpected(axis.error());

@@ -81,7 +81,7 @@ inline constexpr const char* capacityOfVolts = "A capacity check needs files of 
 // Studies the open files over the time that they share. `range` counts in readings of the first file. Refuses
 // what timeAxis refuses, a capacity check of volts, and with the words of the power view files that have no
 // power. Throws Overflow as the power view does. The window fits the interval (isDemandWindow).
-Expected<Study> studyOf(const Recordings& recordings, std::optional<IndexRange> range,
+Expected<Study> studyOf(const Recordings& recordings, std::optional<Range> range,
                         const StudyOptions& options);
 
 // The average loads of the first open file (tenths) on their axis, for a question about one recording alone.
@@ -89,6 +89,6 @@ struct LoadSeries {
     Axis axis;
     Channel channel;
 };
-Expected<LoadSeries> loadSeries(const Recordings& recordings, std::optional<IndexRange> range);
+Expected<LoadSeries> loadSeries(const Recordings& recordings, std::optional<Range> range);
 
 } // namespace tally::study

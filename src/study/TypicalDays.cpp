@@ -18,9 +18,9 @@ DaySlot slotOf(const Channel& channel, std::span<std::int32_t> loads) {
     slot.mean = channel.mean(loads);
     slot.p10 = channel.value(percentile(loads, 10));
     slot.p90 = channel.value(percentile(loads, 90));
-    const auto [least, most] = std::minmax_element(loads.begin(), loads.end());
-    slot.min = channel.value(*least);
-    slot.max = channel.value(*most);
+    const auto [minimum, maximum] = std::minmax_element(loads.begin(), loads.end());
+    slot.min = channel.value(*minimum);
+    slot.max = channel.value(*maximum);
     return slot;
 }
 

@@ -19,7 +19,7 @@ public:
     explicit FieldWriter(std::string_view pattern);
 
     // The longest field that a number can become.
-    static constexpr std::size_t mostChars = 64;
+    static constexpr std::size_t maximumChars = 64;
 
     // Both may write up to mostChars characters and give the end of the field.
     char* write(char* to, std::int16_t tenths) const;
@@ -68,8 +68,8 @@ inline char* FieldWriter::write(char* to, std::int16_t tenths) const {
 inline char* FieldWriter::write(char* to, float value) const {
     // Up to here a number has four digits, and the half of a float's last place is below a thousandth. As
     // bits, what is negative or no number compares as larger.
-    constexpr auto most = std::bit_cast<std::uint32_t>(9999.0F);
-    if (std::bit_cast<std::uint32_t>(value) >= most)
+    constexpr auto maximum = std::bit_cast<std::uint32_t>(9999.0F);
+    if (std::bit_cast<std::uint32_t>(value) >= maximum)
         return to + putFormatted(to, value);
     const double unit = decimal_ ? 10 : 1;
     const double raised = static_cast<double>(value) * unit + 0.5;

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view timeColumn = "%H:%M  %b %d, %y      ";
 constexpr std::size_t timeField = 23;
 constexpr std::size_t workingSize = 30000;
-constexpr std::size_t mostLineChars = timeField + 10 * FieldWriter::mostChars + 2;
+constexpr std::size_t maximumLineChars = timeField + 10 * FieldWriter::maximumChars + 2;
 
 template <typename Value>
 void fill(std::string& table, std::span<const Value> values, const TableLayout& layout, bool wholeNumbers,
@@ -25,7 +25,7 @@ void fill(std::string& table, std::span<const Value> values, const TableLayout& 
     const auto perLine = static_cast<std::size_t>(layout.perLine);
     RunningTime time(timeColumn, times.start);
     // Lines are gathered in a small buffer and appended whenever it is full, so that the cost stays linear.
-    std::array<char, workingSize + mostLineChars> working;
+    std::array<char, workingSize + maximumLineChars> working;
     char* to = working.data();
     while (!values.empty()) {
         const auto inLine = std::min(perLine, values.size());

@@ -68,7 +68,7 @@ TEST_F(EditTest, ForcingChangesTheZoomedRangeAndSaysSoWithUndo) {
     EXPECT_EQ(recordings.gReadings[0][4], 500);
     EXPECT_TRUE(recordings.gInfo[0].forced);
     EXPECT_THAT(window.notices().text(QStringLiteral("forced")).toStdString(),
-                HasSubstr("a.dat: 4 forced reading(s)"));
+                HasSubstr("a.dat: 4 forced readings,"));
     EXPECT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 50.0F);
     window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
     EXPECT_TRUE(changed().empty());
@@ -208,7 +208,7 @@ TEST_F(EditTest, UndoAfterASaveIsAgainUnsaved) {
     click("mnuItemSave");
     window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
     EXPECT_THAT(window.notices().text(QStringLiteral("forced")).toStdString(),
-                HasSubstr("a.dat: 4 reading(s) taken back, not saved yet."));
+                HasSubstr("a.dat: 4 readings taken back, not saved yet."));
     prompt.answers = {Answer::No};
     EXPECT_FALSE(closes());
     force("50");

@@ -127,6 +127,19 @@ TEST_F(WindowTest, PathWithAnAmpersandIsShownAsItIs) {
               QStringLiteral("/d/R&&D.dat"));
 }
 
+TEST_F(WindowTest, LongPathIsShortenedInTheMiddleAndOpensAllTheSame) {
+    const std::string path = "/home/technician/recordings/2024/northern district/substations/mill road/"
+                             "feeder 12 red phase.dat";
+    open(path, dataFile('a', fewReadings));
+    click("mnuItemClose");
+    QAction* entry = window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0];
+    EXPECT_EQ(entry->text(),
+              QStringLiteral("/home/technician/rec\u2026tions/mill road/feeder 12 red phase.dat"));
+    EXPECT_EQ(entry->statusTip().toStdString(), path);
+    entry->trigger();
+    EXPECT_EQ(recordings.info(0).path, path);
+}
+
 TEST_F(WindowTest, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
     for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat"})
         open(path, dataFile('a', fewReadings));
@@ -213,7 +226,7 @@ TEST_F(WindowTest, UnreadableItemsAreSaidInTheStatusBarOnly) {
     bytes.replace(bytes.find("  30"), 4, "  x0");
     open("/d/1.dat", bytes);
     EXPECT_EQ(recordings.openCount(), 1);
-    EXPECT_THAT(remark().toStdString(), StartsWith("1 item(s)"));
+    EXPECT_THAT(remark().toStdString(), StartsWith("1 item of"));
     EXPECT_TRUE(prompt.shown.empty());
 }
 
@@ -269,6 +282,21 @@ TEST_F(WindowTest, ChartFileShowsWhatWasSaved) {
     mark(1, 2);
     EXPECT_FALSE(enabled("mnuZoom"));
     EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(WindowTest, ImportedChartShowsItsOwnNameInTheTitle) {
+    open("/d/1.dat", dataFile('a', fewReadings));
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("1.dat - Tallyline"));
+    click("mnuItemViewPlot");
+    prompt.files = {"/d/c.chd", "/d/c.chd"};
+    window.findChild<QAction*>(QStringLiteral("chartSave"))->trigger();
+    click("mnuItemImport");
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("c.chd - Tallyline"));
+    EXPECT_EQ(window.screen().displaying(), "c.chd");
+    click("mnuItemViewPlot");
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("1.dat - Tallyline"));
+    click("mnuItemClose");
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("Tallyline"));
 }
 
 TEST_F(WindowTest, DamagedChartFileIsSaidAndTheViewStays) {

@@ -189,7 +189,7 @@ TEST_F(WindowTest, CommandsThatComeWhileOneRunsAreIgnored) {
 
 TEST_F(WindowTest, FaultReportNamesTheCallPointWhereOneIsSet) {
     window.dispatcher().run([this] {
-        window.dispatcher().gErrorCallPoint = 315;
+        callPoint = 315;
         throw fault::divisionByZero();
     });
     ASSERT_EQ(prompt.shown.size(), 1U);

@@ -164,6 +164,36 @@ TEST_F(WindowTest, VoltageWithAGroupingCommaIsThatManyVolts) {
     EXPECT_FLOAT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 1380.0F);
 }
 
+TEST_F(WindowTest, VoltageThatIsNotWhollyANumberIsToldWithTheValueThatIsUsed) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    const QString told =
+        QStringLiteral("Line voltage taken as 4160 volts; the entry is not wholly a number.");
+    prompt.inputs = {"4160 V", "4160"};
+    click("mnuItemViewPower");
+    EXPECT_EQ(remark(), told);
+    // The next command has words of its own.
+    click("mnuItemViewPower");
+    EXPECT_THAT(remark().toStdString(), ::testing::StartsWith("Power of a.dat at 4.16 KV"));
+}
+
+TEST_F(WindowTest, VoltageThatThePowerTableAsksForIsToldLikewise) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    prompt.inputs = {"4160 V"};
+    click("mnuItemViewpwrsummry");
+    EXPECT_EQ(remark(),
+              QStringLiteral("Line voltage taken as 4160 volts; the entry is not wholly a number."));
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("Line Voltage: 4160"));
+}
+
+TEST_F(WindowTest, WordAboutAnEntryGoesWithTheNextCommand) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    prompt.inputs = {"0,8", "0.8"};
+    click("mnuItemPF");
+    EXPECT_EQ(remark(), QStringLiteral("Power factor taken as 1."));
+    click("mnuItemPF");
+    EXPECT_EQ(remark(), QString());
+}
+
 TEST_F(WindowTest, ForcingRenewsThePowerViewOnTheScreen) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     prompt.inputs = {"10000"};

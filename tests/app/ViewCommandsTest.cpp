@@ -206,9 +206,12 @@ TEST_F(WindowTest, ScaleOfNoNumberIsATypeMismatchAndChangesNothing) {
     click("mnuItemViewPlot");
     mark(5, 9);
     const double usual = window.screen().chart().plot().yMin;
-    prompt.inputs.push_back("low");
+    prompt.inputs = {"low", "40000"};
     click("mnuItemScale");
-    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 13: Type mismatch"));
+    click("mnuItemScale");
+    const std::string allowed = "\r\nThe y axis can begin at a whole number from -32768 to 32767.";
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 13: Type mismatch\r\nlow" + allowed,
+                                            "Error number 6: Overflow\r\n40000" + allowed));
     EXPECT_EQ(prompt.shown.back().title, "Tallyline");
     EXPECT_EQ(window.screen().chart().plot().yMin, usual);
     click("mnuZoom");

@@ -63,9 +63,11 @@ protected:
     MemoryJournal journal;
     InstrumentState instrument;
     NoPorts ports;
-    LinkServices link{line,    waiter,         journal, instrument, ports, [this] { waiter.cancelNow(); },
-                      "/work", "/tmp/temp.dat"};
-    Services services{recordings, display, settings, files, clock, prompt, chooser, link};
+    int callPoint = 0;
+    SessionServices session{
+        line, waiter, prompt, instrument, journal, callPoint, [this] { waiter.cancelNow(); }};
+    InstrumentPlaces places{ports, "/work", "/tmp/temp.dat"};
+    Services services{recordings, display, settings, files, clock, prompt, chooser, session, places};
     TLY window{services};
 
     // Puts a file in memory and opens it by the menu.

@@ -61,7 +61,7 @@ TEST(InitializeCommand, WarnsBeforeAnythingElse) {
     Bench bench(7);
     Session session = bench.session();
     bench.user.connections = 0;
-    EXPECT_FALSE(mnuItemInitialize_Click(session));
+    EXPECT_FALSE(prepareInitialize(session));
     ASSERT_EQ(bench.user.shown.size(), 1U);
     const Message& warning = bench.user.shown[0];
     EXPECT_EQ(warning.text, "     Warning! - This Function will clear\r"
@@ -77,7 +77,7 @@ TEST(InitializeCommand, TriesThePortAfterOk) {
     Bench bench(7);
     Session session = bench.session();
     bench.instrument.gCommPort = 4;
-    EXPECT_TRUE(mnuItemInitialize_Click(session));
+    EXPECT_TRUE(prepareInitialize(session));
     EXPECT_EQ(bench.line.count("CommPort 4"), 1);
     EXPECT_EQ(bench.line.count("PortOpen true"), 1);
     EXPECT_FALSE(bench.line.isOpen());
@@ -87,7 +87,7 @@ TEST(InitializeCommand, APortThatCannotBeOpenedEndsItBeforeAnyDialog) {
     Bench bench(7);
     Session session = bench.session();
     bench.line.failOpen = Fault(8005, "Port already open");
-    EXPECT_FALSE(mnuItemInitialize_Click(session));
+    EXPECT_FALSE(prepareInitialize(session));
     EXPECT_EQ(bench.user.told(), std::vector<std::string>{"Communication port not valid.\r\n"
                                                           "Try selecting a different COM port"});
 }

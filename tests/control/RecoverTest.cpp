@@ -37,7 +37,7 @@ public:
 
 TEST(RecoverCommand, RefusesAutomaticSelectionAndOpensNothing) {
     Recovery test(11);
-    EXPECT_FALSE(RecoverSession(test.session).mnuItemRecover_Click());
+    EXPECT_FALSE(RecoverSession(test.session).prepare());
     EXPECT_EQ(
         test.user.told(),
         std::vector<std::string>{"The 'Recover' feature is not implemented for the case of the \r\n"
@@ -54,7 +54,7 @@ TEST(RecoverCommand, RefusesAutomaticSelectionAndOpensNothing) {
 
 TEST(RecoverCommand, WarnsTriesThePortAndPrompts) {
     Recovery test(3);
-    EXPECT_TRUE(RecoverSession(test.session).mnuItemRecover_Click());
+    EXPECT_TRUE(RecoverSession(test.session).prepare());
     EXPECT_EQ(test.user.told(), std::vector<std::string>{"                           CAUTION  \r"
                                                          "       DATA MAY NOT BE RECOVERED IF\r"
                                                          "            INSTRUMENT HAD BEEN IN \r"
@@ -73,7 +73,7 @@ TEST(RecoverCommand, WarnsTriesThePortAndPrompts) {
 TEST(RecoverCommand, APortThatCannotBeOpenedEndsIt) {
     Recovery test;
     test.line.failOpen = Fault(70, "Permission denied");
-    EXPECT_FALSE(RecoverSession(test.session).mnuItemRecover_Click());
+    EXPECT_FALSE(RecoverSession(test.session).prepare());
     EXPECT_EQ(test.user.told().back(), "Communication port not valid.\r\nTry selecting a different COM port");
     EXPECT_TRUE(test.panel.prompts.empty());
 }

@@ -20,12 +20,12 @@ namespace {
 class SourceFiles : public Files {
 public:
     bool exists(const std::string& path) const override { return std::filesystem::exists(path); }
-    std::string read(const std::string& path, std::uint64_t most) const override {
+    std::string read(const std::string& path, std::uint64_t maximum) const override {
         std::ifstream file(path, std::ios::binary);
         if (!file)
             throw fault::fileNotFound();
         return std::string(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>())
-            .substr(0, most);
+            .substr(0, maximum);
     }
     void write(const std::string&, const std::string&) override { throw fault::permissionDenied(); }
 };

@@ -110,5 +110,11 @@ TEST(Numbers, PlainTexts) {
     EXPECT_EQ(Str(-2.5), "-2.5");
 }
 
+TEST(Numbers, AThingIsCountedInTheFormThatItsNumberAsksFor) {
+    EXPECT_EQ(counted(0, "reading"), "0 readings");
+    EXPECT_EQ(counted(1, "reading"), "1 reading");
+    EXPECT_EQ(counted(21, "reading"), "21 readings");
+}
+
 } // namespace
 } // namespace tally

@@ -11,8 +11,7 @@ namespace {
 using testing::addFile;
 using testing::Sample;
 
-std::string csvOf(const Recordings& recordings, const CsvForm& form = {},
-                  std::optional<IndexRange> range = {}) {
+std::string csvOf(const Recordings& recordings, const CsvForm& form = {}, std::optional<Range> range = {}) {
     const auto table = readingTable(recordings, range);
     return table ? tableCsv(recordings, *table, form) : table.error().text;
 }
@@ -32,8 +31,7 @@ TEST(TableCsv, FilesStandOnTheirCommonTimeAxis) {
     addFile(recordings, "/y/a.dat", {40, 50, 60}, {.start = twoOClock + 15});
     EXPECT_EQ(csvOf(recordings),
               "Time,a.dat,a.dat (2)\r\n2024-03-15 14:15,2.0,4.0\r\n2024-03-15 14:30,3.0,5.0\r\n");
-    EXPECT_EQ(csvOf(recordings, {}, IndexRange{2, 2}),
-              "Time,a.dat,a.dat (2)\r\n2024-03-15 14:30,3.0,5.0\r\n");
+    EXPECT_EQ(csvOf(recordings, {}, Range{2, 2}), "Time,a.dat,a.dat (2)\r\n2024-03-15 14:30,3.0,5.0\r\n");
 }
 
 TEST(TableCsv, AMinMaxAvgFileGivesARowATripleAndThreeColumns) {

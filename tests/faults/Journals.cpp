@@ -194,7 +194,7 @@ void tryUnplugging(Desk& desk) {
 void trySlowDisk(Desk& desk) {
     const int trials = countOf(desk, 1, 5);
     int worst = 0;
-    constexpr int mostPause = 100;
+    constexpr int maximumPause = 100;
     for (int i = 0; i < trials; ++i) {
         const std::string place = freshHome(desk);
         const Fault fault(desk, "datasync 0 before 700;sync 0 before 700", place);
@@ -202,7 +202,7 @@ void trySlowDisk(Desk& desk) {
         const int longest = std::atoi(done.out.c_str());
         if (done.status != 0 || done.out.empty() || fault.struck() == 0)
             desk.wrong("slow disk: " + done.err);
-        if (longest > mostPause)
+        if (longest > maximumPause)
             desk.wrong("slow disk: a pause of " + std::to_string(longest) + " ms");
         worst = std::max(worst, longest);
     }

@@ -16,7 +16,7 @@ using testing::SessionDesk;
 
 SessionResult<PendingDownload> download(SessionDesk& desk) {
     DownloadSession session(desk.session);
-    const auto ready = session.mnuItemDownload_Click(desk.files, desk.folder.path().toStdString());
+    const auto ready = session.prepare(desk.files, desk.folder.path().toStdString());
     if (!ready)
         return tl::make_unexpected(ready.error());
     return session.DownLoadProc();

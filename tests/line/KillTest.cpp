@@ -107,12 +107,12 @@ TEST_F(KillTest, theProgramIsKilledWhileCharactersCome) {
         const std::string device = sim.line().substr(6);
         Background cli(bin + "/tallyline-cli",
                        {"download", "--port", device, "--type", "7", "-o", folder.path("killed.dat")});
-        const std::size_t most = randomByte();
-        for (int k = 0; k < 5000 && received() < most; ++k)
+        const std::size_t maximum = randomByte();
+        for (int k = 0; k < 5000 && received() < maximum; ++k)
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
         cli.end(SIGKILL);
         const std::string kept = offered();
-        EXPECT_GE(kept.size(), most);
+        EXPECT_GE(kept.size(), maximum);
         EXPECT_EQ(kept, whole.substr(0, kept.size()));
     }
 }

@@ -165,7 +165,7 @@ sim::InstrumentSetup batteryFailed(char mode, int count) {
 
 SessionResult<PendingDownload> recover(SessionDesk& desk) {
     RecoverSession session(desk.session);
-    if (const auto ready = session.mnuItemRecover_Click(); !ready)
+    if (const auto ready = session.prepare(); !ready)
         return tl::make_unexpected(ready.error());
     return session.RecoverProc(desk.files, desk.folder.path().toStdString() + "/temp.dat");
 }

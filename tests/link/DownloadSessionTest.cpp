@@ -26,7 +26,7 @@ struct DownloadSessionTest : ::testing::Test, testing::LinkBench {
         instrument.instSelection = 7;
         instrument.gCommPort = 2;
     }
-    bool prepare() { return download.mnuItemDownload_Click(files, ".").has_value(); }
+    bool prepare() { return download.prepare(files, ".").has_value(); }
     void sends(const std::string& text) { answers("9600,N,8,1", text); }
     JournalState state() const { return journal.receptions.back().state; }
     void expectTidy() const {

@@ -234,10 +234,10 @@ TEST_F(StatusCheckTest, anInstrumentThatNeverEndsItsLineIsNotListenedToForEver) 
 }
 
 TEST_F(StatusCheckTest, aPortFoundOpenIsClosedFirst) {
-    check.mnuItemStatusCheck_Click();
+    check.prepare();
     EXPECT_TRUE(prompt.shown.empty());
     session.openPort();
-    check.mnuItemStatusCheck_Click();
+    check.prepare();
     EXPECT_FALSE(line.isOpen());
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{
                                   "In TLY.mnuItemStatusCheck_Click: Port found open. So I'll close it."});

@@ -74,9 +74,9 @@ inline std::vector<std::size_t> spikes(const Loads& loads) {
     for (std::size_t i = 1; i + 1 < loads.size(); ++i) {
         const int left = loads[i] - loads[i - 1];
         const int right = loads[i] - loads[i + 1];
-        const int least = std::min(std::abs(left), std::abs(right));
+        const int minimum = std::min(std::abs(left), std::abs(right));
         const bool out = (left > 0) == (right > 0) && left != 0 && right != 0;
-        if (out && least > 5 * median && least * 100LL > 20 * highest)
+        if (out && minimum > 5 * median && minimum * 100LL > 20 * highest)
             found.push_back(i);
     }
     return found;

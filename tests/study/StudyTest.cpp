@@ -21,7 +21,7 @@ protected:
     Recordings recordings;
     StudyOptions options;
 
-    Study study(std::optional<IndexRange> range = {}) const {
+    Study study(std::optional<Range> range = {}) const {
         auto made = studyOf(recordings, range, options);
         EXPECT_TRUE(made) << (made ? std::string() : made.error().text);
         return made ? std::move(*made) : Study();
@@ -61,7 +61,7 @@ TEST_F(StudyOfFiles, EqualNamesAreNumbered) {
 TEST_F(StudyOfFiles, ARangeCountsInReadingsOfTheFirstFile) {
     addFile(recordings, "red.dat", ramp(10), {.start = on(2024, 3, 4, 0, 0)});
     addFile(recordings, "white.dat", ramp(10, 10), {.start = on(2024, 3, 4, 0, 30)});
-    const Study part = study(IndexRange{0, 3});
+    const Study part = study(Range{0, 3});
     EXPECT_EQ(part.axis.start, on(2024, 3, 4, 0, 30));
     EXPECT_EQ(part.axis.points, 2U);
 }
@@ -79,7 +79,7 @@ TEST_F(StudyOfFiles, TriplesGiveAveragesAndExtremes) {
     EXPECT_TRUE(triples.basis[0].oddTriple);
     EXPECT_EQ(triples.basis[0].entries, 2);
     EXPECT_EQ(triples.basis[0].before, 0);
-    EXPECT_EQ(study(IndexRange{6, 6}).channels[0].loads, (std::vector<std::int32_t>{60}));
+    EXPECT_EQ(study(Range{6, 6}).channels[0].loads, (std::vector<std::int32_t>{60}));
 }
 
 TEST_F(StudyOfFiles, PowerIsTheLastChannel) {
@@ -126,7 +126,7 @@ TEST_F(StudyOfFiles, DaysAreDatesWithAReading) {
 TEST_F(StudyOfFiles, LoadsOfOneFileStandOnTheirOwnTimes) {
     addFile(recordings, "a.dat", ramp(4, 10), {.start = on(2024, 3, 4)});
     addFile(recordings, "v.dat", ramp(4), {.type = 'V', .start = on(2024, 3, 5)});
-    const auto series = loadSeries(recordings, IndexRange{1, 2});
+    const auto series = loadSeries(recordings, Range{1, 2});
     ASSERT_TRUE(series);
     EXPECT_EQ(series->channel.loads, (std::vector<std::int32_t>{10, 20}));
     EXPECT_EQ(series->axis.start, on(2024, 3, 4, 0, 15));

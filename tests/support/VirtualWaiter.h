@@ -34,7 +34,7 @@ public:
     void resetCancel() override { cancelled_ = false; }
 
     Wake until(std::int64_t deadline) override {
-        if (++waits_ > mostWaits)
+        if (++waits_ > maximumWaits)
             throw std::logic_error("the session waits without end");
         for (;;) {
             runEvents();
@@ -52,7 +52,7 @@ public:
     }
 
 private:
-    static constexpr int mostWaits = 3000000;
+    static constexpr int maximumWaits = 3000000;
 
     void runEvents() {
         while (!events_.empty() && events_.begin()->first <= now_) {

@@ -18,13 +18,13 @@ constexpr const char* patterns[] = {"  000.0",      "     000.0  ", "000.0",  " 
 
 template <typename Value>
 std::string written(const char* pattern, Value value) {
-    char buffer[FieldWriter::mostChars];
+    char buffer[FieldWriter::maximumChars];
     return std::string(buffer, FieldWriter(pattern).write(buffer, value));
 }
 
 // "" when the field is what Format gives, else both texts.
 std::string difference(const FieldWriter& field, const char* pattern, float value) {
-    char buffer[FieldWriter::mostChars];
+    char buffer[FieldWriter::maximumChars];
     const std::string text(buffer, field.write(buffer, value));
     const std::string expected = Format(value, pattern) + "  ";
     return text == expected ? "" : "'" + text + "' for '" + expected + "'";
@@ -51,7 +51,7 @@ TEST(FieldWriter, FieldsByHand) {
 TEST(FieldWriter, EveryReadingAsFormatGivesIt) {
     for (const char* pattern : patterns) {
         const FieldWriter field(pattern);
-        char buffer[FieldWriter::mostChars];
+        char buffer[FieldWriter::maximumChars];
         for (int tenths = std::numeric_limits<std::int16_t>::min();
              tenths <= std::numeric_limits<std::int16_t>::max(); ++tenths) {
             const std::string text(buffer, field.write(buffer, static_cast<std::int16_t>(tenths)));

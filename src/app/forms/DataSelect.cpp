@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/forms/DataSelect.h"
 
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QGridLayout>
 #include <QLabel>

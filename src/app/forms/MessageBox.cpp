@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/forms/MessageBox.h"
 
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QComboBox>
 #include <QDialogButtonBox>
@@ -134,6 +134,7 @@ InputBox::InputBox(const InputQuestion& question, QWidget* parent) : QDialog(par
         auto* list = new QComboBox(this);
         list->setEditable(true);
         list->setInsertPolicy(QComboBox::NoInsert);
+        list->setCompleter(nullptr); // what was typed is what is meant
         for (const std::string& choice : question.choices)
             list->addItem(words(choice));
         down->addWidget(list);

@@ -2,7 +2,7 @@
 #include "app/forms/QtPrompt.h"
 
 #include "app/forms/MessageBox.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 
 #include <QApplication>
 #include <QDir>

@@ -31,8 +31,19 @@ StatusPanels::StatusPanels(QStatusBar& bar)
 }
 
 void StatusPanels::remark(const QString& text) {
-    remark_->setText(text);
-    remark_->setToolTip(text);
+    text_ = text;
+    showRemark();
+}
+
+void StatusPanels::say(const QString& word) {
+    word_ = word;
+    showRemark();
+}
+
+void StatusPanels::showRemark() {
+    const QString& shown = word_.isEmpty() ? text_ : word_;
+    remark_->setText(shown);
+    remark_->setToolTip(shown);
 }
 
 void StatusPanels::pointer(const QString& time, const QString& value) {

@@ -5,6 +5,7 @@
 #include "control/KnownDownloads.h"
 #include "control/ModeLetter.h"
 #include "control/forms/InitInst.h"
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 namespace tally {
@@ -29,7 +30,7 @@ void Abort::prompt(const std::string& text) {
 }
 
 void Abort::status(const std::string& text) {
-    label1_->setText(shown(text));
+    label1_->setText(lines(text));
     if (!isVisible())
         start();
 }
@@ -37,7 +38,7 @@ void Abort::status(const std::string& text) {
 void runInitialize(QWidget* parent, const SessionServices& services) {
     Abort dialog(services, parent);
     Session session = dialog.session();
-    if (!mnuItemInitialize_Click(session))
+    if (!prepareInitialize(session))
         return;
     ModeChoice choice;
     {

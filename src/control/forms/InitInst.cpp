@@ -2,6 +2,7 @@
 #include "control/forms/InitInst.h"
 
 #include "control/ModeLetter.h"
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 #include <QGroupBox>
@@ -13,7 +14,7 @@ namespace tally {
 
 namespace {
 
-constexpr int leastWidth = 80; // characters of the line about downloads
+constexpr int charactersWide = 80; // of the line about downloads
 
 } // namespace
 
@@ -33,9 +34,9 @@ InitInst::InitInst(const std::string& known, QWidget* parent) : QDialog(parent) 
     stopWhenFull_ = addOption(*frame, 7, QStringLiteral("Stop when memory full"));
 
     QLabel* downloads = namedLabel(QStringLiteral("KnownDownloads"));
-    downloads->setText(shown(known));
+    downloads->setText(lines(known));
     downloads->setWordWrap(true);
-    downloads->setMinimumWidth(downloads->fontMetrics().averageCharWidth() * leastWidth);
+    downloads->setMinimumWidth(downloads->fontMetrics().averageCharWidth() * charactersWide);
     downloads->setAccessibleName(tr("Last downloads"));
     layout()->addWidget(downloads);
 

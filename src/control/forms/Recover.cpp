@@ -2,6 +2,7 @@
 #include "control/forms/Recover.h"
 
 #include "control/Recover.h"
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 namespace tally {
@@ -27,7 +28,7 @@ void Recover::prompt(const std::string& text) {
 }
 
 void Recover::status(const std::string& text) {
-    label1_->setText(shown(text));
+    label1_->setText(lines(text));
 }
 
 SessionResult<PendingDownload> runRecover(QWidget* parent, const SessionServices& context, Files& files,
@@ -35,7 +36,7 @@ SessionResult<PendingDownload> runRecover(QWidget* parent, const SessionServices
     Recover dialog(context, parent);
     Session session = dialog.session();
     RecoverSession recover(session);
-    if (const auto ready = recover.mnuItemRecover_Click(); !ready)
+    if (const auto ready = recover.prepare(); !ready)
         return tl::make_unexpected(ready.error());
     if (!dialog.waitForOk())
         return Session::cancelled();

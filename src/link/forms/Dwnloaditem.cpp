@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/Dwnloaditem.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 namespace tally {
@@ -24,15 +25,15 @@ Dwnloaditem::Dwnloaditem(const SessionServices& context, QWidget* parent)
 }
 
 void Dwnloaditem::prompt(const std::string& text) {
-    prompt_->setText(shown(text));
+    prompt_->setText(lines(text));
 }
 
 void Dwnloaditem::status(const std::string& text) {
-    label1_->setText(shown(text));
+    label1_->setText(lines(text));
 }
 
 void Dwnloaditem::progressText(const std::string& text) {
-    label2_->setText(shown(text));
+    label2_->setText(lines(text));
 }
 
 SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionServices& context,
@@ -40,7 +41,7 @@ SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionService
     Dwnloaditem dialog(context, parent);
     Session session = dialog.session();
     DownloadSession download(session);
-    if (const auto ready = download.mnuItemDownload_Click(files, workingDirectory); !ready)
+    if (const auto ready = download.prepare(files, workingDirectory); !ready)
         return tl::make_unexpected(ready.error());
     if (!dialog.waitForOk())
         return Session::cancelled();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/InstSel.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 #include "link/forms/InstProperties.h"
 
@@ -44,7 +45,7 @@ void InstSel::addOptions(QGridLayout& grid) {
         grid.addWidget(option, 1 + (position - 1) % optionRows, (position - 1) / optionRows);
     };
     for (int code = 1; code <= highestType; ++code) {
-        auto* option = new QRadioButton(shown(optionCaption(code)));
+        auto* option = new QRadioButton(lines(optionCaption(code)));
         options_.at(std::size_t(code - 1)) = option;
         place(option, code);
         option->setChecked(code == instrument_.instSelection);

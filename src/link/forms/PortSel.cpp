@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/PortSel.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 #include <QGridLayout>
@@ -87,10 +88,10 @@ void PortSel::fillMenu(int commPort) {
         action->setChecked(path == devicePath(commPort, settings_));
         connect(action, &QAction::triggered, this, [this, commPort, path] { assign(commPort, path); });
     };
-    add(tr("%1 (the usual one)").arg(shown(standard)), standard);
+    add(tr("%1 (the usual one)").arg(lines(standard)), standard);
     for (const PortDevice& device : catalogue_.devices())
         if (device.path != standard)
-            add(shown(device.text()), device.path);
+            add(lines(device.text()), device.path);
     showStates();
 }
 
@@ -103,7 +104,7 @@ void PortSel::assign(int commPort, const std::string& path) {
 void PortSel::showStates() {
     for (int port = 1; port <= portCount; ++port) {
         Row& row = rows_.at(std::size_t(port - 1));
-        const QString text = shown(portState(port, catalogue_, settings_).text());
+        const QString text = lines(portState(port, catalogue_, settings_).text());
         row.state->setText(text);
         row.option->setAccessibleDescription(text);
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/SessionDialog.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 #include <QEventLoop>
@@ -17,8 +18,8 @@ namespace tally {
 namespace {
 
 constexpr int progressMaximum = 20000;
-constexpr int leastWidth = 90; // characters
-constexpr int lines = 30;      // leaves room for a message box below what it is about
+constexpr int charactersWide = 90;
+constexpr int linesHigh = 30; // leaves room for a message box below what it is about
 constexpr int logLines = 7;
 constexpr int hintLines = 2;      // kept free, so that nothing moves when it comes
 constexpr double largeText = 1.2; // read at arm's length, in a truck
@@ -37,7 +38,7 @@ SessionDialog::SessionDialog(const SessionServices& services, const QString& nam
     setObjectName(name);
     setWindowTitle(title);
     setModal(true);
-    setMinimumWidth(fontMetrics().averageCharWidth() * leastWidth);
+    setMinimumWidth(fontMetrics().averageCharWidth() * charactersWide);
 }
 
 Session SessionDialog::session() {
@@ -87,7 +88,7 @@ void SessionDialog::addLog() {
     area->setFixedHeight(log_->fontMetrics().lineSpacing() * logLines);
     down_->addStretch(1);
     down_->addWidget(area);
-    setMinimumHeight(log_->fontMetrics().lineSpacing() * lines);
+    setMinimumHeight(log_->fontMetrics().lineSpacing() * linesHigh);
 }
 
 void SessionDialog::addHint() {
@@ -99,7 +100,7 @@ void SessionDialog::addHint() {
 
 void SessionDialog::hint(const std::string& text) {
     if (hint_)
-        hint_->setText(shown(text));
+        hint_->setText(lines(text));
 }
 
 QHBoxLayout& SessionDialog::buttonRow() {
@@ -158,7 +159,7 @@ void SessionDialog::reject() {
 }
 
 void SessionDialog::appendLog(const std::string& text) {
-    log_->setText(log_->text() + shown(text));
+    log_->setText(log_->text() + lines(text));
 }
 
 void SessionDialog::progressVisible(bool visible) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/Status.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 namespace tally {
@@ -22,18 +23,18 @@ Status::Status(const SessionServices& context, QWidget* parent)
 }
 
 void Status::prompt(const std::string& text) {
-    result_->setText(shown(text));
+    result_->setText(lines(text));
 }
 
 void Status::status(const std::string& text) {
-    label1_->setText(shown(text));
+    label1_->setText(lines(text));
 }
 
 SessionResult<StatusFields> runStatusCheck(QWidget* parent, const SessionServices& context) {
     Status dialog(context, parent);
     Session session = dialog.session();
     StatusCheckSession check(session);
-    check.mnuItemStatusCheck_Click();
+    check.prepare();
     dialog.start();
     return check.StatusCheck();
 }

@@ -33,8 +33,8 @@ std::vector<Entry> SqlArchive::find(const Selection& selection) {
     std::string sql = "SELECT " + rows::entryColumns() + " FROM recording" + where.condition +
                       " ORDER BY station_key, circuit_key, starts, added, id";
     // An id is looked for by hand among those that share its first 63 bits.
-    if (selection.most > 0 && !selection.id)
-        sql += " LIMIT " + std::to_string(selection.most);
+    if (selection.maximum > 0 && !selection.id)
+        sql += " LIMIT " + std::to_string(selection.maximum);
     std::vector<Entry> entries;
     QSqlQuery& query = connection_->run(sql, where.values);
     while (query.next()) {
@@ -65,11 +65,11 @@ void SqlArchive::addSources(std::vector<Entry>& entries) {
     });
 }
 
-std::vector<Entry> SqlArchive::page(std::int64_t after, std::size_t most) {
+std::vector<Entry> SqlArchive::page(std::int64_t after, std::size_t maximum) {
     std::vector<Entry> entries;
     QSqlQuery& query = connection_->run("SELECT " + rows::entryColumns() +
                                             " FROM recording WHERE added > ? ORDER BY added LIMIT ?",
-                                        {after, static_cast<std::int64_t>(most)});
+                                        {after, static_cast<std::int64_t>(maximum)});
     while (query.next())
         entries.push_back(rows::entryFrom(query));
     query.finish();

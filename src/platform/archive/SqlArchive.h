@@ -18,7 +18,7 @@ public:
 
     std::vector<archive::Entry> find(const archive::Selection& selection) override;
     void addSources(std::vector<archive::Entry>& entries) override;
-    std::vector<archive::Entry> page(std::int64_t after, std::size_t most) override;
+    std::vector<archive::Entry> page(std::int64_t after, std::size_t maximum) override;
     std::vector<archive::DaySpan> spans(const archive::Selection& selection) override;
     archive::Stats stats() override;
     void dayFigures(const std::vector<archive::Id>& ids, const Receive& receive) override;

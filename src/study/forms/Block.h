@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/ReadingTime.h"
+#include "core/forms/Words.h"
 #include "view/forms/ChartLook.h"
 
 #include <QPainter>
@@ -10,15 +11,9 @@
 
 #include <memory>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 namespace tally::study {
-
-// UTF-8 as text of the window.
-inline QString words(std::string_view utf8) {
-    return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
-}
 
 // A piece of the page of a study: it knows its height at a width, paints itself and tells which time a place
 // on it stands for. All in pixels of a page of normal size; paper is scaled.

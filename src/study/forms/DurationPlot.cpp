@@ -16,13 +16,13 @@ public:
     void paint(QPainter& painter, const QRectF& place, const ChartLook& look) const override {
         const std::size_t first = power_ ? study_.files : 0;
         const std::size_t end = power_ ? study_.channels.size() : study_.files;
-        double least = study_.figures[first].duration.back();
-        double most = study_.figures[first].duration.front();
+        double minimum = study_.figures[first].duration.back();
+        double maximum = study_.figures[first].duration.front();
         for (std::size_t i = first; i < end; ++i) {
-            least = std::min(least, study_.figures[i].duration.back());
-            most = std::max(most, study_.figures[i].duration.front());
+            minimum = std::min(minimum, study_.figures[i].duration.back());
+            maximum = std::max(maximum, study_.figures[i].duration.front());
         }
-        const auto [from, to] = axisOver(least, most);
+        const auto [from, to] = axisOver(minimum, maximum);
         const PlotFrame frame = {boxIn(place, look), 0, 100, from, to};
         frame.paint(painter, look, QStringLiteral("Load duration"),
                     words(unitName(study_.channels[first].unit)));

@@ -28,12 +28,13 @@ QRectF boxIn(const QRectF& place, const ChartLook& look) {
                           -line * 1.5);
 }
 
-std::pair<double, double> axisOver(double least, double most) {
-    const double height = most - least;
+std::pair<double, double> axisOver(double minimum, double maximum) {
+    const double height = maximum - minimum;
     // Volts lie far from 0 and move little: there the axis need not begin at 0.
-    const double from = least > 0 && height < most * 0.4 ? least - std::max(height * 0.1, most * 0.005)
-                                                         : std::min(least, 0.0);
-    const double to = most + std::max((most - from) * 0.05, 0.1);
+    const double from = minimum > 0 && height < maximum * 0.4
+                            ? minimum - std::max(height * 0.1, maximum * 0.005)
+                            : std::min(minimum, 0.0);
+    const double to = maximum + std::max((maximum - from) * 0.05, 0.1);
     return {from, to};
 }
 

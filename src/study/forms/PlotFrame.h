@@ -37,7 +37,7 @@ struct PlotFrame {
 QRectF boxIn(const QRectF& place, const ChartLook& look);
 
 // The ends of a y axis that shows these values with some room; from 0 on where they come near it.
-std::pair<double, double> axisOver(double least, double most);
+std::pair<double, double> axisOver(double minimum, double maximum);
 
 // A legend in the right upper corner: names with the colours of their lines.
 void paintLegend(QPainter& painter, const ChartLook& look, const QRectF& place,

@@ -26,7 +26,7 @@ namespace tally::study {
 
 struct StudyForm::Subject {
     const Recordings& recordings;
-    std::optional<IndexRange> range;
+    std::optional<Range> range;
 };
 
 StudyForm::StudyForm(StudyServices services, QWidget* parent)
@@ -85,7 +85,7 @@ QPushButton* StudyForm::addButton(const char* name, const char* caption, const c
     return button;
 }
 
-void StudyForm::study(const Recordings& recordings, std::optional<IndexRange> range) {
+void StudyForm::study(const Recordings& recordings, std::optional<Range> range) {
     subject_ = std::make_unique<Subject>(Subject{recordings, range});
     side_->fitTo(recordings);
     restudy();

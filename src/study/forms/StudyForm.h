@@ -17,7 +17,7 @@ class Clock;
 class Files;
 class Prompt;
 class Settings;
-struct IndexRange;
+struct Range;
 struct Recordings;
 struct Workbook;
 } // namespace tally
@@ -49,7 +49,7 @@ public:
 
     // Studies the open files, or a range of the first one. They must stay as they are until the next call or
     // clear().
-    void study(const Recordings& recordings, std::optional<IndexRange> range);
+    void study(const Recordings& recordings, std::optional<Range> range);
     void clear();
 
 Q_SIGNALS:

@@ -7,8 +7,9 @@
 
 namespace tally::study {
 
-PlotFrame TimePlot::frameIn(const QRectF& place, const ChartLook& look, double least, double most) const {
-    const auto [from, to] = axisOver(least, most);
+PlotFrame TimePlot::frameIn(const QRectF& place, const ChartLook& look, double minimum,
+                            double maximum) const {
+    const auto [from, to] = axisOver(minimum, maximum);
     const QRectF box = boxIn(place, look);
     box_ = box.translated(-place.topLeft());
     return {box, 0, std::max(double(axis_.points) - 1, 1.0), from, to};

@@ -20,7 +20,7 @@ public:
 protected:
     const Axis& axis() const { return axis_; }
     // The frame in a place, its y axis over these values.
-    PlotFrame frameIn(const QRectF& place, const ChartLook& look, double least, double most) const;
+    PlotFrame frameIn(const QRectF& place, const ChartLook& look, double minimum, double maximum) const;
     void paintTimes(QPainter& painter, const ChartLook& look, const PlotFrame& frame) const;
     // What the tip says of a point.
     virtual QString valueText(std::size_t point) const = 0;

@@ -19,14 +19,14 @@ public:
           figures_(study.figures[channel]) {}
 
     void paint(QPainter& painter, const QRectF& place, const ChartLook& look) const override {
-        double least = figures_.level.min.value;
-        double most = figures_.level.max.value;
+        double minimum = figures_.level.min.value;
+        double maximum = figures_.level.max.value;
         for (const auto& limit : {study_.options.high, study_.options.low})
             if (limit) {
-                least = std::min(least, limit->value);
-                most = std::max(most, limit->value);
+                minimum = std::min(minimum, limit->value);
+                maximum = std::max(maximum, limit->value);
             }
-        const PlotFrame frame = frameIn(place, look, least, most);
+        const PlotFrame frame = frameIn(place, look, minimum, maximum);
         frame.paint(painter, look, words(channel_.name) + QStringLiteral(": load over time"),
                     words(unitName(channel_.unit)));
         paintTimes(painter, look, frame);
@@ -75,8 +75,8 @@ public:
     explicit UnbalancePlot(const Study& study) : TimePlot(study.axis), phases_(*study.phases) {}
 
     void paint(QPainter& painter, const QRectF& place, const ChartLook& look) const override {
-        const double most = phases_.unbalance.max ? phases_.unbalance.max->value : 1;
-        const PlotFrame frame = frameIn(place, look, 0, most);
+        const double maximum = phases_.unbalance.max ? phases_.unbalance.max->value : 1;
+        const PlotFrame frame = frameIn(place, look, 0, maximum);
         frame.paint(painter, look, QStringLiteral("Unbalance of the phases"), QStringLiteral("%"));
         paintTimes(painter, look, frame);
         painter.setPen(look.line(0));

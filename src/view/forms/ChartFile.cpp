@@ -16,12 +16,12 @@ using Json = nlohmann::json;
 
 constexpr const char* format = "tallyline-chart";
 constexpr int version = 1;
-constexpr int mostPoints = 42967; // readings that a recording can hold
-constexpr std::size_t mostSeries = 12;
-constexpr std::size_t mostNotes = 1000;
-constexpr std::size_t mostText = 64 * 1024; // bytes
-constexpr int mostDepth = 6;
-constexpr std::size_t mostItems =
+constexpr int maximumPoints = 42967; // readings that a recording can hold
+constexpr std::size_t maximumSeries = 12;
+constexpr std::size_t maximumNotes = 1000;
+constexpr std::size_t maximumText = 64 * 1024; // bytes
+constexpr int maximumDepth = 6;
+constexpr std::size_t maximumItems =
     1'000'000; // values of all kinds: bounds the memory before anything is looked at
 
 // What is wrong with a file; the message is for people.
@@ -62,32 +62,32 @@ void expect(const Json& json, std::initializer_list<const char*> names, const ch
         member(json, name);
 }
 
-const Json& list(const Json& object, const char* name, std::size_t most) {
+const Json& list(const Json& object, const char* name, std::size_t maximum) {
     const Json& found = member(object, name);
-    if (!found.is_array() || found.size() > most)
-        throw Bad(std::string("\"") + name + "\" is no list of at most " + std::to_string(most));
+    if (!found.is_array() || found.size() > maximum)
+        throw Bad(std::string("\"") + name + "\" is no list of at most " + std::to_string(maximum));
     return found;
 }
 
 std::string text(const Json& object, const char* name) {
     const Json& found = member(object, name);
-    if (!found.is_string() || found.get_ref<const std::string&>().size() > mostText)
+    if (!found.is_string() || found.get_ref<const std::string&>().size() > maximumText)
         throw Bad(std::string("\"") + name + "\" is no text of a usual length");
     return found.get<std::string>();
 }
 
-int whole(const Json& json, int least, int most, const char* name) {
+int whole(const Json& json, int minimum, int maximum, const char* name) {
     if (!json.is_number_integer())
         throw Bad(std::string("\"") + name + "\" is no whole number");
-    const bool huge = json.is_number_unsigned() && json.get<std::uint64_t>() > std::uint64_t(most);
-    const auto value = huge ? std::int64_t(most) + 1 : json.get<std::int64_t>();
-    if (value < least || value > most)
+    const bool huge = json.is_number_unsigned() && json.get<std::uint64_t>() > std::uint64_t(maximum);
+    const auto value = huge ? std::int64_t(maximum) + 1 : json.get<std::int64_t>();
+    if (value < minimum || value > maximum)
         throw Bad(std::string("\"") + name + "\" is out of range");
     return int(value);
 }
 
-int whole(const Json& object, const char* name, int least, int most) {
-    return whole(member(object, name), least, most, name);
+int whole(const Json& object, const char* name, int minimum, int maximum) {
+    return whole(member(object, name), minimum, maximum, name);
 }
 
 // A number, or nothing where the plot had none.
@@ -126,7 +126,7 @@ PlotSeries seriesOf(const Json& json, int points) {
     series.values.reserve(values.size());
     for (const Json& value : values)
         series.values.push_back(single(value, "values"));
-    for (const Json& run : list(json, "forced", mostPoints)) {
+    for (const Json& run : list(json, "forced", maximumPoints)) {
         if (!run.is_array() || run.size() != 2)
             throw Bad("\"forced\" holds what is no pair");
         const int last = whole(run[1], 0, int(series.values.size()) - 1, "forced");
@@ -139,9 +139,9 @@ PlotSeries seriesOf(const Json& json, int points) {
 void readAxes(const Json& json, Plot& plot) {
     const Json& x = member(json, "xAxis");
     expect(x, {"points", "labelStep", "labels", "firstEntry", "entriesPerPoint"}, "\"xAxis\"");
-    plot.points = whole(x, "points", 0, mostPoints);
-    plot.labelStep = whole(x, "labelStep", 1, mostPoints);
-    plot.firstEntry = whole(x, "firstEntry", 0, mostPoints);
+    plot.points = whole(x, "points", 0, maximumPoints);
+    plot.labelStep = whole(x, "labelStep", 1, maximumPoints);
+    plot.firstEntry = whole(x, "firstEntry", 0, maximumPoints);
     plot.entriesPerPoint = whole(x, "entriesPerPoint", 1, 3);
     const Json& labels = list(x, "labels", plot.labels.size());
     if (labels.size() != plot.labels.size())
@@ -179,9 +179,9 @@ Contents contentsOf(const Json& json) {
     plot.title = text(json, "title");
     plot.remark = text(json, "remark");
     readAxes(json, plot);
-    for (const Json& series : list(json, "series", mostSeries))
+    for (const Json& series : list(json, "series", maximumSeries))
         plot.series.push_back(seriesOf(series, plot.points));
-    for (const Json& note : list(json, "notes", mostNotes))
+    for (const Json& note : list(json, "notes", maximumNotes))
         contents.notes.push_back(noteOf(note));
     return contents;
 }
@@ -190,7 +190,7 @@ Contents contentsOf(const Json& json) {
 Json parse(const std::string& bytes) {
     std::size_t items = 0;
     const auto watch = [&items](int depth, Json::parse_event_t, Json&) {
-        if (depth > mostDepth || ++items > mostItems)
+        if (depth > maximumDepth || ++items > maximumItems)
             throw Bad("It is no chart file of this program");
         return true;
     };
@@ -231,7 +231,7 @@ std::string write(const Plot& plot, const std::vector<ChartNote>& notes) {
 }
 
 Result read(const std::string& bytes) {
-    if (bytes.size() > mostBytes)
+    if (bytes.size() > maximumBytes)
         return {{}, "The chart file cannot be read: it is too large"};
     try {
         return {contentsOf(parse(bytes)), {}};

@@ -15,7 +15,7 @@ namespace tally {
 namespace ChartFile {
 
 // No chart file is larger; ask Files::read for one byte more, so that a larger one is noticed.
-constexpr std::size_t mostBytes = 4 * 1024 * 1024;
+constexpr std::size_t maximumBytes = 4 * 1024 * 1024;
 
 struct Contents {
     Plot plot;

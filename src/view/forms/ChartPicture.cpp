@@ -65,8 +65,8 @@ std::optional<PictureKind> pictureKind(const std::string& path) {
 
 std::string pictureBytes(const Plot& plot, const std::vector<ChartNote>& notes, PictureKind kind, QSize size,
                          const std::optional<Sight>& sight) {
-    if (std::min(size.width(), size.height()) < pictureLeast ||
-        std::max(size.width(), size.height()) > pictureMost)
+    if (std::min(size.width(), size.height()) < pictureMinimum ||
+        std::max(size.width(), size.height()) > pictureMaximum)
         return {};
     PlotScene scene;
     scene.setPlot(plot);
@@ -98,8 +98,8 @@ bool exportPicture(const Plot& plot, const std::vector<ChartNote>& notes, const 
     }
     const std::string bytes = pictureBytes(plot, notes, *kind, size, sight);
     if (bytes.empty()) {
-        *why = "A picture is between " + std::to_string(pictureLeast) + " and " +
-               std::to_string(pictureMost) + " pixels wide and high, and needs memory for them";
+        *why = "A picture is between " + std::to_string(pictureMinimum) + " and " +
+               std::to_string(pictureMaximum) + " pixels wide and high, and needs memory for them";
         return false;
     }
     try {

@@ -19,8 +19,8 @@ enum class PictureKind { png, pdf, svg };
 std::optional<PictureKind> pictureKind(const std::string& path);
 
 // Sizes that a picture may have, in pixels (1/96 inch in PDF and SVG).
-constexpr int pictureLeast = 100;
-constexpr int pictureMost = 10000;
+constexpr int pictureMinimum = 100;
+constexpr int pictureMaximum = 10000;
 
 // The bytes of a picture of the plot, or of what is in sight of it, on white. Text stays text in PDF and SVG.
 // Needs a QApplication, no display. Empty when there is not enough memory or the size is out of range.

@@ -14,7 +14,7 @@ constexpr int margin = 10;          // pixels around the picture
 constexpr int labelCount = 9;       // along the x axis
 constexpr double fewestPoints = 4;  // that a zoomed picture spans
 constexpr double deepestZoom = 1e4; // of the y axis
-constexpr int leastLetters = 10;    // pixels, where a small picture has a long title
+constexpr int minimumLetters = 10;  // pixels, where a small picture has a long title
 
 // A range moved and cut so that it lies within the whole.
 std::pair<double, double> within(std::pair<double, double> range, std::pair<double, double> whole) {
@@ -24,8 +24,8 @@ std::pair<double, double> within(std::pair<double, double> range, std::pair<doub
 }
 
 std::pair<double, double> zoomed(std::pair<double, double> range, double factor, double around,
-                                 std::pair<double, double> whole, double least) {
-    const double length = std::max((range.second - range.first) * factor, least);
+                                 std::pair<double, double> whole, double minimum) {
+    const double length = std::max((range.second - range.first) * factor, minimum);
     const double before = (around - range.first) / (range.second - range.first);
     const double first = around - before * length;
     return within({first, first + length}, whole);
@@ -174,7 +174,7 @@ void PlotScene::placeLabels(int width) {
 
 void PlotScene::layOut(QSize size) {
     const int width = std::max(size.width() - 2 * margin, 1);
-    const int height = title_.layOut(width, size.height() / 3, look_.font, leastLetters);
+    const int height = title_.layOut(width, size.height() / 3, look_.font, minimumLetters);
     legendTop_ = margin + height + (height > 0 ? 4 : 0);
     const int legendHeight = legend_.layOut(width, look_.font);
     const int top = legendTop_ + legendHeight + (legendHeight > 0 ? 4 : 0);

@@ -152,7 +152,7 @@ int TitleBlock::placeBest(int width) {
     return best;
 }
 
-int TitleBlock::layOut(int width, int height, const QFont& font, int leastLetters) {
+int TitleBlock::layOut(int width, int height, const QFont& font, int minimumLetters) {
     const QSize room(width, height);
     if (room == room_ && font == wanted_)
         return height_; // panning and zooming change nothing here
@@ -160,7 +160,7 @@ int TitleBlock::layOut(int width, int height, const QFont& font, int leastLetter
     wanted_ = font;
     font_ = font;
     height_ = placeBest(width);
-    while (height_ > height && font_.pixelSize() > leastLetters) {
+    while (height_ > height && font_.pixelSize() > minimumLetters) {
         font_.setPixelSize(font_.pixelSize() - 1);
         height_ = placeBest(width);
     }

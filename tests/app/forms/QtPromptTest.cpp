@@ -144,6 +144,18 @@ TEST(QtPrompt, ChoicesMakeAnEditableList) {
     EXPECT_EQ(prompt.input({.text = "Volts", .preset = "0", .choices = {"4160", "13800"}}), "13800");
 }
 
+// The letters of a longer entry that was given earlier are not put behind what is typed.
+TEST(QtPrompt, WhatIsTypedIsNotCompletedFromTheChoices) {
+    QtPrompt prompt;
+    whenOpen<InputBox>([](InputBox& box) {
+        auto* line = box.findChild<QLineEdit*>(QStringLiteral("InputText"));
+        line->selectAll();
+        QTest::keyClicks(line, QStringLiteral("1380"));
+        QTest::keyClick(line, Qt::Key_Return);
+    });
+    EXPECT_EQ(prompt.input({.text = "Volts", .preset = "13800", .choices = {"13800", "4160"}}), "1380");
+}
+
 TEST(QtPrompt, FileDialogHasTheFilterAndStartsInTheFolder) {
     const QTemporaryDir folder;
     QFile(folder.filePath(QStringLiteral("a.dat"))).open(QIODevice::WriteOnly);

@@ -86,7 +86,7 @@ TEST_F(Find, TellsUnitsApartAndStopsWhereItIsTold) {
     EXPECT_EQ(find(selection).size(), 1U);
     selection.unit = 'A';
     EXPECT_EQ(find(selection).size(), 2U);
-    selection.most = 1;
+    selection.maximum = 1;
     EXPECT_EQ(find(selection).size(), 1U);
 }
 

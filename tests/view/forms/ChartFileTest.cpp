@@ -81,7 +81,7 @@ TEST(ChartFileTest, TheLongestPlotComesBackAndFitsTheLimit) {
         for (std::size_t k = 0; k < series.values.size(); ++k)
             series.values[k] = -1.2345678e-20F * float(k + 1); // as many digits as a single can have
     const std::string bytes = ChartFile::write(plot, {});
-    EXPECT_LT(bytes.size(), ChartFile::mostBytes);
+    EXPECT_LT(bytes.size(), ChartFile::maximumBytes);
     const auto result = ChartFile::read(bytes);
     ASSERT_TRUE(result.contents) << result.why;
     expectSame(result.contents->plot, plot);
@@ -194,13 +194,13 @@ TEST(ChartFileTest, AFileCutAnywhereIsRefused) {
 }
 
 TEST(ChartFileTest, AHugeFileIsRefusedUnread) {
-    expectRefused(std::string(ChartFile::mostBytes + 1, ' '));
+    expectRefused(std::string(ChartFile::maximumBytes + 1, ' '));
 }
 
 TEST(ChartFileTest, DeepAndWideNestingIsRefusedBeforeItFillsTheMemory) {
-    expectRefused(std::string(ChartFile::mostBytes - 1, '['));
+    expectRefused(std::string(ChartFile::maximumBytes - 1, '['));
     std::string wide = "[0";
-    while (wide.size() < ChartFile::mostBytes - 4)
+    while (wide.size() < ChartFile::maximumBytes - 4)
         wide += ",0";
     expectRefused(wide + "]");
     expectRefused("{\"format\":" + wide + "]}");

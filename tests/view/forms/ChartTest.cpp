@@ -234,20 +234,20 @@ TEST_F(ChartTest, AScaleThatBeginsAboveTheReadingsIsShown) {
 }
 
 TEST_F(ChartTest, ZoomedLabelsAreAskedForOnlyWithinTheData) {
-    int least = 1000;
-    int most = -1;
+    int minimum = 1000;
+    int maximum = -1;
     chart.setTimeOf([&](int point) {
-        least = std::min(least, point);
-        most = std::max(most, point);
+        minimum = std::min(minimum, point);
+        maximum = std::max(maximum, point);
         return "MAY 01 00:00";
     });
     chart.grab();
-    EXPECT_EQ(most, -1); // the whole plot has its nine labels
+    EXPECT_EQ(maximum, -1); // the whole plot has its nine labels
     turnWheel(at(1000), 4);
     chart.grab();
-    EXPECT_GE(least, int(chart.visiblePoints().first));
-    EXPECT_LE(most, 1000);
-    EXPECT_GT(most, 0);
+    EXPECT_GE(minimum, int(chart.visiblePoints().first));
+    EXPECT_LE(maximum, 1000);
+    EXPECT_GT(maximum, 0);
 }
 
 } // namespace

@@ -11,7 +11,7 @@
 namespace tally {
 namespace {
 
-constexpr int least = 10; // pixels of the smallest letters
+constexpr int minimum = 10; // pixels of the smallest letters
 
 QString head() {
     return QStringLiteral("        File Data:   N/A\r\nMode:  Average;     Cont;    15 min interval      \r\n"
@@ -28,9 +28,9 @@ protected:
     QFont font = ChartLook::onPaper().font;
     int line = QFontMetrics(font).height();
 
-    int heightOf(const QString& text, int width, int most) {
+    int heightOf(const QString& text, int width, int maximum) {
         block.setText(text);
-        return block.layOut(width, most, font, least);
+        return block.layOut(width, maximum, font, minimum);
     }
     // Where letters stand in a picture of the block with white around it.
     QRect inked(int width, int height) const {
@@ -86,7 +86,7 @@ TEST_F(ChartTitle, AnotherTextFindsNewPlaces) {
 
 TEST_F(ChartTitle, AnotherWidthFindsNewPlaces) {
     block.setText(head() + notes({}));
-    EXPECT_LT(block.layOut(780, 400, font, least), block.layOut(100, 400, font, least));
+    EXPECT_LT(block.layOut(780, 400, font, minimum), block.layOut(100, 400, font, minimum));
 }
 
 } // namespace
