@@ -16,7 +16,9 @@ using testing::WindowTest;
 
 const std::vector<int> sixteen(16, 1000);
 
-TEST_F(WindowTest, DataPlotEnablesTheCsvExportOnly) {
+class ExportCommands : public WindowTest {};
+
+TEST_F(ExportCommands, DataPlotEnablesTheCsvExportOnly) {
     open("/d/a.dat", dataFile('a', sixteen));
     EXPECT_FALSE(enabled("MnuItemexpdatacsv"));
     click("mnuItemViewPlot");
@@ -27,7 +29,7 @@ TEST_F(WindowTest, DataPlotEnablesTheCsvExportOnly) {
     EXPECT_THAT(files.contents["/d/Lotusint.csv"], HasSubstr(", 0100 ,  "));
 }
 
-TEST_F(WindowTest, CsvExportAsksForTheFileWithItsOwnCode) {
+TEST_F(ExportCommands, CsvExportAsksForTheFileWithItsOwnCode) {
     open("/d/a.dat", dataFile('a', sixteen));
     open("/d/b.dat", dataFile('a', std::vector<int>(16, 2000)));
     click("mnuItemViewPlot");
@@ -37,7 +39,7 @@ TEST_F(WindowTest, CsvExportAsksForTheFileWithItsOwnCode) {
     EXPECT_THAT(files.contents["/d/Lotusint.csv"], HasSubstr(" 0200 "));
 }
 
-TEST_F(WindowTest, TableEnablesBothDataExportsUntilOneIsDone) {
+TEST_F(ExportCommands, TableEnablesBothDataExportsUntilOneIsDone) {
     open("/d/a.dat", dataFile('a', sixteen));
     click("mnuItemViewTable");
     EXPECT_TRUE(enabled("MnuItemexpdatacsv"));
@@ -50,7 +52,7 @@ TEST_F(WindowTest, TableEnablesBothDataExportsUntilOneIsDone) {
     EXPECT_FALSE(enabled("mnuItemexpdata1perLine"));
 }
 
-TEST_F(WindowTest, TextExportWritesTheTableShownWhateverWasChosenSince) {
+TEST_F(ExportCommands, TextExportWritesTheTableShownWhateverWasChosenSince) {
     open("/d/a.dat", dataFile('a', sixteen));
     open("/d/b.dat", dataFile('a', std::vector<int>(16, 2000)));
     chooser.answers = {0, Recordings::cancelled};
@@ -62,7 +64,7 @@ TEST_F(WindowTest, TextExportWritesTheTableShownWhateverWasChosenSince) {
     EXPECT_THAT(files.contents["/d/a.prn"], HasSubstr("    100 "));
 }
 
-TEST_F(WindowTest, SummaryTakesTheDataExportsAway) {
+TEST_F(ExportCommands, SummaryTakesTheDataExportsAway) {
     open("/d/a.dat", dataFile('a', sixteen));
     click("mnuItemViewTable");
     click("mnuItemViewsummary");
@@ -70,7 +72,7 @@ TEST_F(WindowTest, SummaryTakesTheDataExportsAway) {
     EXPECT_FALSE(enabled("mnuItemexpdata1perLine"));
 }
 
-TEST_F(WindowTest, PowerPlotEnablesTheMeteringReport) {
+TEST_F(ExportCommands, PowerPlotEnablesTheMeteringReport) {
     // Two days from 04:00, so that a midnight is in it.
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     EXPECT_FALSE(enabled("mnuitemexprep"));
@@ -83,7 +85,7 @@ TEST_F(WindowTest, PowerPlotEnablesTheMeteringReport) {
     EXPECT_THAT(files.contents["/d/Lotusint.prn"], HasSubstr("      1380,"));
 }
 
-TEST_F(WindowTest, MeteringReportIsOfTheReadingsTheVoltageAndTheFactorInForce) {
+TEST_F(ExportCommands, MeteringReportIsOfTheReadingsTheVoltageAndTheFactorInForce) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     prompt.inputs = {"13800", "4160", "0.5", "METER 1"};
     click("mnuItemViewPower");
@@ -97,7 +99,7 @@ TEST_F(WindowTest, MeteringReportIsOfTheReadingsTheVoltageAndTheFactorInForce) {
     EXPECT_EQ(prompt.asked.size(), 4U) << "the voltage is known";
 }
 
-TEST_F(WindowTest, MeteringReportAsksForTheVoltageWhenNoneWasEntered) {
+TEST_F(ExportCommands, MeteringReportAsksForTheVoltageWhenNoneWasEntered) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     prompt.inputs = {"13800", "4160", "METER 1"};
     click("mnuItemViewPower");
@@ -111,7 +113,7 @@ TEST_F(WindowTest, MeteringReportAsksForTheVoltageWhenNoneWasEntered) {
     EXPECT_EQ(window.screen().chart().plot().title, before);
 }
 
-TEST_F(WindowTest, MeteringReportLeavesTheMarkedSpanAlone) {
+TEST_F(ExportCommands, MeteringReportLeavesTheMarkedSpanAlone) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     prompt.inputs = {"13800", "METER 1"};
     click("mnuItemViewPlot");
@@ -127,7 +129,7 @@ TEST_F(WindowTest, MeteringReportLeavesTheMarkedSpanAlone) {
     EXPECT_EQ(display.displayed(recordings), (Range{100, 120}));
 }
 
-TEST_F(WindowTest, EveryExportTellsWhenItTookThePlaceOfAnEarlierFile) {
+TEST_F(ExportCommands, EveryExportTellsWhenItTookThePlaceOfAnEarlierFile) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     const std::string earlier = "\r\nIt took the place of an earlier file.";
     for (const std::string& more : {std::string(), earlier}) {
@@ -145,7 +147,7 @@ TEST_F(WindowTest, EveryExportTellsWhenItTookThePlaceOfAnEarlierFile) {
     }
 }
 
-TEST_F(WindowTest, CancelledVoltageOrIdentifierWritesNoReport) {
+TEST_F(ExportCommands, CancelledVoltageOrIdentifierWritesNoReport) {
     open("/d/a.dat", dataFile('a', std::vector<int>(192, 1000)));
     prompt.inputs = {"13800", std::nullopt};
     click("mnuItemViewPower");
@@ -154,7 +156,7 @@ TEST_F(WindowTest, CancelledVoltageOrIdentifierWritesNoReport) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(WindowTest, TableOnTheScreenIsRenewedAfterItWasExported) {
+TEST_F(ExportCommands, TableOnTheScreenIsRenewedAfterItWasExported) {
     open("/d/a.dat", dataFile('a', sixteen));
     click("mnuItemViewTable");
     click("mnuItemexpdata1perLine");
@@ -167,7 +169,7 @@ TEST_F(WindowTest, TableOnTheScreenIsRenewedAfterItWasExported) {
     EXPECT_EQ(window.screen().text().text().toStdString().find("100"), std::string::npos);
 }
 
-TEST_F(WindowTest, CsvOfASelectionThatTheFileDoesNotReachIsRefused) {
+TEST_F(ExportCommands, CsvOfASelectionThatTheFileDoesNotReachIsRefused) {
     open("/d/a.dat", dataFile('a', sixteen));
     open("/d/b.dat", dataFile('a', {1000, 1000}));
     click("mnuItemViewPlot");
@@ -183,7 +185,7 @@ TEST_F(WindowTest, CsvOfASelectionThatTheFileDoesNotReachIsRefused) {
     EXPECT_EQ(files.contents["/d/Lotusint.csv"], "old");
 }
 
-TEST_F(WindowTest, ExportToAFolderThatIsGoneIsReported) {
+TEST_F(ExportCommands, ExportToAFolderThatIsGoneIsReported) {
     settings.set("Directory", "default", "/no/such/folder");
     open("/d/a.dat", dataFile('a', sixteen));
     click("mnuItemViewPlot");

@@ -25,7 +25,9 @@ std::vector<std::string> mruShown(const TLY& window) {
     return shown;
 }
 
-TEST_F(WindowTest, OpenDialogStartsInTheDefaultDirectoryWithItsFilter) {
+class FileCommands : public WindowTest {};
+
+TEST_F(FileCommands, OpenDialogStartsInTheDefaultDirectoryWithItsFilter) {
     settings.set("Directory", "default", "/");
     prompt.files.push_back(std::nullopt);
     click("mnuItemOpen");
@@ -34,7 +36,7 @@ TEST_F(WindowTest, OpenDialogStartsInTheDefaultDirectoryWithItsFilter) {
     EXPECT_FALSE(recordings.isOpen(0));
 }
 
-TEST_F(WindowTest, DefaultDirectoryThatIsGoneIsSaidQuietlyAndTheCurrentOneUsed) {
+TEST_F(FileCommands, DefaultDirectoryThatIsGoneIsSaidQuietlyAndTheCurrentOneUsed) {
     settings.set("Directory", "default", "/no/such/folder");
     prompt.files.push_back(std::nullopt);
     click("mnuItemOpen");
@@ -43,7 +45,7 @@ TEST_F(WindowTest, DefaultDirectoryThatIsGoneIsSaidQuietlyAndTheCurrentOneUsed) 
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(WindowTest, MissingFileIsSaidAndNothingChanges) {
+TEST_F(FileCommands, MissingFileIsSaidAndNothingChanges) {
     prompt.files.push_back("/d/gone.dat");
     click("mnuItemOpen");
     EXPECT_THAT(prompt.texts(), ElementsAre(StartsWith("File not found\r\n/d/gone.dat\r\n")));
@@ -51,7 +53,7 @@ TEST_F(WindowTest, MissingFileIsSaidAndNothingChanges) {
     EXPECT_FALSE(enabled("mnuView"));
 }
 
-TEST_F(WindowTest, FileWithoutItsEndMarkOpensWithANoticeThatStays) {
+TEST_F(FileCommands, FileWithoutItsEndMarkOpensWithANoticeThatStays) {
     const std::string whole = dataFile('a', fewReadings);
     open("/d/a.dat", whole.substr(0, whole.find('\x1a')));
     const QString key = QStringLiteral("incomplete");
@@ -66,7 +68,7 @@ TEST_F(WindowTest, FileWithoutItsEndMarkOpensWithANoticeThatStays) {
     EXPECT_FALSE(window.notices().has(key));
 }
 
-TEST_F(WindowTest, RefusedFileChangesNeitherListNorMenusNorView) {
+TEST_F(FileCommands, RefusedFileChangesNeitherListNorMenusNorView) {
     open("/d/a.dat", dataFile('a', fewReadings));
     open("/d/f.dat", dataFile('f', fewReadings));
     open("/d/x.dat", "no recording at all");
@@ -77,7 +79,7 @@ TEST_F(WindowTest, RefusedFileChangesNeitherListNorMenusNorView) {
     EXPECT_EQ(window.screen().displaying(), "summary of a.dat");
 }
 
-TEST_F(WindowTest, RecentListPutsTheNewestFirstAndKeepsAPathTwice) {
+TEST_F(FileCommands, RecentListPutsTheNewestFirstAndKeepsAPathTwice) {
     for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/1.dat"}) {
         open(path, dataFile('a', fewReadings));
         click("mnuItemClose");
@@ -88,14 +90,14 @@ TEST_F(WindowTest, RecentListPutsTheNewestFirstAndKeepsAPathTwice) {
     EXPECT_EQ(settings.get("Settings", "mrufile4"), "");
 }
 
-TEST_F(WindowTest, RecentEntryOpensItsFile) {
+TEST_F(FileCommands, RecentEntryOpensItsFile) {
     open("/d/1.dat", dataFile('a', fewReadings));
     click("mnuItemClose");
     window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->trigger();
     EXPECT_EQ(recordings.info(0).path, "/d/1.dat");
 }
 
-TEST_F(WindowTest, RecentEntryThatIsGoneIsSaidAndStays) {
+TEST_F(FileCommands, RecentEntryThatIsGoneIsSaidAndStays) {
     open("/d/1.dat", dataFile('a', fewReadings));
     click("mnuItemClose");
     files.contents.clear();
@@ -104,7 +106,7 @@ TEST_F(WindowTest, RecentEntryThatIsGoneIsSaidAndStays) {
     EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
 }
 
-TEST_F(WindowTest, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
+TEST_F(FileCommands, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
     open("/d/1.dat", dataFile('a', fewReadings));
     click("mnuItemClose");
     QAction* entry = window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0];
@@ -121,13 +123,13 @@ TEST_F(WindowTest, RecentEntryThatCannotBeReadIsADiskErrorADamagedOneIsNot) {
     EXPECT_THAT(mruShown(window), ElementsAre("/d/1.dat"));
 }
 
-TEST_F(WindowTest, PathWithAnAmpersandIsShownAsItIs) {
+TEST_F(FileCommands, PathWithAnAmpersandIsShownAsItIs) {
     open("/d/R&D.dat", dataFile('a', fewReadings));
     EXPECT_EQ(window.findChildren<QAction*>(QStringLiteral("mnuMRU"))[0]->text(),
               QStringLiteral("/d/R&&D.dat"));
 }
 
-TEST_F(WindowTest, LongPathIsShortenedInTheMiddleAndOpensAllTheSame) {
+TEST_F(FileCommands, LongPathIsShortenedInTheMiddleAndOpensAllTheSame) {
     const std::string path = "/home/technician/recordings/2024/northern district/substations/mill road/"
                              "feeder 12 red phase.dat";
     open(path, dataFile('a', fewReadings));
@@ -140,7 +142,7 @@ TEST_F(WindowTest, LongPathIsShortenedInTheMiddleAndOpensAllTheSame) {
     EXPECT_EQ(recordings.info(0).path, path);
 }
 
-TEST_F(WindowTest, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
+TEST_F(FileCommands, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
     for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat"})
         open(path, dataFile('a', fewReadings));
     EXPECT_FALSE(enabled("mnuItemOpen"));
@@ -151,14 +153,14 @@ TEST_F(WindowTest, ThirdFileTakesOpenAndTheRecentEntriesAwayUntilClose) {
     EXPECT_EQ(recordings.openCount(), 0);
 }
 
-TEST_F(WindowTest, RecentEntriesOfTheSettingsAreShownAtStartUp) {
+TEST_F(FileCommands, RecentEntriesOfTheSettingsAreShownAtStartUp) {
     settings.set("Settings", "mrufile1", "/d/x.dat");
     settings.set("Settings", "mrufile3", "/d/y.dat");
     TLY another(services);
     EXPECT_THAT(mruShown(another), ElementsAre("/d/x.dat", "/d/y.dat"));
 }
 
-TEST_F(WindowTest, CloseEmptiesTheSlotsAndResetsTheViews) {
+TEST_F(FileCommands, CloseEmptiesTheSlotsAndResetsTheViews) {
     open("/d/1.dat", dataFile('a', fewReadings));
     click("mnuItemViewPlot");
     click("mnuItemOnepgPlot");
@@ -173,7 +175,7 @@ TEST_F(WindowTest, CloseEmptiesTheSlotsAndResetsTheViews) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Tallyline"));
 }
 
-TEST_F(WindowTest, SaveWritesTheWholeOfTheChosenFileAndIsThenOff) {
+TEST_F(FileCommands, SaveWritesTheWholeOfTheChosenFileAndIsThenOff) {
     open("/d/1.dat", dataFile('a', fewReadings));
     open("/d/2.dat", dataFile('a', {100, 200, 300, 400, 500, 600}));
     chooser.answers = {1};
@@ -188,7 +190,7 @@ TEST_F(WindowTest, SaveWritesTheWholeOfTheChosenFileAndIsThenOff) {
     EXPECT_EQ(display.gdataend(), 5);
 }
 
-TEST_F(WindowTest, FailedSaveKeepsTheOldFileAndTheMenu) {
+TEST_F(FileCommands, FailedSaveKeepsTheOldFileAndTheMenu) {
     open("/d/1.dat", dataFile('a', fewReadings));
     files.contents["/d/out.dat"] = "old";
     files.failWrite = fault::diskFull();
@@ -199,7 +201,7 @@ TEST_F(WindowTest, FailedSaveKeepsTheOldFileAndTheMenu) {
     EXPECT_TRUE(enabled("mnuItemSave"));
 }
 
-TEST_F(WindowTest, SaveOverTheFileThatIsOpenKeepsItOpenAndReadable) {
+TEST_F(FileCommands, SaveOverTheFileThatIsOpenKeepsItOpenAndReadable) {
     open("/d/1.dat", dataFile('a', fewReadings));
     const auto readings = recordings.gReadings[0];
     prompt.files.push_back("/d/1.dat");
@@ -212,7 +214,7 @@ TEST_F(WindowTest, SaveOverTheFileThatIsOpenKeepsItOpenAndReadable) {
     EXPECT_EQ(recordings.gReadings[0], readings);
 }
 
-TEST_F(WindowTest, SaveInAFolderWithoutTheRightSaysSo) {
+TEST_F(FileCommands, SaveInAFolderWithoutTheRightSaysSo) {
     open("/d/1.dat", dataFile('a', fewReadings));
     files.failWrite = fault::permissionDenied();
     prompt.files.push_back("/readonly/out.dat");
@@ -221,7 +223,7 @@ TEST_F(WindowTest, SaveInAFolderWithoutTheRightSaysSo) {
     EXPECT_TRUE(enabled("mnuItemSave"));
 }
 
-TEST_F(WindowTest, UnreadableItemsAreSaidInTheStatusBarOnly) {
+TEST_F(FileCommands, UnreadableItemsAreSaidInTheStatusBarOnly) {
     std::string bytes = dataFile('a', fewReadings);
     bytes.replace(bytes.find("  30"), 4, "  x0");
     open("/d/1.dat", bytes);
@@ -230,7 +232,7 @@ TEST_F(WindowTest, UnreadableItemsAreSaidInTheStatusBarOnly) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(WindowTest, FilesOfTheCommandLineOpenAsTheMenuDoes) {
+TEST_F(FileCommands, FilesOfTheCommandLineOpenAsTheMenuDoes) {
     for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat"})
         files.contents[path] = dataFile('a', fewReadings);
     window.openFiles({"/d/1.dat", "/d/2.dat", "/d/3.dat"});
@@ -239,7 +241,7 @@ TEST_F(WindowTest, FilesOfTheCommandLineOpenAsTheMenuDoes) {
     EXPECT_FALSE(enabled("mnuItemOpen"));
 }
 
-TEST_F(WindowTest, FourthFileIsNotOpened) {
+TEST_F(FileCommands, FourthFileIsNotOpened) {
     for (const char* path : {"/d/1.dat", "/d/2.dat", "/d/3.dat", "/d/4.dat"})
         files.contents[path] = dataFile('a', fewReadings);
     window.openFiles({"/d/1.dat", "/d/2.dat", "/d/3.dat", "/d/4.dat"});
@@ -249,7 +251,7 @@ TEST_F(WindowTest, FourthFileIsNotOpened) {
     EXPECT_EQ(settings.get("Settings", "mrufile1"), "/d/3.dat");
 }
 
-TEST_F(WindowTest, FilesCanBeDroppedOnTheWindow) {
+TEST_F(FileCommands, FilesCanBeDroppedOnTheWindow) {
     files.contents["/d/1.dat"] = dataFile('a', fewReadings);
     QMimeData data;
     data.setUrls({QUrl::fromLocalFile(QStringLiteral("/d/1.dat"))});
@@ -261,7 +263,7 @@ TEST_F(WindowTest, FilesCanBeDroppedOnTheWindow) {
     EXPECT_TRUE(QTest::qWaitFor([this] { return recordings.isOpen(0); }, 2000));
 }
 
-TEST_F(WindowTest, ChartFileShowsWhatWasSaved) {
+TEST_F(FileCommands, ChartFileShowsWhatWasSaved) {
     open("/d/1.dat", dataFile('a', fewReadings));
     click("mnuItemViewPlot");
     click("mnuItemadd");
@@ -284,7 +286,7 @@ TEST_F(WindowTest, ChartFileShowsWhatWasSaved) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(WindowTest, ImportedChartShowsItsOwnNameInTheTitle) {
+TEST_F(FileCommands, ImportedChartShowsItsOwnNameInTheTitle) {
     open("/d/1.dat", dataFile('a', fewReadings));
     EXPECT_EQ(window.windowTitle(), QStringLiteral("1.dat - Tallyline"));
     click("mnuItemViewPlot");
@@ -299,7 +301,7 @@ TEST_F(WindowTest, ImportedChartShowsItsOwnNameInTheTitle) {
     EXPECT_EQ(window.windowTitle(), QStringLiteral("Tallyline"));
 }
 
-TEST_F(WindowTest, DamagedChartFileIsSaidAndTheViewStays) {
+TEST_F(FileCommands, DamagedChartFileIsSaidAndTheViewStays) {
     open("/d/1.dat", dataFile('a', fewReadings));
     files.contents["/d/bad.chd"] = "{\"version\": 1, \"series\": [";
     prompt.files.push_back("/d/bad.chd");

@@ -86,7 +86,9 @@ void collect(const QList<QAction*>& actions, int depth, std::vector<std::string>
     }
 }
 
-TEST_F(WindowTest, MenuTreeHasEveryItemInOrderUnderItsNameAndCaption) {
+class MenuTree : public WindowTest {};
+
+TEST_F(MenuTree, MenuTreeHasEveryItemInOrderUnderItsNameAndCaption) {
     std::vector<std::string> expected;
     for (const Entry& entry : tree)
         expected.push_back(std::to_string(entry.depth) + " " + entry.name + " " + entry.caption);
@@ -95,7 +97,7 @@ TEST_F(WindowTest, MenuTreeHasEveryItemInOrderUnderItsNameAndCaption) {
     EXPECT_EQ(found, expected);
 }
 
-TEST_F(WindowTest, RecentFileEntriesAreAnArrayWithIndicesOneToFour) {
+TEST_F(MenuTree, RecentFileEntriesAreAnArrayWithIndicesOneToFour) {
     const auto entries = window.findChildren<QAction*>(QStringLiteral("mnuMRU"));
     ASSERT_EQ(entries.size(), 4);
     for (int i = 0; i < 4; ++i)
@@ -171,7 +173,7 @@ TEST(MenuStates, NoOtherItemIsSwitched) {
     EXPECT_EQ(menuEvents, int(std::size(events)));
 }
 
-TEST_F(WindowTest, AtStartUpOnlyWhatNeedsNoFileIsEnabled) {
+TEST_F(MenuTree, AtStartUpOnlyWhatNeedsNoFileIsEnabled) {
     EXPECT_TRUE(enabled("mnuItemOpen"));
     EXPECT_TRUE(enabled("mnuItemImport"));
     EXPECT_FALSE(enabled("mnuView"));

@@ -24,7 +24,9 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::WindowTest;
 
-TEST_F(WindowTest, UserNameIsAskedAndKept) {
+class Options : public WindowTest {};
+
+TEST_F(Options, UserNameIsAskedAndKept) {
     settings.set("Security", "userid", "Ann");
     prompt.inputs.push_back("Bo \"Zoë\" <b>");
     click("mnuItemUserID");
@@ -33,7 +35,7 @@ TEST_F(WindowTest, UserNameIsAskedAndKept) {
     EXPECT_EQ(settings.get("Security", "userid"), "Bo \"Zoë\" <b>");
 }
 
-TEST_F(WindowTest, CancelledOrEmptyUserNameKeepsTheStoredOne) {
+TEST_F(Options, CancelledOrEmptyUserNameKeepsTheStoredOne) {
     settings.set("Security", "userid", "Ann");
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemUserID");
@@ -42,7 +44,7 @@ TEST_F(WindowTest, CancelledOrEmptyUserNameKeepsTheStoredOne) {
     EXPECT_EQ(settings.get("Security", "userid"), "Ann");
 }
 
-TEST_F(WindowTest, AboutShowsTheUserNameAsItIs) {
+TEST_F(Options, AboutShowsTheUserNameAsItIs) {
     settings.set("Security", "userid", "Bo <b>");
     whenOpen<About>([](About& about) {
         bool labelled = false;
@@ -55,7 +57,7 @@ TEST_F(WindowTest, AboutShowsTheUserNameAsItIs) {
     click("mnuItemAbout");
 }
 
-TEST_F(WindowTest, DefaultDirectoryIsChosenInTheWindow) {
+TEST_F(Options, DefaultDirectoryIsChosenInTheWindow) {
     const QTemporaryDir place;
     QDir(place.path()).mkdir(QStringLiteral("meters"));
     settings.set("Directory", "default", place.path().toStdString());
@@ -74,7 +76,7 @@ TEST_F(WindowTest, DefaultDirectoryIsChosenInTheWindow) {
     EXPECT_FALSE(take.isVisible());
 }
 
-TEST_F(WindowTest, DefaultDirectoryChoiceCanBeLeft) {
+TEST_F(Options, DefaultDirectoryChoiceCanBeLeft) {
     settings.set("Directory", "default", "/no/such/folder");
     window.show();
     click("mnuItemDefaultDir");
@@ -83,7 +85,7 @@ TEST_F(WindowTest, DefaultDirectoryChoiceCanBeLeft) {
     EXPECT_FALSE(window.folderChoice().isVisible());
 }
 
-TEST_F(WindowTest, SpecialTestListsTheState) {
+TEST_F(Options, SpecialTestListsTheState) {
     open("/d/a.dat", dataFile('a', {100, 200, 300}));
     recordings.gText = std::string(150, 'x');
     recordings.gDateX = 7;
@@ -94,14 +96,14 @@ TEST_F(WindowTest, SpecialTestListsTheState) {
                             "gInfo(0,7)='/d/a.dat'\r\ngInfo(1,7)=''\r\ngInfo(2,7)=''"));
 }
 
-TEST_F(WindowTest, MissingHelpFileIsSaid) {
+TEST_F(Options, MissingHelpFileIsSaid) {
     window.setHelpFile(QStringLiteral("/no/such/tallyhelp.hlp"));
     click("mnuItemHelp");
     ASSERT_EQ(prompt.shown.size(), 1U);
     EXPECT_THAT(prompt.shown[0].text, HasSubstr("The help file is missing"));
 }
 
-TEST_F(WindowTest, DamagedHelpFileIsSaid) {
+TEST_F(Options, DamagedHelpFileIsSaid) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("tallyhelp.hlp"));
     QFile file(path);
@@ -114,7 +116,7 @@ TEST_F(WindowTest, DamagedHelpFileIsSaid) {
     EXPECT_THAT(prompt.shown[0].text, HasSubstr("The help file is damaged"));
 }
 
-TEST_F(WindowTest, HelpOpensWithItsFirstPageAndHasOneForEachMenu) {
+TEST_F(Options, HelpOpensWithItsFirstPageAndHasOneForEachMenu) {
     click("mnuItemHelp");
     EXPECT_TRUE(prompt.shown.empty());
     auto* help = window.findChild<HelpWindow*>();
@@ -127,7 +129,7 @@ TEST_F(WindowTest, HelpOpensWithItsFirstPageAndHasOneForEachMenu) {
     }
 }
 
-TEST_F(WindowTest, F1InAnOpenMenuOpensThePageOfThatMenu) {
+TEST_F(Options, F1InAnOpenMenuOpensThePageOfThatMenu) {
     window.show();
     const std::pair<const char*, const char*> pages[] = {{"mnuFile", "file.html"},
                                                          {"mnuItemExportType", "file.html"},
@@ -154,7 +156,7 @@ TEST_F(WindowTest, F1InAnOpenMenuOpensThePageOfThatMenu) {
     }
 }
 
-TEST_F(WindowTest, PlaceOfTheWindowIsRemembered) {
+TEST_F(Options, PlaceOfTheWindowIsRemembered) {
     window.resize(777, 555);
     QCloseEvent close;
     QApplication::sendEvent(&window, &close);
@@ -162,7 +164,7 @@ TEST_F(WindowTest, PlaceOfTheWindowIsRemembered) {
     EXPECT_EQ(another.size(), QSize(777, 555));
 }
 
-TEST_F(WindowTest, NonsenseInTheSettingsDoesNoHarm) {
+TEST_F(Options, NonsenseInTheSettingsDoesNoHarm) {
     settings.set("Window", "geometry", "rubbish!!");
     settings.set("Settings", "Vline", "many");
     settings.set("Settings", "LastVoltages", "x -3 1e999 4160");
@@ -170,7 +172,7 @@ TEST_F(WindowTest, NonsenseInTheSettingsDoesNoHarm) {
     EXPECT_EQ(another.size(), QSize(1000, 700));
 }
 
-TEST_F(WindowTest, SettingsTroubleIsANoticeThatCanBeDismissed) {
+TEST_F(Options, SettingsTroubleIsANoticeThatCanBeDismissed) {
     window.reportSettings("The settings file is damaged.");
     EXPECT_EQ(window.notices().text(QStringLiteral("settings")),
               QStringLiteral("The settings file is damaged."));
@@ -179,7 +181,7 @@ TEST_F(WindowTest, SettingsTroubleIsANoticeThatCanBeDismissed) {
     EXPECT_FALSE(window.notices().isVisibleTo(&window));
 }
 
-TEST_F(WindowTest, CommandsThatComeWhileOneRunsAreIgnored) {
+TEST_F(Options, CommandsThatComeWhileOneRunsAreIgnored) {
     bool inner = false;
     EXPECT_TRUE(
         window.dispatcher().run([&] { EXPECT_FALSE(window.dispatcher().run([&] { inner = true; })); }));
@@ -187,7 +189,7 @@ TEST_F(WindowTest, CommandsThatComeWhileOneRunsAreIgnored) {
     EXPECT_FALSE(window.dispatcher().running());
 }
 
-TEST_F(WindowTest, FaultReportNamesTheCallPointWhereOneIsSet) {
+TEST_F(Options, FaultReportNamesTheCallPointWhereOneIsSet) {
     window.dispatcher().run([this] {
         callPoint = 315;
         throw fault::divisionByZero();
@@ -198,7 +200,7 @@ TEST_F(WindowTest, FaultReportNamesTheCallPointWhereOneIsSet) {
     EXPECT_EQ(prompt.shown[0].title, "Tallyline");
 }
 
-TEST_F(WindowTest, FaultPutsRangeFileAndDisplayBack) {
+TEST_F(Options, FaultPutsRangeFileAndDisplayBack) {
     open("/d/a.dat", dataFile('a', {100, 200, 300}));
     window.dispatcher().run([this] {
         EXPECT_TRUE(display.applyRange(recordings, 2, 2));
@@ -211,7 +213,7 @@ TEST_F(WindowTest, FaultPutsRangeFileAndDisplayBack) {
     EXPECT_EQ(display.view(), View::summary);
 }
 
-TEST_F(WindowTest, RefusalIsToldWithWhatItSpeaksOfAndPutsTheDisplayBack) {
+TEST_F(Options, RefusalIsToldWithWhatItSpeaksOfAndPutsTheDisplayBack) {
     open("/d/a.dat", dataFile('a', {100, 200, 300}));
     EXPECT_FALSE(window.dispatcher().run([this]() -> Done {
         display.startPower(recordings);

@@ -18,7 +18,9 @@ std::vector<int> constant(int count, int tenths) {
     return std::vector<int>(std::size_t(count), tenths);
 }
 
-TEST_F(WindowTest, PowerPlotAsksForTheVoltageOfferingTheDefault) {
+class PowerCommands : public WindowTest {};
+
+TEST_F(PowerCommands, PowerPlotAsksForTheVoltageOfferingTheDefault) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back("4160");
     click("mnuItemViewPower");
@@ -33,7 +35,7 @@ TEST_F(WindowTest, PowerPlotAsksForTheVoltageOfferingTheDefault) {
         EXPECT_TRUE(enabled(name)) << name;
 }
 
-TEST_F(WindowTest, CancelledVoltageDrawsNothing) {
+TEST_F(PowerCommands, CancelledVoltageDrawsNothing) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemViewPower");
@@ -45,7 +47,7 @@ TEST_F(WindowTest, CancelledVoltageDrawsNothing) {
     EXPECT_FALSE(display.powerKnown());
 }
 
-TEST_F(WindowTest, VoltagesEnteredAreOfferedAgainAfterClose) {
+TEST_F(PowerCommands, VoltagesEnteredAreOfferedAgainAfterClose) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     for (const char* volts : {"4160", "13800", "4160"}) {
         prompt.inputs.push_back(volts);
@@ -60,7 +62,7 @@ TEST_F(WindowTest, VoltagesEnteredAreOfferedAgainAfterClose) {
     EXPECT_THAT(prompt.asked.back().choices, ElementsAre("4160", "13800"));
 }
 
-TEST_F(WindowTest, KilovoltsGetAHintButAreTaken) {
+TEST_F(PowerCommands, KilovoltsGetAHintButAreTaken) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back("13.8");
     click("mnuItemViewPower");
@@ -69,7 +71,7 @@ TEST_F(WindowTest, KilovoltsGetAHintButAreTaken) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(WindowTest, MinMaxAvgFilesAreRefusedAndTurnThePowerPlotOff) {
+TEST_F(PowerCommands, MinMaxAvgFilesAreRefusedAndTurnThePowerPlotOff) {
     open("/d/g.dat", dataFile('g', constant(9, 1000)));
     prompt.inputs.push_back("13800");
     click("mnuItemViewPower");
@@ -79,7 +81,7 @@ TEST_F(WindowTest, MinMaxAvgFilesAreRefusedAndTurnThePowerPlotOff) {
     EXPECT_FALSE(display.powerView());
 }
 
-TEST_F(WindowTest, OverflowOfThreeFilesRestoresTheDisplay) {
+TEST_F(PowerCommands, OverflowOfThreeFilesRestoresTheDisplay) {
     for (const char* path : {"/d/a.dat", "/d/b.dat", "/d/c.dat"})
         open(path, dataFile('a', constant(8, 9990)));
     files.contents["/d/c.dat"] = dataFile('a', constant(8, 9990));
@@ -98,7 +100,7 @@ TEST_F(WindowTest, OverflowOfThreeFilesRestoresTheDisplay) {
     EXPECT_EQ(display.gDatastart(), 2);
 }
 
-TEST_F(WindowTest, PowerSummaryAsksForTheVoltageOnceAndPowerTableNoMore) {
+TEST_F(PowerCommands, PowerSummaryAsksForTheVoltageOnceAndPowerTableNoMore) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     click("mnuItemViewPlot");
     prompt.inputs.push_back("13800");
@@ -113,7 +115,7 @@ TEST_F(WindowTest, PowerSummaryAsksForTheVoltageOnceAndPowerTableNoMore) {
     EXPECT_THAT(remark().toStdString(), ::testing::StartsWith("Power of a.dat at 13.8 KV, power factor 1, "));
 }
 
-TEST_F(WindowTest, PowerFactorAboveOneIsTakenAsEntered) {
+TEST_F(PowerCommands, PowerFactorAboveOneIsTakenAsEntered) {
     prompt.inputs.push_back("1.2");
     click("mnuItemPF");
     EXPECT_EQ(prompt.asked.back().text, "Enter Power Factor to be used \rmust be 1 or less");
@@ -121,7 +123,7 @@ TEST_F(WindowTest, PowerFactorAboveOneIsTakenAsEntered) {
     EXPECT_FLOAT_EQ(display.powerFactor(), 1.2F);
 }
 
-TEST_F(WindowTest, CancelledOrEmptyPowerFactorKeepsTheOldOne) {
+TEST_F(PowerCommands, CancelledOrEmptyPowerFactorKeepsTheOldOne) {
     display.setPowerFactor(0.9F);
     prompt.inputs.push_back(std::nullopt);
     click("mnuItemPF");
@@ -130,7 +132,7 @@ TEST_F(WindowTest, CancelledOrEmptyPowerFactorKeepsTheOldOne) {
     EXPECT_FLOAT_EQ(display.powerFactor(), 0.9F);
 }
 
-TEST_F(WindowTest, PowerFactorOfZeroIsOfferedAsOne) {
+TEST_F(PowerCommands, PowerFactorOfZeroIsOfferedAsOne) {
     prompt.inputs = {"0", std::nullopt};
     click("mnuItemPF");
     EXPECT_EQ(remark(), QStringLiteral("Power factor taken as 1."));
@@ -139,7 +141,7 @@ TEST_F(WindowTest, PowerFactorOfZeroIsOfferedAsOne) {
     EXPECT_FLOAT_EQ(display.powerFactor(), 1.0F);
 }
 
-TEST_F(WindowTest, AnotherPowerFactorRedrawsWhatComesFromIt) {
+TEST_F(PowerCommands, AnotherPowerFactorRedrawsWhatComesFromIt) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     prompt.inputs = {"10000", "0.5", "0.8"};
     click("mnuItemViewPower");
@@ -151,20 +153,20 @@ TEST_F(WindowTest, AnotherPowerFactorRedrawsWhatComesFromIt) {
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("  800.0  "));
 }
 
-TEST_F(WindowTest, PowerFactorThatIsNotWhollyANumberIsTold) {
+TEST_F(PowerCommands, PowerFactorThatIsNotWhollyANumberIsTold) {
     prompt.inputs.push_back("0,8");
     click("mnuItemPF");
     EXPECT_EQ(remark(), QStringLiteral("Power factor taken as 1."));
 }
 
-TEST_F(WindowTest, VoltageWithAGroupingCommaIsThatManyVolts) {
+TEST_F(PowerCommands, VoltageWithAGroupingCommaIsThatManyVolts) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs = {"13,800"};
     click("mnuItemViewPower");
     EXPECT_FLOAT_EQ(window.screen().chart().plot().series.at(0).values.at(0), 1380.0F);
 }
 
-TEST_F(WindowTest, VoltageThatIsNotWhollyANumberIsToldWithTheValueThatIsUsed) {
+TEST_F(PowerCommands, VoltageThatIsNotWhollyANumberIsToldWithTheValueThatIsUsed) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     const QString told =
         QStringLiteral("Line voltage taken as 4160 volts; the entry is not wholly a number.");
@@ -176,7 +178,7 @@ TEST_F(WindowTest, VoltageThatIsNotWhollyANumberIsToldWithTheValueThatIsUsed) {
     EXPECT_THAT(remark().toStdString(), ::testing::StartsWith("Power of a.dat at 4.16 KV"));
 }
 
-TEST_F(WindowTest, VoltageThatThePowerTableAsksForIsToldLikewise) {
+TEST_F(PowerCommands, VoltageThatThePowerTableAsksForIsToldLikewise) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs = {"4160 V"};
     click("mnuItemViewpwrsummry");
@@ -185,7 +187,7 @@ TEST_F(WindowTest, VoltageThatThePowerTableAsksForIsToldLikewise) {
     EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr("Line Voltage: 4160"));
 }
 
-TEST_F(WindowTest, WordAboutAnEntryGoesWithTheNextCommand) {
+TEST_F(PowerCommands, WordAboutAnEntryGoesWithTheNextCommand) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs = {"0,8", "0.8"};
     click("mnuItemPF");
@@ -194,7 +196,7 @@ TEST_F(WindowTest, WordAboutAnEntryGoesWithTheNextCommand) {
     EXPECT_EQ(remark(), QString());
 }
 
-TEST_F(WindowTest, ForcingRenewsThePowerViewOnTheScreen) {
+TEST_F(PowerCommands, ForcingRenewsThePowerViewOnTheScreen) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     prompt.inputs = {"10000"};
     click("mnuItemViewPower");
@@ -214,7 +216,7 @@ TEST_F(WindowTest, ForcingRenewsThePowerViewOnTheScreen) {
                 HasSubstr("Total Energy In Displayed Area: 1,050 KWHR"));
 }
 
-TEST_F(WindowTest, PowerSummaryNamesTheSpanThatWasMarkedInADataPlot) {
+TEST_F(PowerCommands, PowerSummaryNamesTheSpanThatWasMarkedInADataPlot) {
     open("/d/a.dat", dataFile('a', constant(40, 1000)));
     prompt.inputs = {"10000"};
     click("mnuItemViewPower");

@@ -10,7 +10,9 @@ namespace {
 using testing::dataFile;
 using testing::WindowTest;
 
-TEST_F(WindowTest, LongNamesOfThreeFilesStayOnTheLineAndPushNoButtonOff) {
+class Screen : public WindowTest {};
+
+TEST_F(Screen, LongNamesOfThreeFilesStayOnTheLineAndPushNoButtonOff) {
     const std::string dir = "/d/" + std::string(60, 'n');
     for (const char* name : {"1.dat", "2.dat", "3.dat"})
         open(dir + name, dataFile('a', std::vector<int>(20, 100)));

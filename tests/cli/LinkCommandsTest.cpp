@@ -59,7 +59,7 @@ struct LinkCommands : ::testing::Test {
     }
 };
 
-TEST_F(LinkCommands, checkCountsAndReports) {
+TEST_F(LinkCommands, CheckCountsAndReports) {
     const auto run = check(header + "\rT: 1 2 3 999 1000\n\r A\x1a\x1a", {"--json"});
     EXPECT_EQ(run.status, 1);
     for (const char* part : {R"("badLines": 1)", R"("over999": 1)", R"("count999": 1)", R"("ctrlZ": 2)",
@@ -68,7 +68,7 @@ TEST_F(LinkCommands, checkCountsAndReports) {
         EXPECT_NE(run.out.find(part), std::string::npos) << part << "\n" << run.out;
 }
 
-TEST_F(LinkCommands, checkOfACleanTextIsClean) {
+TEST_F(LinkCommands, CheckOfACleanTextIsClean) {
     const auto run = check(header + "\rT: 1 2 3 4 5 6 7 8 9 10\n\r\x1a", {"--json"});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_NE(run.out.find(R"("firstBadChar": null)"), std::string::npos);
@@ -76,7 +76,7 @@ TEST_F(LinkCommands, checkOfACleanTextIsClean) {
     EXPECT_NE(run.out.find(R"("report": "")"), std::string::npos);
 }
 
-TEST_F(LinkCommands, checkPlantsTheFaultsOfARunSpecificationAndWritesTheText) {
+TEST_F(LinkCommands, CheckPlantsTheFaultsOfARunSpecificationAndWritesTheText) {
     std::string text = header + "\rT:";
     for (int i = 0; i < 8; ++i)
         text += " 1 2 3 4 5 6 7 8 9 10\n\r";
@@ -88,25 +88,25 @@ TEST_F(LinkCommands, checkPlantsTheFaultsOfARunSpecificationAndWritesTheText) {
     EXPECT_NE(TemporaryFolder::read(out).find(" 000  2 3"), std::string::npos);
 }
 
-TEST_F(LinkCommands, checkOfASavedFileLooksAtItsText) {
+TEST_F(LinkCommands, CheckOfASavedFileLooksAtItsText) {
     EXPECT_EQ(check("\"" + header + "\rT: 1 2 3 4 5 6 7 8 9 10\n\r\x1a\"\r\n").status, 0);
 }
 
-TEST_F(LinkCommands, checkThatOverflowsSaysSo) {
+TEST_F(LinkCommands, CheckThatOverflowsSaysSo) {
     const auto run = check("T:" + std::string(40000, 'x'));
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "Overflow\n");
 }
 
-TEST_F(LinkCommands, checkOfAMissingFileIsRefused) {
+TEST_F(LinkCommands, CheckOfAMissingFileIsRefused) {
     const auto run = runProgram("tallyline-cli", {"check", folder.path("none")});
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.err, "File not found\n" + folder.path("none") +
                            "\nCheck its name and folder; it may have been moved or renamed.\n");
 }
 
-TEST_F(LinkCommands, portsListsEight) {
+TEST_F(LinkCommands, PortsListsEight) {
     const auto run = runProgram("tallyline-cli", {"ports"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.err, "");
@@ -116,7 +116,7 @@ TEST_F(LinkCommands, portsListsEight) {
     EXPECT_NE(json.out.find(R"("port": 8)"), std::string::npos);
 }
 
-TEST_F(LinkCommands, aDownloadIsWrittenAsOneQuotedItem) {
+TEST_F(LinkCommands, ADownloadIsWrittenAsOneQuotedItem) {
     const auto sim = instrument({"--count", "30"});
     const auto run = download(sim);
     EXPECT_EQ(run.status, 0) << run.err;
@@ -130,7 +130,7 @@ TEST_F(LinkCommands, aDownloadIsWrittenAsOneQuotedItem) {
     EXPECT_EQ(runProgram("tallyline-cli", {"info", out}).status, 0);
 }
 
-TEST_F(LinkCommands, aFullMemoryOfType8Arrives) {
+TEST_F(LinkCommands, AFullMemoryOfType8Arrives) {
     const auto sim = instrument({"--type", "8"});
     const auto run = download(sim, {}, "PQX-K4-W");
     EXPECT_EQ(run.status, 0) << run.err;
@@ -138,7 +138,7 @@ TEST_F(LinkCommands, aFullMemoryOfType8Arrives) {
     EXPECT_NE(info.out.find(R"("count": 42966)"), std::string::npos) << info.out;
 }
 
-TEST_F(LinkCommands, automaticSelectionFindsTheOtherRate) {
+TEST_F(LinkCommands, AutomaticSelectionFindsTheOtherRate) {
     const auto sim = instrument({"--type", "8", "--count", "20"});
     const auto run = download(sim, {"--log"}, "11");
     EXPECT_EQ(run.status, 0) << run.err;
@@ -146,7 +146,7 @@ TEST_F(LinkCommands, automaticSelectionFindsTheOtherRate) {
     EXPECT_NE(run.err.find("Got 'KWT'."), std::string::npos);
 }
 
-TEST_F(LinkCommands, aSilentInstrumentEndsTheWait) {
+TEST_F(LinkCommands, ASilentInstrumentEndsTheWait) {
     const auto sim = instrument({"--fault", "silent"});
     const auto run = download(sim, {"--wait", "0.3"});
     EXPECT_EQ(run.status, 1);
@@ -155,7 +155,7 @@ TEST_F(LinkCommands, aSilentInstrumentEndsTheWait) {
     EXPECT_TRUE(journal().empty());
 }
 
-TEST_F(LinkCommands, aDownloadWithErrorsIsKeptOnlyWithYes) {
+TEST_F(LinkCommands, ADownloadWithErrorsIsKeptOnlyWithYes) {
     const auto sim = instrument({"--count", "30", "--fault", "damaged-line=2"});
     for (const std::vector<std::string>& no : std::vector<std::vector<std::string>>{{}, {"--no"}}) {
         const auto run = download(sim, no);
@@ -168,7 +168,7 @@ TEST_F(LinkCommands, aDownloadWithErrorsIsKeptOnlyWithYes) {
     EXPECT_TRUE(std::filesystem::exists(out));
 }
 
-TEST_F(LinkCommands, aLowBatteryIsWarnedOf) {
+TEST_F(LinkCommands, ALowBatteryIsWarnedOf) {
     const auto sim = instrument({"--count", "30", "--fault", "low-battery"});
     const auto run = download(sim);
     EXPECT_EQ(run.status, 0);
@@ -176,7 +176,7 @@ TEST_F(LinkCommands, aLowBatteryIsWarnedOf) {
     EXPECT_EQ(TemporaryFolder::read(out).substr(1, 3), "KWT");
 }
 
-TEST_F(LinkCommands, anAdapterThatIsPulledOutIsToldAndWhatCameIsKept) {
+TEST_F(LinkCommands, AnAdapterThatIsPulledOutIsToldAndWhatCameIsKept) {
     const auto sim = instrument({"--count", "100", "--fault", "gone=200"});
     const auto run = download(sim);
     EXPECT_EQ(run.status, 1);
@@ -187,7 +187,7 @@ TEST_F(LinkCommands, anAdapterThatIsPulledOutIsToldAndWhatCameIsKept) {
     EXPECT_FALSE(std::filesystem::exists(out));
 }
 
-TEST_F(LinkCommands, whatNoFileHoldsIsKeptAndSaid) {
+TEST_F(LinkCommands, WhatNoFileHoldsIsKeptAndSaid) {
     const std::string kept = "What was received is kept: the window offers it at its next start, "
                              "and tallyline-cli journal list names it.\n";
     for (const std::vector<std::string>& fault :
@@ -202,7 +202,7 @@ TEST_F(LinkCommands, whatNoFileHoldsIsKeptAndSaid) {
     EXPECT_EQ(saved.err.find(kept), std::string::npos) << saved.err;
 }
 
-TEST_F(LinkCommands, theDateOfTheFieldInitializationIsAnOption) {
+TEST_F(LinkCommands, TheDateOfTheFieldInitializationIsAnOption) {
     const auto sim = instrument({"--count", "30", "--fault", "bad-time", "--interval", "15"});
     const auto without = download(sim);
     EXPECT_EQ(without.status, 1);
@@ -216,7 +216,7 @@ TEST_F(LinkCommands, theDateOfTheFieldInitializationIsAnOption) {
     EXPECT_EQ(TemporaryFolder::read(out).substr(31, 14), "03-14-24 17:30");
 }
 
-TEST_F(LinkCommands, aSimulatedInstrumentBehindAComPortIsStarted) {
+TEST_F(LinkCommands, ASimulatedInstrumentBehindAComPortIsStarted) {
     setenv("XDG_CACHE_HOME", folder.path("cache").c_str(), 1);
     const std::string cache = folder.path("cache/Tallyline");
     std::filesystem::create_directories(folder.path("config/Tallyline"));
@@ -229,7 +229,7 @@ TEST_F(LinkCommands, aSimulatedInstrumentBehindAComPortIsStarted) {
     EXPECT_TRUE(std::filesystem::is_empty(cache));
 }
 
-TEST_F(LinkCommands, interruptIsCancel) {
+TEST_F(LinkCommands, InterruptIsCancel) {
     const auto sim = instrument({"--fault", "silent"});
     testing::Background cli(::testing::binDir() + "/tallyline-cli",
                             {"download", "--port", sim.device(), "--type", "7", "-o", out});
@@ -238,7 +238,7 @@ TEST_F(LinkCommands, interruptIsCancel) {
     EXPECT_FALSE(std::filesystem::exists(out));
 }
 
-TEST_F(LinkCommands, aPortThatIsNotThereIsRefused) {
+TEST_F(LinkCommands, APortThatIsNotThereIsRefused) {
     const auto run = runProgram("tallyline-cli",
                                 {"download", "--port", folder.path("no-device"), "--type", "7", "-o", out});
     EXPECT_EQ(run.status, 1);
@@ -247,7 +247,7 @@ TEST_F(LinkCommands, aPortThatIsNotThereIsRefused) {
                            " is not there. Check that the adapter is plugged in.\n");
 }
 
-TEST_F(LinkCommands, aPlaceThatCannotBeWrittenIsRefusedBeforeTheInstrumentIsAsked) {
+TEST_F(LinkCommands, APlaceThatCannotBeWrittenIsRefusedBeforeTheInstrumentIsAsked) {
     const auto sim = instrument({"--count", "30"});
     for (const char* command : {"download", "recover"}) {
         const auto run = runProgram("tallyline-cli", {command, "--port", sim.device(), "--type", "7", "-o",
@@ -259,7 +259,7 @@ TEST_F(LinkCommands, aPlaceThatCannotBeWrittenIsRefusedBeforeTheInstrumentIsAske
     EXPECT_TRUE(journal(".log").empty());
 }
 
-TEST_F(LinkCommands, aDownloadWorksWithoutTheStandardStreams) {
+TEST_F(LinkCommands, ADownloadWorksWithoutTheStandardStreams) {
     const auto sim = instrument({"--count", "30"});
     const std::string call = ::testing::binDir() + "/tallyline-cli download --port " + sim.device() +
                              " --type 7 -o " + out + " <&- >&- 2>&-";
@@ -268,7 +268,7 @@ TEST_F(LinkCommands, aDownloadWorksWithoutTheStandardStreams) {
     EXPECT_EQ(journal().at(0).substr(0, header.size()), header);
 }
 
-TEST_F(LinkCommands, aModeLetterThatCannotBeReadIsAnOption) {
+TEST_F(LinkCommands, AModeLetterThatCannotBeReadIsAnOption) {
     const auto sim = instrument({"--count", "30", "--mode", "z"});
     const auto without = download(sim);
     EXPECT_EQ(without.status, 1);
@@ -281,7 +281,7 @@ TEST_F(LinkCommands, aModeLetterThatCannotBeReadIsAnOption) {
     EXPECT_EQ(TemporaryFolder::read(out).substr(1, 4), "KWTb");
 }
 
-TEST_F(LinkCommands, theJournalIsListedShownSavedAndDropped) {
+TEST_F(LinkCommands, TheJournalIsListedShownSavedAndDropped) {
     const auto sim = instrument({"--count", "30", "--fault", "damaged-line=2"});
     ASSERT_EQ(download(sim, {"--at", "03-15-24 14:02"}).status, 1);
     const auto call = [](std::vector<std::string> arguments) {
@@ -322,12 +322,12 @@ TEST_F(LinkCommands, theJournalIsListedShownSavedAndDropped) {
     EXPECT_EQ(call({}).status, 2);
 }
 
-TEST_F(LinkCommands, anEmptyJournalIsAnEmptyList) {
+TEST_F(LinkCommands, AnEmptyJournalIsAnEmptyList) {
     EXPECT_EQ(runProgram("tallyline-cli", {"journal", "list", "--json"}).out, "[]\n");
     EXPECT_EQ(runProgram("tallyline-cli", {"journal", "list"}).out, "");
 }
 
-TEST_F(LinkCommands, unknownPortsAndTypesAreWrongUsage) {
+TEST_F(LinkCommands, UnknownPortsAndTypesAreWrongUsage) {
     for (const char* port : {"0", "9", "-1", "x", "11"})
         EXPECT_EQ(
             runProgram("tallyline-cli", {"download", "--port=" + std::string(port), "--type", "7", "-o", out})
@@ -342,7 +342,7 @@ TEST_F(LinkCommands, unknownPortsAndTypesAreWrongUsage) {
     EXPECT_EQ(runProgram("tallyline-cli", {"download", "--port", "1", "-o", out}).status, 2);
 }
 
-TEST_F(LinkCommands, statusPrintsTheResult) {
+TEST_F(LinkCommands, StatusPrintsTheResult) {
     const auto sim = instrument({"--mode", "H"});
     const auto run = runProgram("tallyline-cli", {"status", "--port", sim.device(), "--type", "7"});
     EXPECT_EQ(run.status, 0) << run.err;
@@ -351,7 +351,7 @@ TEST_F(LinkCommands, statusPrintsTheResult) {
                        "     Condition: Stopped\nVbatt = 3.806 volts\n");
 }
 
-TEST_F(LinkCommands, statusPrintsJson) {
+TEST_F(LinkCommands, StatusPrintsJson) {
     const auto sim = instrument({"--mode", "c", "--fault", "low-battery"});
     const auto run = runProgram("tallyline-cli", {"status", "--port", sim.device(), "--type", "7", "--json"});
     EXPECT_EQ(run.status, 0) << run.err;
@@ -362,7 +362,7 @@ TEST_F(LinkCommands, statusPrintsJson) {
         EXPECT_NE(run.out.find(part), std::string::npos) << part << "\n" << run.out;
 }
 
-TEST_F(LinkCommands, timesAreThoseOfTheCall) {
+TEST_F(LinkCommands, TimesAreThoseOfTheCall) {
     const auto sim = instrument({"--count", "30"});
     const auto run = download(sim, {"--at", "03-15-24 14:02"});
     EXPECT_EQ(run.status, 0) << run.err;

@@ -57,7 +57,7 @@ private:
     }
 };
 
-TEST(InitializeCommand, WarnsBeforeAnythingElse) {
+TEST(Initialize, WarnsBeforeAnythingElse) {
     Bench bench(7);
     Session session = bench.session();
     bench.user.connections = 0;
@@ -73,7 +73,7 @@ TEST(InitializeCommand, WarnsBeforeAnythingElse) {
     EXPECT_TRUE(bench.line.calls.empty());
 }
 
-TEST(InitializeCommand, TriesThePortAfterOk) {
+TEST(Initialize, TriesThePortAfterOk) {
     Bench bench(7);
     Session session = bench.session();
     bench.instrument.gCommPort = 4;
@@ -83,7 +83,7 @@ TEST(InitializeCommand, TriesThePortAfterOk) {
     EXPECT_FALSE(bench.line.isOpen());
 }
 
-TEST(InitializeCommand, APortThatCannotBeOpenedEndsItBeforeAnyDialog) {
+TEST(Initialize, APortThatCannotBeOpenedEndsItBeforeAnyDialog) {
     Bench bench(7);
     Session session = bench.session();
     bench.line.failOpen = Fault(8005, "Port already open");

@@ -25,13 +25,13 @@ TEST(ModeLetter, AnIntervalThatThereIsNoneForIsAFault) {
     EXPECT_THROW(modeLetter({0, true, true}), Fault);
 }
 
-TEST(InitString, HasEighteenCharactersAndEndsWithCr) {
+TEST(ModeLetter, HasEighteenCharactersAndEndsWithCr) {
     EXPECT_EQ(initString('i', fiveAfterTwo), "03-15-24 14:05 c1\r");
     for (char letter = 'a'; letter <= 'l'; ++letter)
         EXPECT_EQ(initString(letter, fiveAfterTwo).size(), 18U) << letter;
 }
 
-TEST(InitString, LettersAfterFAreReducedBySixWithTheDigitOne) {
+TEST(ModeLetter, LettersAfterFAreReducedBySixWithTheDigitOne) {
     const std::string sent = "abcdefabcdef";
     for (char letter = 'a'; letter <= 'l'; ++letter) {
         const std::string text = initString(letter, fiveAfterTwo);
@@ -40,24 +40,24 @@ TEST(InitString, LettersAfterFAreReducedBySixWithTheDigitOne) {
     }
 }
 
-TEST(InitString, FifteenMinutesAverageContinuousSendsAWithZero) {
+TEST(ModeLetter, FifteenMinutesAverageContinuousSendsAWithZero) {
     EXPECT_EQ(initString(modeLetter({15, false, false}), fiveAfterTwo), "03-15-24 14:05 a0\r");
 }
 
-TEST(InitString, FiveMinutesMinMaxAvgContinuousBuildsHAndSendsBWithOne) {
+TEST(ModeLetter, FiveMinutesMinMaxAvgContinuousBuildsHAndSendsBWithOne) {
     EXPECT_EQ(modeLetter({5, true, false}), 'h');
     EXPECT_EQ(initString('h', fiveAfterTwo), "03-15-24 14:05 b1\r");
 }
 
-TEST(InitString, OneMinuteMinMaxAvgStopSendsFWithOne) {
+TEST(ModeLetter, OneMinuteMinMaxAvgStopSendsFWithOne) {
     EXPECT_EQ(initString(modeLetter({1, true, true}), fiveAfterTwo), "03-15-24 14:05 f1\r");
 }
 
-TEST(InitString, ABlankLetterStaysBlankWithZero) {
+TEST(ModeLetter, ABlankLetterStaysBlankWithZero) {
     EXPECT_EQ(initString(' ', fiveAfterTwo), "03-15-24 14:05  0\r");
 }
 
-TEST(InitString, TheClockOfTheComputerHasTwoDigitFields) {
+TEST(ModeLetter, TheClockOfTheComputerHasTwoDigitFields) {
     EXPECT_EQ(initString('a', toReadingTime({2000, 1, 2, 3, 4})), "01-02-00 03:04 a0\r");
     EXPECT_EQ(initString('a', toReadingTime({1999, 12, 31, 23, 59})), "12-31-99 23:59 a0\r");
 }

@@ -35,7 +35,7 @@ public:
     JournalState kept() const { return journal.receptions.back().state; }
 };
 
-TEST(RecoverCommand, RefusesAutomaticSelectionAndOpensNothing) {
+TEST(Recover, RefusesAutomaticSelectionAndOpensNothing) {
     Recovery test(11);
     EXPECT_FALSE(RecoverSession(test.session).prepare());
     EXPECT_EQ(
@@ -52,7 +52,7 @@ TEST(RecoverCommand, RefusesAutomaticSelectionAndOpensNothing) {
     EXPECT_TRUE(test.line.calls.empty());
 }
 
-TEST(RecoverCommand, WarnsTriesThePortAndPrompts) {
+TEST(Recover, WarnsTriesThePortAndPrompts) {
     Recovery test(3);
     EXPECT_TRUE(RecoverSession(test.session).prepare());
     EXPECT_EQ(test.user.told(), std::vector<std::string>{"                           CAUTION  \r"
@@ -70,7 +70,7 @@ TEST(RecoverCommand, WarnsTriesThePortAndPrompts) {
                                                            "     Hit 'Cancel' or use ESC key to quit     "});
 }
 
-TEST(RecoverCommand, APortThatCannotBeOpenedEndsIt) {
+TEST(Recover, APortThatCannotBeOpenedEndsIt) {
     Recovery test;
     test.line.failOpen = Fault(70, "Permission denied");
     EXPECT_FALSE(RecoverSession(test.session).prepare());

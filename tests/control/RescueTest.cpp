@@ -31,7 +31,7 @@ struct ControlRescueTest : ::testing::Test {
     SessionResult<PendingDownload> run() { return rescue(journal, journal.list().front(), prompt); }
 };
 
-TEST_F(ControlRescueTest, aRecoverReceptionGetsTheTimeAtWhichItStopped) {
+TEST_F(ControlRescueTest, ARecoverReceptionGetsTheTimeAtWhichItStopped) {
     receive("p" + memory('F', 60).substr(1));
     const auto recovered = run();
     ASSERT_TRUE(recovered);
@@ -41,7 +41,7 @@ TEST_F(ControlRescueTest, aRecoverReceptionGetsTheTimeAtWhichItStopped) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(ControlRescueTest, aFullContinuousMemoryIsRefusedAsTheCommandRefusesIt) {
+TEST_F(ControlRescueTest, AFullContinuousMemoryIsRefusedAsTheCommandRefusesIt) {
     receive(memory('C', 10710));
     const auto recovered = run();
     ASSERT_FALSE(recovered);
@@ -52,14 +52,14 @@ TEST_F(ControlRescueTest, aFullContinuousMemoryIsRefusedAsTheCommandRefusesIt) {
     EXPECT_EQ(journal.receptions[0].state, JournalState::received);
 }
 
-TEST_F(ControlRescueTest, theMemoryIsThatOfTheReception) {
+TEST_F(ControlRescueTest, TheMemoryIsThatOfTheReception) {
     receive(memory('C', 294), {.instrumentType = 9, .maxSamples = 294, .command = "recover"});
     EXPECT_FALSE(run());
     receive(memory('C', 294), {.instrumentType = 7, .command = "recover"});
     EXPECT_TRUE(run());
 }
 
-TEST_F(ControlRescueTest, whatIsNoInstrumentToRecoverIsRefused) {
+TEST_F(ControlRescueTest, WhatIsNoInstrumentToRecoverIsRefused) {
     receive(header("PQX", 'F') + "\r\nX: 1\x1a");
     EXPECT_FALSE(run());
     receive("zzz\x1a");
@@ -72,20 +72,20 @@ TEST_F(ControlRescueTest, whatIsNoInstrumentToRecoverIsRefused) {
                                   "Not Voltmeter"}));
 }
 
-TEST_F(ControlRescueTest, aRecoverThatWasCutShortHasNoStopTime) {
+TEST_F(ControlRescueTest, ARecoverThatWasCutShortHasNoStopTime) {
     receive(memory('F', 60).substr(0, 200));
     EXPECT_FALSE(run());
     EXPECT_EQ(prompt.shown.size(), 1U);
 }
 
-TEST_F(ControlRescueTest, aDownloadIsJudgedAsADownload) {
+TEST_F(ControlRescueTest, ADownloadIsJudgedAsADownload) {
     receive(memory('F', 60), {.instrumentType = 7});
     const auto pending = run();
     ASSERT_TRUE(pending);
     EXPECT_EQ(pending->text, memory('F', 60));
 }
 
-TEST_F(ControlRescueTest, anAcceptedTextIsTakenAsItIs) {
+TEST_F(ControlRescueTest, AnAcceptedTextIsTakenAsItIs) {
     receive(memory('F', 60));
     ASSERT_TRUE(run());
     EXPECT_EQ(run()->text, memory('F', 60, "03-15-24 15:05"));

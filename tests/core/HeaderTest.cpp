@@ -10,7 +10,7 @@ namespace {
 const std::string currentHeader = "PQVC   4127                   03-15-24 14:05   Vbatt 3E8";
 const std::string olderHeader = "PQXa   1234" + std::string(35, '.') + "03-15-99 10:07" + "....";
 
-TEST(HeaderTest, everyFieldIsCutAtItsColumns) {
+TEST(HeaderTest, EveryFieldIsCutAtItsColumns) {
     EXPECT_EQ(headerField(currentHeader, column::model), "PQV");
     EXPECT_EQ(headerField(currentHeader, column::type), "V");
     EXPECT_EQ(headerField(currentHeader, column::mode), "C");
@@ -22,13 +22,13 @@ TEST(HeaderTest, everyFieldIsCutAtItsColumns) {
     EXPECT_EQ(headerField(olderHeader, column::olderTime), "03-15-99 10:07");
 }
 
-TEST(HeaderTest, aFieldBeyondTheEndIsAsMuchAsThereIs) {
+TEST(HeaderTest, AFieldBeyondTheEndIsAsMuchAsThereIs) {
     EXPECT_EQ(headerField("PQXa   12", column::serial), "12");
     EXPECT_EQ(headerField("PQXa", column::serial), "");
     EXPECT_EQ(headerField("", column::model), "");
 }
 
-TEST(HeaderTest, aFamilyInitialIsPHOrKInEitherCase) {
+TEST(HeaderTest, AFamilyInitialIsPHOrKInEitherCase) {
     const std::string initials = "PHKphk";
     for (int code = 0; code < 256; ++code) {
         const char c = static_cast<char>(code);
@@ -36,7 +36,7 @@ TEST(HeaderTest, aFamilyInitialIsPHOrKInEitherCase) {
     }
 }
 
-TEST(HeaderTest, theModeLetterIsLoweredAndABlankIsA) {
+TEST(HeaderTest, TheModeLetterIsLoweredAndABlankIsA) {
     EXPECT_EQ(modeLetterOf("KWTH"), 'h');
     EXPECT_EQ(modeLetterOf("KWTc"), 'c');
     EXPECT_EQ(modeLetterOf("HVN "), 'a');
@@ -47,20 +47,20 @@ TEST(HeaderTest, theModeLetterIsLoweredAndABlankIsA) {
     EXPECT_FALSE(isRunning("KWT"));
 }
 
-TEST(HeaderTest, theTimeStandsFurtherRightInTheOlderLayout) {
+TEST(HeaderTest, TheTimeStandsFurtherRightInTheOlderLayout) {
     EXPECT_EQ(timeField(currentHeader).at, 30U);
     EXPECT_EQ(timeField(olderHeader).at, 46U);
     EXPECT_EQ(timeOf(currentHeader), toReadingTime({2024, 3, 15, 14, 5}));
     EXPECT_EQ(timeOf(olderHeader), toReadingTime({1999, 3, 15, 10, 7}));
 }
 
-TEST(HeaderTest, onlyAHeaderOfMoreThan51CharactersCanBeOfTheOlderLayout) {
+TEST(HeaderTest, OnlyAHeaderOfMoreThan51CharactersCanBeOfTheOlderLayout) {
     EXPECT_FALSE(isOlderLayout(olderHeader.substr(0, 51)));
     EXPECT_TRUE(isOlderLayout(olderHeader.substr(0, 52)));
     EXPECT_FALSE(isOlderLayout(currentHeader));
 }
 
-TEST(HeaderTest, aFieldThatIsNoTimeOrNotThereGivesNothing) {
+TEST(HeaderTest, AFieldThatIsNoTimeOrNotThereGivesNothing) {
     std::string wrong = currentHeader;
     wrong.replace(30, 14, "13-15-24 14:05");
     EXPECT_EQ(timeOf(wrong), std::nullopt);
@@ -71,7 +71,7 @@ TEST(HeaderTest, aFieldThatIsNoTimeOrNotThereGivesNothing) {
     EXPECT_EQ(timeOf(""), std::nullopt);
 }
 
-TEST(HeaderTest, theOlderLayoutsTimeIsCopiedToWhereItStandsToday) {
+TEST(HeaderTest, TheOlderLayoutsTimeIsCopiedToWhereItStandsToday) {
     std::string header = olderHeader;
     EXPECT_TRUE(repairOlderLayout(header));
     EXPECT_EQ(header,
@@ -84,14 +84,14 @@ TEST(HeaderTest, theOlderLayoutsTimeIsCopiedToWhereItStandsToday) {
     EXPECT_EQ(header, olderHeader.substr(0, 59));
 }
 
-TEST(HeaderTest, aTimeFillsAShortHeaderUp) {
+TEST(HeaderTest, ATimeFillsAShortHeaderUp) {
     std::string header = "PQXa   1234";
     putTime(header, column::time, toReadingTime({2025, 12, 1, 0, 30}));
     EXPECT_EQ(header, "PQXa   1234" + std::string(19, ' ') + "12-01-25 00:30");
 }
 
 // 0.003656 volts a step and 0.15 volts at 0: 3E8 is 1,000, FFF is 4,095.
-TEST(HeaderTest, theBatteryIsThreeHexadecimalDigitsBehindItsLabel) {
+TEST(HeaderTest, TheBatteryIsThreeHexadecimalDigitsBehindItsLabel) {
     EXPECT_DOUBLE_EQ(batteryVolts(currentHeader).value(), 3.806);
     EXPECT_DOUBLE_EQ(batteryVolts(currentHeader.substr(0, 53) + "FFF").value(), 15.12132);
     EXPECT_DOUBLE_EQ(batteryVolts(currentHeader.substr(0, 53) + "000").value(), 0.15);

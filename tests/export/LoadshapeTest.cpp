@@ -63,13 +63,13 @@ TEST(Loadshape, AFileNameWithBlanksStandsInQuotes) {
               std::string::npos);
 }
 
-TEST(PlayerText, HasATimeWithSecondsAndAValueALine) {
+TEST(Loadshape, HasATimeWithSecondsAndAValueALine) {
     Recordings recordings;
     addFile(recordings, "a.dat", {105, 20});
     EXPECT_EQ(playerText(recordings).value(), "2024-03-15 14:00:00,10.5\n2024-03-15 14:15:00,2.0\n");
 }
 
-TEST(PlayerText, OfMinMaxAvgTheAverages) {
+TEST(Loadshape, OfMinMaxAvgTheAverages) {
     Recordings recordings;
     addFile(recordings, "g.dat", {20, 30, 10, 40, 60, 5}, {.letter = 'i'});
     EXPECT_EQ(playerText(recordings).value(), "2024-03-15 14:00:00,2.0\n2024-03-15 14:01:00,4.0\n");

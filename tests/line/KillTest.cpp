@@ -88,7 +88,7 @@ struct KillTest : ::testing::Test {
     }
 };
 
-TEST_F(KillTest, theProgramIsKilledAtFiftyBytes) {
+TEST_F(KillTest, TheProgramIsKilledAtFiftyBytes) {
     for (int i = 0; i < 50; ++i) {
         const std::size_t count = randomByte();
         BackgroundInstrument sim(bin, options({"--fault", "stall=" + std::to_string(count) + ":60000"}));
@@ -100,7 +100,7 @@ TEST_F(KillTest, theProgramIsKilledAtFiftyBytes) {
     }
 }
 
-TEST_F(KillTest, theProgramIsKilledWhileCharactersCome) {
+TEST_F(KillTest, TheProgramIsKilledWhileCharactersCome) {
     for (int i = 0; i < 10; ++i) {
         Background sim(bin + "/tallyline-sim", {"--count", "300", "--clock", "03-15-24 14:05", "--stopped",
                                                 "--plug", "0.05", "--quiet", "--with-parent"});
@@ -117,7 +117,7 @@ TEST_F(KillTest, theProgramIsKilledWhileCharactersCome) {
     }
 }
 
-TEST_F(KillTest, theAdapterIsPulledOutAtFiftyBytes) {
+TEST_F(KillTest, TheAdapterIsPulledOutAtFiftyBytes) {
     for (int i = 0; i < 50; ++i) {
         const std::size_t count = randomByte();
         BackgroundInstrument sim(bin, options({"--fault", "gone=" + std::to_string(count)}));
@@ -128,7 +128,7 @@ TEST_F(KillTest, theAdapterIsPulledOutAtFiftyBytes) {
     }
 }
 
-TEST_F(KillTest, thePortOpensAgainAfterAKill) {
+TEST_F(KillTest, ThePortOpensAgainAfterAKill) {
     BackgroundInstrument sim(bin, options({}));
     Background first(bin + "/tallyline-cli", download(sim, "first.dat"));
     std::this_thread::sleep_for(std::chrono::milliseconds(40));
@@ -140,7 +140,7 @@ TEST_F(KillTest, thePortOpensAgainAfterAKill) {
     EXPECT_EQ(TemporaryFolder::read(folder.path("second.dat")), "\"" + whole + "\"\r\n");
 }
 
-TEST_F(KillTest, anOrdinaryUserDownloadsToo) {
+TEST_F(KillTest, AnOrdinaryUserDownloadsToo) {
     const TemporaryFolder own;
     chmod(own.path("").c_str(), 0777);
     const std::string expected = "\"" + whole + "\"\r\n";

@@ -25,7 +25,7 @@ int initialize(SessionDesk& desk, char mode) {
     return count;
 }
 
-TEST(StatusOnTheLine, ShowsTheFieldsOfTheHeader) {
+TEST(OtherSessionsLine, ShowsTheFieldsOfTheHeader) {
     sim::InstrumentSetup setup = quickInstrument(7, 100);
     setup.memory = sim::filledMemory('i', 10710, 99, setup.clock);
     const LiveInstrument instrument(setup);
@@ -43,7 +43,7 @@ TEST(StatusOnTheLine, ShowsTheFieldsOfTheHeader) {
     EXPECT_FALSE(desk.line.isOpen());
 }
 
-TEST(InitializationOnTheLine, EveryModeIsSetAndReadBack) {
+TEST(OtherSessionsLine, EveryModeIsSetAndReadBack) {
     for (char mode = 'a'; mode <= 'l'; ++mode) {
         LiveInstrument instrument(quickInstrument(7, 50));
         SessionDesk desk(instrument.live.path(), 7);
@@ -58,7 +58,7 @@ TEST(InitializationOnTheLine, EveryModeIsSetAndReadBack) {
     }
 }
 
-TEST(InitializationOnTheLine, TheBlankModeIsSetToo) {
+TEST(OtherSessionsLine, TheBlankModeIsSetToo) {
     LiveInstrument instrument(quickInstrument(1, 50));
     SessionDesk desk(instrument.live.path(), 1);
     desk.prompt.answers = {Answer::Ok, Answer::No};
@@ -67,7 +67,7 @@ TEST(InitializationOnTheLine, TheBlankModeIsSetToo) {
     EXPECT_EQ(instrument.instrument.initString().substr(14), "  0\r");
 }
 
-TEST(InitializationOnTheLine, TwoInstrumentsOneAfterTheOther) {
+TEST(OtherSessionsLine, TwoInstrumentsOneAfterTheOther) {
     LiveInstrument instrument(quickInstrument(8, 50));
     SessionDesk desk(instrument.live.path(), 8);
     desk.prompt.answers = {Answer::Ok, Answer::Yes, Answer::Ok, Answer::No};
@@ -85,7 +85,7 @@ sim::InstrumentSetup slowToAnswer(std::int64_t answerTime) {
     return setup;
 }
 
-TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
+TEST(OtherSessionsLine, ACancelBeforeTheAnswerErasesNothing) {
     LiveInstrument instrument(slowToAnswer(60'000));
     SessionDesk desk(instrument.live.path(), 7);
     std::atomic<bool> commanded = false;
@@ -111,7 +111,7 @@ TEST(InitializationOnTheLine, ACancelBeforeTheAnswerErasesNothing) {
     EXPECT_EQ(instrument.instrument.erasures(), 0);
 }
 
-TEST(InitializationOnTheLine, TheSameInstrumentIsErasedWhenItAnswers) {
+TEST(OtherSessionsLine, TheSameInstrumentIsErasedWhenItAnswers) {
     LiveInstrument instrument(slowToAnswer(300));
     SessionDesk desk(instrument.live.path(), 7);
     desk.prompt.answers = {Answer::Ok, Answer::No};
@@ -121,7 +121,7 @@ TEST(InitializationOnTheLine, TheSameInstrumentIsErasedWhenItAnswers) {
     EXPECT_EQ(instrument.instrument.erasures(), 1);
 }
 
-TEST(InitializationOnTheLine, EveryKindOfInstrumentIsSet) {
+TEST(OtherSessionsLine, EveryKindOfInstrumentIsSet) {
     struct Kind {
         sim::BeforeAnswer beforeAnswer;
         bool strict;
@@ -144,7 +144,7 @@ TEST(InitializationOnTheLine, EveryKindOfInstrumentIsSet) {
     }
 }
 
-TEST(InitializationOnTheLine, ThePulledAdapterIsTold) {
+TEST(OtherSessionsLine, ThePulledAdapterIsTold) {
     sim::InstrumentSetup setup = quickInstrument(7, 50);
     setup.faults.gone = 30;
     LiveInstrument instrument(setup);
@@ -170,7 +170,7 @@ SessionResult<PendingDownload> recover(SessionDesk& desk) {
     return session.RecoverProc(desk.files, desk.folder.path().toStdString() + "/temp.dat");
 }
 
-TEST(RecoverOnTheLine, WritesTheStopTimeIntoTheHeader) {
+TEST(OtherSessionsLine, WritesTheStopTimeIntoTheHeader) {
     // 60 readings of a minute each, begun at 11:00: stopped at 12:00.
     const sim::InstrumentSetup setup = batteryFailed('f', 60);
     const LiveInstrument instrument(setup);
@@ -183,7 +183,7 @@ TEST(RecoverOnTheLine, WritesTheStopTimeIntoTheHeader) {
     EXPECT_EQ(recovered->text, expected);
 }
 
-TEST(RecoverOnTheLine, AFullStopMemoryIsRecoveredAndAFullLoopIsNot) {
+TEST(OtherSessionsLine, AFullStopMemoryIsRecoveredAndAFullLoopIsNot) {
     const LiveInstrument stopped(batteryFailed('f', 10710));
     SessionDesk good(stopped.live.path(), 7);
     EXPECT_TRUE(recover(good)) << good.lastText();
@@ -194,7 +194,7 @@ TEST(RecoverOnTheLine, AFullStopMemoryIsRecoveredAndAFullLoopIsNot) {
     EXPECT_NE(bad.lastText().find("CONTINUOUS DATA; NOT RECOVERABLE"), std::string::npos);
 }
 
-TEST(RecoverOnTheLine, AnInstrumentWithAUsableClockIsNotTaken) {
+TEST(OtherSessionsLine, AnInstrumentWithAUsableClockIsNotTaken) {
     const LiveInstrument instrument(quickInstrument(7, 60));
     SessionDesk desk(instrument.live.path(), 7);
     EXPECT_FALSE(recover(desk));

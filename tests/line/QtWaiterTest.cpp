@@ -135,7 +135,7 @@ TEST(QtWaiter, AClosedPortOnlyWaits) {
     EXPECT_EQ(port.waiter.until(port.waiter.now() + 30), Wake::due);
 }
 
-TEST(QtWaiterInterrupt, CtrlCCancelsTheWait) {
+TEST(QtWaiter, CtrlCCancelsTheWait) {
     OpenLine port;
     port.open();
     {

@@ -229,12 +229,12 @@ TEST(SerialLine, WritingToALineThatHasGoneClosesItToo) {
     EXPECT_NE(port.line.problem(), "");
 }
 
-TEST(SerialLineRefusal, ADeviceThatIsNotThere) {
+TEST(SerialLine, ADeviceThatIsNotThere) {
     EXPECT_EQ(refusal("/dev/no-such-device"),
               "8002 COM2 (/dev/no-such-device) is not there. Check that the adapter is plugged in.");
 }
 
-TEST(SerialLineRefusal, WhatIsNoSerialLine) {
+TEST(SerialLine, WhatIsNoSerialLine) {
     EXPECT_EQ(refusal("/dev/null"), "8002 COM2 (/dev/null) is not a serial line.");
     EXPECT_EQ(refusal("/tmp"), "8002 COM2 (/tmp) is not a serial line.");
     const testing::TemporaryFolder folder;
@@ -243,7 +243,7 @@ TEST(SerialLineRefusal, WhatIsNoSerialLine) {
     EXPECT_EQ(refusal("").substr(0, 4), "8002");
 }
 
-TEST(SerialLineRefusal, ALineThatAnotherProgramHasLocked) {
+TEST(SerialLine, ALineThatAnotherProgramHasLocked) {
     EXPECT_EQ(asOrdinaryUser([] {
                   const sim::Pty pty;
                   const int other = open(pty.path().c_str(), O_RDWR | O_NOCTTY);
@@ -254,7 +254,7 @@ TEST(SerialLineRefusal, ALineThatAnotherProgramHasLocked) {
               "8005 COM2 (DEVICE) is in use by another program.");
 }
 
-TEST(SerialLineRefusal, ALineThatIsOpenUnderAnotherName) {
+TEST(SerialLine, ALineThatIsOpenUnderAnotherName) {
     const OpenLine port;
     const testing::TemporaryFolder folder;
     const std::string link = folder.path("other-name");
@@ -265,7 +265,7 @@ TEST(SerialLineRefusal, ALineThatIsOpenUnderAnotherName) {
     EXPECT_EQ(refusal(link), "8005 COM2 (" + link + ") is in use by another program.");
 }
 
-TEST(SerialLineRefusal, ALineWithoutPermission) {
+TEST(SerialLine, ALineWithoutPermission) {
     EXPECT_EQ(
         asOrdinaryUser([] {
             const sim::Pty pty;
@@ -276,7 +276,7 @@ TEST(SerialLineRefusal, ALineWithoutPermission) {
         "70 There is no permission to use COM2 (DEVICE). Add yourself to group dialout and log in again.");
 }
 
-TEST(SerialLineRefusal, OpeningTwiceIsRefusedAndChangesNothing) {
+TEST(SerialLine, OpeningTwiceIsRefusedAndChangesNothing) {
     OpenLine port;
     port.open();
     EXPECT_THROW(port.open(), Fault);

@@ -195,7 +195,7 @@ TEST(SimProgram, FilesThatCannotBeReadEndWithOneAndWords) {
     }
 }
 
-TEST(SimulatedInstrument, RunsForAsLongAsItIsWanted) {
+TEST(SimProgram, RunsForAsLongAsItIsWanted) {
     const QString link = QString::fromStdString(simulatedInstrument());
     {
         SimulatedInstrument instrument;

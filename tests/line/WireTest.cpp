@@ -165,7 +165,7 @@ TEST(Wire, AUserWhoWasKilledDoesNotLockTheOthersOut) {
               "opened closed locked refused free");
 }
 
-TEST(Pty, LinksReplaceLinksAndNothingElse) {
+TEST(Wire, LinksReplaceLinksAndNothingElse) {
     const testing::TemporaryFolder folder;
     const std::string link = folder.path("line-link");
     {
@@ -185,7 +185,7 @@ TEST(Pty, LinksReplaceLinksAndNothingElse) {
     std::filesystem::remove(link);
 }
 
-TEST(PortList, TellsWhatADeviceIs) {
+TEST(Wire, TellsWhatADeviceIs) {
     const sim::Pty pty;
     const PortList ports;
     EXPECT_EQ(ports.presence(pty.path()), PortPresence::free);
@@ -200,7 +200,7 @@ TEST(PortList, TellsWhatADeviceIs) {
     close(user);
 }
 
-TEST(PortList, TellsOfMissingPermission) {
+TEST(Wire, TellsOfMissingPermission) {
     EXPECT_EQ(asOrdinaryUser([] {
                   const sim::Pty pty;
                   chmod(pty.path().c_str(), 0);
@@ -209,7 +209,7 @@ TEST(PortList, TellsOfMissingPermission) {
               "no permission: add yourself to group dialout and log in again");
 }
 
-TEST(PortList, OffersTheSimulatedInstrument) {
+TEST(Wire, OffersTheSimulatedInstrument) {
     // The program stands beside the tests.
     const auto devices = PortList().devices();
     ASSERT_FALSE(devices.empty());

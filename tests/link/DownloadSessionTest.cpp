@@ -37,7 +37,7 @@ struct DownloadSessionTest : ::testing::Test, testing::LinkBench {
     }
 };
 
-TEST_F(DownloadSessionTest, aPortThatCannotBeOpenedEndsTheCommand) {
+TEST_F(DownloadSessionTest, APortThatCannotBeOpenedEndsTheCommand) {
     line.failOpen = Fault(8002, "Invalid port number");
     line.openProblem = "COM2 (/dev/ttyS1) is not there. Check that the adapter is plugged in.";
     EXPECT_FALSE(prepare());
@@ -47,7 +47,7 @@ TEST_F(DownloadSessionTest, aPortThatCannotBeOpenedEndsTheCommand) {
     EXPECT_TRUE(panel.prompts.empty());
 }
 
-TEST_F(DownloadSessionTest, thePromptStandsInThePanelAfterTheProbe) {
+TEST_F(DownloadSessionTest, ThePromptStandsInThePanelAfterTheProbe) {
     EXPECT_TRUE(prepare());
     EXPECT_EQ(panel.prompts, std::vector<std::string>{connectionPrompt(instrument)});
     EXPECT_EQ(line.count("CommPort 2"), 1);
@@ -56,7 +56,7 @@ TEST_F(DownloadSessionTest, thePromptStandsInThePanelAfterTheProbe) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(DownloadSessionTest, voltageRecordersAskForTheirDisplaySwitch) {
+TEST_F(DownloadSessionTest, VoltageRecordersAskForTheirDisplaySwitch) {
     for (const std::int16_t type : std::initializer_list<std::int16_t>{3, 6}) {
         instrument.instSelection = type;
         prompt.answers = {Answer::Ok, Answer::Cancel};
@@ -74,7 +74,7 @@ TEST_F(DownloadSessionTest, voltageRecordersAskForTheirDisplaySwitch) {
     }
 }
 
-TEST_F(DownloadSessionTest, theRunSpecificationIsReadBeforeTheDialog) {
+TEST_F(DownloadSessionTest, TheRunSpecificationIsReadBeforeTheDialog) {
     files.contents["./runspec.txt"] = "enableErrorReport=False\r\n";
     EXPECT_TRUE(prepare());
     ASSERT_EQ(prompt.shown.size(), 1U);
@@ -84,14 +84,14 @@ TEST_F(DownloadSessionTest, theRunSpecificationIsReadBeforeTheDialog) {
     EXPECT_EQ(prompt.texts(), (std::vector<std::string>{removeCableText(), proceed}));
 }
 
-TEST_F(DownloadSessionTest, aRunSpecificationThatCannotBeReadIsAFault) {
+TEST_F(DownloadSessionTest, ARunSpecificationThatCannotBeReadIsAFault) {
     files.contents["./runspec.txt"] = "";
     files.failRead = fault::permissionDenied();
     EXPECT_THROW(prepare(), Fault);
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(DownloadSessionTest, aCleanDownloadIsAcceptedWithoutAQuestion) {
+TEST_F(DownloadSessionTest, ACleanDownloadIsAcceptedWithoutAQuestion) {
     sends(memory());
     const auto pending = download.DownLoadProc();
     ASSERT_TRUE(pending);
@@ -110,13 +110,13 @@ TEST_F(DownloadSessionTest, aCleanDownloadIsAcceptedWithoutAQuestion) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, nothingIsSentToTheInstrument) {
+TEST_F(DownloadSessionTest, NothingIsSentToTheInstrument) {
     sends(memory());
     download.DownLoadProc();
     EXPECT_EQ(line.written, "");
 }
 
-TEST_F(DownloadSessionTest, theJournalHoldsWhatCameAndWhatBecameOfIt) {
+TEST_F(DownloadSessionTest, TheJournalHoldsWhatCameAndWhatBecameOfIt) {
     sends("noise " + memory());
     download.DownLoadProc();
     const auto& reception = journal.receptions.at(0);
@@ -130,7 +130,7 @@ TEST_F(DownloadSessionTest, theJournalHoldsWhatCameAndWhatBecameOfIt) {
     EXPECT_EQ(reception.accepted, "noise " + memory());
 }
 
-TEST_F(DownloadSessionTest, aLowerCaseInitialIsStoredInUpperCaseAndWarnsAtTheEnd) {
+TEST_F(DownloadSessionTest, ALowerCaseInitialIsStoredInUpperCaseAndWarnsAtTheEnd) {
     sends("k" + memory().substr(1));
     const auto pending = download.DownLoadProc();
     ASSERT_TRUE(pending);
@@ -140,12 +140,12 @@ TEST_F(DownloadSessionTest, aLowerCaseInitialIsStoredInUpperCaseAndWarnsAtTheEnd
     EXPECT_EQ(prompt.shown.back().title, "WARNING");
 }
 
-TEST_F(DownloadSessionTest, theModelCodeIsPutIntoUpperCase) {
+TEST_F(DownloadSessionTest, TheModelCodeIsPutIntoUpperCase) {
     sends("kwt" + memory().substr(3));
     EXPECT_EQ(download.DownLoadProc()->text, memory());
 }
 
-TEST_F(DownloadSessionTest, errorsAreAskedAboutAndNoDropsTheText) {
+TEST_F(DownloadSessionTest, ErrorsAreAskedAboutAndNoDropsTheText) {
     prompt.answers = {Answer::No};
     sends(header() + "\rT: 1 2 3\n\x1a");
     EXPECT_FALSE(download.DownLoadProc());
@@ -154,7 +154,7 @@ TEST_F(DownloadSessionTest, errorsAreAskedAboutAndNoDropsTheText) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, yesAcceptsATextWithErrors) {
+TEST_F(DownloadSessionTest, YesAcceptsATextWithErrors) {
     prompt.answers = {Answer::Yes};
     sends(header() + "\rT: 1 2 3\n\x1a");
     EXPECT_TRUE(download.DownLoadProc());
@@ -162,21 +162,21 @@ TEST_F(DownloadSessionTest, yesAcceptsATextWithErrors) {
                                                         removeCableText(), proceed}));
 }
 
-TEST_F(DownloadSessionTest, aTextWithoutTheMarkHasNoTerminatorButCanBeKept) {
+TEST_F(DownloadSessionTest, ATextWithoutTheMarkHasNoTerminatorButCanBeKept) {
     prompt.answers = {Answer::Yes};
     sends(header() + "\r" + lines(3) + "\x1a");
     EXPECT_TRUE(download.DownLoadProc());
     EXPECT_EQ(prompt.texts().front(), errorReport({.ctrlZ = 0}));
 }
 
-TEST_F(DownloadSessionTest, aStalledDownloadGoesToValidation) {
+TEST_F(DownloadSessionTest, AStalledDownloadGoesToValidation) {
     prompt.answers = {Answer::Yes};
     sends(header() + "\rT:" + lines(30));
     EXPECT_TRUE(download.DownLoadProc());
     EXPECT_EQ(prompt.texts().front(), errorReport({.ctrlZ = 0}));
 }
 
-TEST_F(DownloadSessionTest, aTextWithoutAFamilyInitialIsBadData) {
+TEST_F(DownloadSessionTest, ATextWithoutAFamilyInitialIsBadData) {
     sends("0123456789\x1a");
     EXPECT_FALSE(download.DownLoadProc());
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
@@ -184,7 +184,7 @@ TEST_F(DownloadSessionTest, aTextWithoutAFamilyInitialIsBadData) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, binaryNoiseEndsWithItsMessage) {
+TEST_F(DownloadSessionTest, BinaryNoiseEndsWithItsMessage) {
     std::string noise;
     for (int i = 0; i < 40000; ++i)
         noise += static_cast<char>(200 + i % 50);
@@ -193,14 +193,14 @@ TEST_F(DownloadSessionTest, binaryNoiseEndsWithItsMessage) {
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
 }
 
-TEST_F(DownloadSessionTest, tooManyBadCharactersAreAFaultAndTheTextWaitsInTheJournal) {
+TEST_F(DownloadSessionTest, TooManyBadCharactersAreAFaultAndTheTextWaitsInTheJournal) {
     sends(header() + "\rT:" + std::string(40000, 'x') + "\x1a");
     EXPECT_THROW(download.DownLoadProc(), Fault);
     EXPECT_EQ(state(), JournalState::received);
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, aDamagedModeLetterIsToldAndGivenByTheUser) {
+TEST_F(DownloadSessionTest, ADamagedModeLetterIsToldAndGivenByTheUser) {
     prompt.inputs = {"what?", "5 min Min/Max/Avg, stop when full"};
     sends(memory(2, header("KWT", '#')));
     const auto pending = download.DownLoadProc();
@@ -213,7 +213,7 @@ TEST_F(DownloadSessionTest, aDamagedModeLetterIsToldAndGivenByTheUser) {
     EXPECT_EQ(prompt.asked[0].choices.front(), "15 min Average, continuous");
 }
 
-TEST_F(DownloadSessionTest, withoutAModeTheTextWaitsInTheJournal) {
+TEST_F(DownloadSessionTest, WithoutAModeTheTextWaitsInTheJournal) {
     prompt.inputs = {std::nullopt};
     sends(memory(2, header("KWT", 'Z')));
     const auto pending = download.DownLoadProc();
@@ -223,7 +223,7 @@ TEST_F(DownloadSessionTest, withoutAModeTheTextWaitsInTheJournal) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, charactersBehindAStrayEndMarkAreWarnedOfBeforeAnythingIsSaved) {
+TEST_F(DownloadSessionTest, CharactersBehindAStrayEndMarkAreWarnedOfBeforeAnythingIsSaved) {
     // One line of ten and the mark; nine more lines follow it.
     sends(memory(1) + lines(9) + "\x1a");
     const auto pending = download.DownLoadProc();
@@ -238,7 +238,7 @@ TEST_F(DownloadSessionTest, charactersBehindAStrayEndMarkAreWarnedOfBeforeAnythi
     EXPECT_EQ(journal.receptions[0].parts.back(), memory(1) + lines(9) + "\x1a");
 }
 
-TEST_F(DownloadSessionTest, aFaultOfTheReceptionIsNoBadPort) {
+TEST_F(DownloadSessionTest, AFaultOfTheReceptionIsNoBadPort) {
     struct FaultyPanel : testing::RecordingPanel {
         void progressText(const std::string&) override { throw fault::overflow(); }
     } faulty;
@@ -248,7 +248,7 @@ TEST_F(DownloadSessionTest, aFaultOfTheReceptionIsNoBadPort) {
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(DownloadSessionTest, aPortThatIsGoneAfterThePromptIsToldLikeTheProbe) {
+TEST_F(DownloadSessionTest, APortThatIsGoneAfterThePromptIsToldLikeTheProbe) {
     EXPECT_TRUE(prepare());
     line.failOpen = Fault(8005, "Port already open");
     EXPECT_FALSE(download.DownLoadProc());
@@ -257,7 +257,7 @@ TEST_F(DownloadSessionTest, aPortThatIsGoneAfterThePromptIsToldLikeTheProbe) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, aPortThatIsGoneAtTheFlipIsTold) {
+TEST_F(DownloadSessionTest, APortThatIsGoneAtTheFlipIsTold) {
     automatic(7);
     line.failOpen = Fault(8002, "Invalid port number");
     line.goodOpenings = 1;
@@ -266,7 +266,7 @@ TEST_F(DownloadSessionTest, aPortThatIsGoneAtTheFlipIsTold) {
     expectTidy();
 }
 
-TEST_F(DownloadSessionTest, theCallPointSaysWhereAnErrorHappened) {
+TEST_F(DownloadSessionTest, TheCallPointSaysWhereAnErrorHappened) {
     line.onOpen = [this](const std::string&) {
         EXPECT_EQ(gErrorCallPoint, 315);
         waiter.after(10, [this] {
@@ -282,7 +282,7 @@ TEST_F(DownloadSessionTest, theCallPointSaysWhereAnErrorHappened) {
     EXPECT_EQ(gErrorCallPoint, 317);
 }
 
-TEST_F(DownloadSessionTest, aRunningInstrumentsClockIsComparedWithTheComputers) {
+TEST_F(DownloadSessionTest, ARunningInstrumentsClockIsComparedWithTheComputers) {
     sends(memory(3, header("KWT", 'a', "03-15-24 14:08")));
     const auto pending = download.DownLoadProc();
     EXPECT_EQ(panel.prompts, (std::vector<std::string>{
@@ -293,13 +293,13 @@ TEST_F(DownloadSessionTest, aRunningInstrumentsClockIsComparedWithTheComputers) 
     EXPECT_EQ(pending->text, memory(3, header("KWT", 'a', "03-15-24 14:08")));
 }
 
-TEST_F(DownloadSessionTest, aStoppedInstrumentsTimeIsNoClock) {
+TEST_F(DownloadSessionTest, AStoppedInstrumentsTimeIsNoClock) {
     sends(memory(3, header("KWT", 'A', "03-15-24 14:08")));
     download.DownLoadProc();
     EXPECT_EQ(journal.receptions[0].clockDifference, std::nullopt);
 }
 
-TEST_F(DownloadSessionTest, aHeaderWithoutATimeAsksForTheFieldInitialization) {
+TEST_F(DownloadSessionTest, AHeaderWithoutATimeAsksForTheFieldInitialization) {
     // 30 readings of 5 minutes after 03-01-24 10:00.
     prompt.inputs = {"03-01-24 10:00"};
     sends(memory(3, header("KWT", 'b', "00-00-00 00:00")));
@@ -311,21 +311,21 @@ TEST_F(DownloadSessionTest, aHeaderWithoutATimeAsksForTheFieldInitialization) {
     EXPECT_EQ(journal.receptions[0].clockDifference, std::nullopt);
 }
 
-TEST_F(DownloadSessionTest, threeValuesOfAnIntervalCountOnce) {
+TEST_F(DownloadSessionTest, ThreeValuesOfAnIntervalCountOnce) {
     // 40 readings: Int(15 * 40 / 3) = 200 minutes after 10:00.
     prompt.inputs = {"03-01-24 10:00"};
     sends(memory(4, header("KWT", 'G', "              ")));
     EXPECT_EQ(download.DownLoadProc()->text, memory(4, header("KWT", 'G', "03-01-24 13:20")));
 }
 
-TEST_F(DownloadSessionTest, anAnswerThatIsNoDateIsAskedAgain) {
+TEST_F(DownloadSessionTest, AnAnswerThatIsNoDateIsAskedAgain) {
     prompt.inputs = {"yesterday", "13-01-24 10:00", "03-01-24 25:00", "03-01-24", "03-01-24 at 10:00"};
     sends(memory(3, header("KWT", 'B', "??????????????")));
     EXPECT_EQ(download.DownLoadProc()->text, memory(3, header("KWT", 'B', "03-01-24 12:30")));
     EXPECT_EQ(prompt.asked.size(), 5U);
 }
 
-TEST_F(DownloadSessionTest, anEmptyAnswerAbandonsTheDownloadButTheJournalKeepsIt) {
+TEST_F(DownloadSessionTest, AnEmptyAnswerAbandonsTheDownloadButTheJournalKeepsIt) {
     const std::vector<std::optional<std::string>> nothings = {"", std::nullopt};
     for (const auto& nothing : nothings) {
         prompt.inputs = {nothing};
@@ -335,19 +335,19 @@ TEST_F(DownloadSessionTest, anEmptyAnswerAbandonsTheDownloadButTheJournalKeepsIt
     }
 }
 
-TEST_F(DownloadSessionTest, aHeaderCutShortCanBeKeptWithADate) {
+TEST_F(DownloadSessionTest, AHeaderCutShortCanBeKeptWithADate) {
     prompt.answers = {Answer::Yes};
     prompt.inputs = {"03-01-24 10:00"};
     sends("KWTa\x1a");
     EXPECT_EQ(download.DownLoadProc()->text, "KWTa" + std::string(26, ' ') + "03-01-24 10:00\x1a");
 }
 
-TEST_F(DownloadSessionTest, readingsOf999AreAcceptedAs000) {
+TEST_F(DownloadSessionTest, ReadingsOf999AreAcceptedAs000) {
     sends(header() + "\rT: 999 2 3 4 5 6 7 8 9 10\n\x1a");
     EXPECT_EQ(download.DownLoadProc()->text, header() + "\rT: 000 2 3 4 5 6 7 8 9 10\n\x1a");
 }
 
-TEST_F(DownloadSessionTest, aCancelEndsItAtEachOf200Instants) {
+TEST_F(DownloadSessionTest, ACancelEndsItAtEachOf200Instants) {
     // Silence at 9,600, the answer at 115,200 in the middle of the reset, paced to 12.5 s; then nothing more.
     const std::string text = memory(20);
     for (int i = 0; i < 200; ++i) {
@@ -372,7 +372,7 @@ TEST_F(DownloadSessionTest, aCancelEndsItAtEachOf200Instants) {
     }
 }
 
-TEST_F(DownloadSessionTest, aCableThatIsPulledAtAnyByteLeavesTheBytesInTheJournal) {
+TEST_F(DownloadSessionTest, ACableThatIsPulledAtAnyByteLeavesTheBytesInTheJournal) {
     const std::string text = memory(5);
     for (std::size_t n = 0; n < text.size(); ++n) {
         testing::LinkBench bench;
@@ -390,7 +390,7 @@ TEST_F(DownloadSessionTest, aCableThatIsPulledAtAnyByteLeavesTheBytesInTheJourna
     }
 }
 
-TEST_F(DownloadSessionTest, aSecondDownloadFollowsTheFirst) {
+TEST_F(DownloadSessionTest, ASecondDownloadFollowsTheFirst) {
     sends(memory(1));
     EXPECT_TRUE(download.DownLoadProc());
     sends(memory(2));

@@ -13,7 +13,7 @@ HeaderScan fed(const std::string& text) {
     return scan;
 }
 
-TEST(HeaderScanTest, theRecordingStartsAtTheFirstFamilyInitial) {
+TEST(HeaderScanTest, TheRecordingStartsAtTheFirstFamilyInitial) {
     for (const char initial : {'P', 'H', 'K'}) {
         const HeaderScan scan = fed(std::string("x?\r ") + initial + "QX");
         EXPECT_TRUE(scan.started());
@@ -24,7 +24,7 @@ TEST(HeaderScanTest, theRecordingStartsAtTheFirstFamilyInitial) {
     EXPECT_FALSE(fed("QRSTabcXYZ 0123").started());
 }
 
-TEST(HeaderScanTest, aLowerCaseInitialIsStoredInUpperCaseAndMeansALowBattery) {
+TEST(HeaderScanTest, ALowerCaseInitialIsStoredInUpperCaseAndMeansALowBattery) {
     HeaderScan scan;
     EXPECT_EQ(scan.feed('k'), 'K');
     EXPECT_TRUE(scan.lowBattery());
@@ -32,14 +32,14 @@ TEST(HeaderScanTest, aLowerCaseInitialIsStoredInUpperCaseAndMeansALowBattery) {
     EXPECT_EQ(scan.line(), "Kw");
 }
 
-TEST(HeaderScanTest, onlyTheFirstInitialIsChanged) {
+TEST(HeaderScanTest, OnlyTheFirstInitialIsChanged) {
     HeaderScan scan;
     EXPECT_EQ(scan.feed('K'), 'K');
     EXPECT_EQ(scan.feed('p'), 'p');
     EXPECT_FALSE(scan.lowBattery());
 }
 
-TEST(HeaderScanTest, theTokenIsKwtInAnyCase) {
+TEST(HeaderScanTest, TheTokenIsKwtInAnyCase) {
     EXPECT_EQ(fed("KWT").token(), HeaderScan::Token::valid);
     EXPECT_EQ(fed("kwt").token(), HeaderScan::Token::valid);
     EXPECT_EQ(fed("noise kWt").token(), HeaderScan::Token::valid);
@@ -51,7 +51,7 @@ TEST(HeaderScanTest, theTokenIsKwtInAnyCase) {
     EXPECT_EQ(fed("KW\r").token(), HeaderScan::Token::wrong);
 }
 
-TEST(HeaderScanTest, theLineEndsAtTheCarriageReturnAfterTheStart) {
+TEST(HeaderScanTest, TheLineEndsAtTheCarriageReturnAfterTheStart) {
     const HeaderScan scan = fed("\r\rPQXa\rT: 1 2");
     EXPECT_TRUE(scan.lineComplete());
     EXPECT_EQ(scan.line(), "PQXa");
@@ -59,7 +59,7 @@ TEST(HeaderScanTest, theLineEndsAtTheCarriageReturnAfterTheStart) {
     EXPECT_FALSE(fed("\r\rPQXa").lineComplete());
 }
 
-TEST(HeaderScanTest, restartForgetsEverything) {
+TEST(HeaderScanTest, RestartForgetsEverything) {
     HeaderScan scan = fed("xkwt\r");
     scan.restart();
     EXPECT_FALSE(scan.started());
@@ -69,7 +69,7 @@ TEST(HeaderScanTest, restartForgetsEverything) {
     EXPECT_EQ(scan.line(), "");
 }
 
-TEST(HeaderScanTest, aLineThatNeverEndsStopsGrowing) {
+TEST(HeaderScanTest, ALineThatNeverEndsStopsGrowing) {
     HeaderScan scan;
     scan.feed('P');
     for (std::size_t i = 0; i < HeaderScan::longest + 50; ++i)

@@ -13,7 +13,7 @@ using testing::header;
 const std::string title = "                 Instrument Information from download                 \r\n\r\n";
 const std::string reminder = "\r\n                  REMEMBER TO SAVE THIS DOWNLOAD TO A FILE               ";
 
-TEST(InformationReportTest, showsTheFieldsOfTheHeader) {
+TEST(InformationReportTest, ShowsTheFieldsOfTheHeader) {
     EXPECT_EQ(informationReport("\r\n" + header() + "\rT: 1"),
               title +
                   "Type: KWT     Ser. 1234\r\nMode:  Average 15 min interval\r\n"
@@ -22,7 +22,7 @@ TEST(InformationReportTest, showsTheFieldsOfTheHeader) {
                   reminder);
 }
 
-TEST(InformationReportTest, saysHowMuchThereIsAndHowMuchTheMemoryHolds) {
+TEST(InformationReportTest, SaysHowMuchThereIsAndHowMuchTheMemoryHolds) {
     // 40 readings of three values an interval of 5 minutes: Int(5 * 40 / 3) = 66 minutes.
     const std::string text = informationReport(testing::memory(4, header("KWT", 'h')), {.memory = 10710});
     EXPECT_NE(
@@ -31,7 +31,7 @@ TEST(InformationReportTest, saysHowMuchThereIsAndHowMuchTheMemoryHolds) {
         << text;
 }
 
-TEST(InformationReportTest, namesTheModeByItsLetter) {
+TEST(InformationReportTest, NamesTheModeByItsLetter) {
     EXPECT_NE(informationReport(header("PQX", 'H')).find("Mode:  Min/Max/Avg 5 min interval\r\n"),
               std::string::npos);
     EXPECT_NE(informationReport(header("PQX", 'f')).find("Mode:  Average 1 min interval\r\n"),
@@ -40,7 +40,7 @@ TEST(InformationReportTest, namesTheModeByItsLetter) {
               std::string::npos);
 }
 
-TEST(InformationReportTest, aRecoverAddsStartStopAndReadings) {
+TEST(InformationReportTest, ARecoverAddsStartStopAndReadings) {
     EXPECT_EQ(informationReport(header(),
                                 {.recovered = RecoveredFacts{"10:00  Mar 01, 24", "12:30  Mar 02, 24", 106}}),
               title +
@@ -51,7 +51,7 @@ TEST(InformationReportTest, aRecoverAddsStartStopAndReadings) {
                   reminder);
 }
 
-TEST(InformationReportTest, tellsHowFarTheClocksAreApart) {
+TEST(InformationReportTest, TellsHowFarTheClocksAreApart) {
     const auto line = [](std::int64_t minutes) {
         const std::string text = informationReport(header(), {.clockDifference = minutes});
         const std::size_t at = text.find("Instrument clock");
@@ -66,19 +66,19 @@ TEST(InformationReportTest, tellsHowFarTheClocksAreApart) {
     EXPECT_EQ(line(-5000000), "Instrument clock: 3472 days behind this computer's");
 }
 
-TEST(InformationReportTest, aModeOutsideTheTableIsUnknown) {
+TEST(InformationReportTest, AModeOutsideTheTableIsUnknown) {
     for (const char mode : {'m', 'n', '5'})
         EXPECT_NE(informationReport(header("KWT", mode)).find("Mode:  unknown\r\n"), std::string::npos);
 }
 
-TEST(InformationReportTest, aHeaderWithoutFieldsLeavesThemEmpty) {
+TEST(InformationReportTest, AHeaderWithoutFieldsLeavesThemEmpty) {
     EXPECT_EQ(informationReport("KW\r"), title +
                                              "Type: KW     Ser. \r\nMode:  Average 15 min interval\r\n"
                                              "           Downloaded or stopped at:  \r\n" +
                                              reminder);
 }
 
-TEST(InformationReportTest, bytesOfTheHeaderAreShownAsCharacters) {
+TEST(InformationReportTest, BytesOfTheHeaderAreShownAsCharacters) {
     std::string head = header();
     head[7] = '\xe9';
     EXPECT_NE(informationReport(head).find("Ser. \u00e9234"), std::string::npos);

@@ -36,7 +36,7 @@ struct Case {
     std::string changed;
 };
 
-TEST(InsertErrorsTest, faultKLandsOnLineKAndNowhereElse) {
+TEST(InsertErrorsTest, FaultKLandsOnLineKAndNowhereElse) {
     const std::string rest = " 121 122 123 124 125 126 127 128 129";
     const std::vector<Case> cases = {
         {&RunFlags::enableAddedReading, 1, "  123 120" + rest},
@@ -55,11 +55,11 @@ TEST(InsertErrorsTest, faultKLandsOnLineKAndNowhereElse) {
     }
 }
 
-TEST(InsertErrorsTest, fault7RemovesTheTerminator) {
+TEST(InsertErrorsTest, Fault7RemovesTheTerminator) {
     EXPECT_EQ(planted(&RunFlags::enableMissingCtrlZ), seven.substr(0, seven.size() - 1));
 }
 
-TEST(InsertErrorsTest, withAllSevenNoTerminatorIsLeftAndTheFirstBadCharacterIsA) {
+TEST(InsertErrorsTest, WithAllSevenNoTerminatorIsLeftAndTheFirstBadCharacterIsA) {
     testing::QueuedPrompt prompt;
     std::string text = seven;
     InsertErrors(text,
@@ -78,7 +78,7 @@ TEST(InsertErrorsTest, withAllSevenNoTerminatorIsLeftAndTheFirstBadCharacterIsA)
             .badLines = 2, .over999 = 1, .count999 = 1, .ctrlZ = 0, .badChars = 1, .firstBadChar = 65}));
 }
 
-TEST(InsertErrorsTest, aTextWithoutADataSectionIsToldAndLeftAlone) {
+TEST(InsertErrorsTest, ATextWithoutADataSectionIsToldAndLeftAlone) {
     testing::QueuedPrompt prompt;
     std::string text = "KWTA no data section 1 2 3\x1a";
     const std::string before = text;
@@ -87,7 +87,7 @@ TEST(InsertErrorsTest, aTextWithoutADataSectionIsToldAndLeftAlone) {
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"InsertErrors(): Couldn't find 'T:' in gText$"});
 }
 
-TEST(InsertErrorsTest, withoutAFlagNothingHappens) {
+TEST(InsertErrorsTest, WithoutAFlagNothingHappens) {
     testing::QueuedPrompt prompt;
     std::string text = "no data section";
     InsertErrors(text, {}, prompt);
@@ -95,14 +95,14 @@ TEST(InsertErrorsTest, withoutAFlagNothingHappens) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST(InsertErrorsTest, aLineThatIsNotThereTakesNoFault) {
+TEST(InsertErrorsTest, ALineThatIsNotThereTakesNoFault) {
     testing::QueuedPrompt prompt;
     std::string text = "T: 1 2\n 3 4\x1a";
     InsertErrors(text, {.enableChangeTo999 = true, .enableAddedCtrlZ = true}, prompt);
     EXPECT_EQ(text, "T: 1 2\n 3 4\x1a");
 }
 
-TEST(InsertErrorsTest, aLineWithoutReadingsTakesTheTextAtItsBegin) {
+TEST(InsertErrorsTest, ALineWithoutReadingsTakesTheTextAtItsBegin) {
     testing::QueuedPrompt prompt;
     std::string text = "T: 1\n\r\n 3\n";
     InsertErrors(text, {.enableMissingReading = true}, prompt);

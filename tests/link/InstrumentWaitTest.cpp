@@ -38,7 +38,7 @@ struct InstrumentWaitTest : ::testing::Test, testing::LinkBench {
     int flips() const { return static_cast<int>(std::ranges::count(panel.statuses, changing)); }
 };
 
-TEST_F(InstrumentWaitTest, receivesEverythingUpToTheTerminator) {
+TEST_F(InstrumentWaitTest, ReceivesEverythingUpToTheTerminator) {
     ofType(4, 10710);
     line.sendAt(700, memory());
     const auto received = run();
@@ -49,7 +49,7 @@ TEST_F(InstrumentWaitTest, receivesEverythingUpToTheTerminator) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST_F(InstrumentWaitTest, whatFollowsTheTerminatorWithinATickIsCountedAndKeptInTheJournal) {
+TEST_F(InstrumentWaitTest, WhatFollowsTheTerminatorWithinATickIsCountedAndKeptInTheJournal) {
     ofType(4, 10710);
     line.sendAt(10, memory() + "more");
     line.sendAt(259, "!");
@@ -62,7 +62,7 @@ TEST_F(InstrumentWaitTest, whatFollowsTheTerminatorWithinATickIsCountedAndKeptIn
     EXPECT_EQ(waiter.now(), 260);
 }
 
-TEST_F(InstrumentWaitTest, aCancelWhileTheLineIsWatchedEndsIt) {
+TEST_F(InstrumentWaitTest, ACancelWhileTheLineIsWatchedEndsIt) {
     ofType(4, 10710);
     line.sendAt(10, memory());
     waiter.cancelAt(100);
@@ -72,7 +72,7 @@ TEST_F(InstrumentWaitTest, aCancelWhileTheLineIsWatchedEndsIt) {
     EXPECT_EQ(waiter.now(), 100);
 }
 
-TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfTheWrongRateIsAWrongToken) {
+TEST_F(InstrumentWaitTest, ATerminatorInTheNoiseOfTheWrongRateIsAWrongToken) {
     automatic(7);
     answers("115200,N,8,1", memory(), 5100, "\x80\x1a\x80");
     const auto received = run();
@@ -81,7 +81,7 @@ TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfTheWrongRateIsAWrongToken) {
     EXPECT_EQ(line.firstTime("DTREnable false"), 100);
 }
 
-TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfBothRatesEndsIt) {
+TEST_F(InstrumentWaitTest, ATerminatorInTheNoiseOfBothRatesEndsIt) {
     automatic(7);
     answers("none", "", 0, "\x80\x1a");
     const auto received = run();
@@ -90,7 +90,7 @@ TEST_F(InstrumentWaitTest, aTerminatorInTheNoiseOfBothRatesEndsIt) {
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{notValid});
 }
 
-TEST_F(InstrumentWaitTest, whatArrivedWhileTheProcessStoodStillComesBeforeTheTimer) {
+TEST_F(InstrumentWaitTest, WhatArrivedWhileTheProcessStoodStillComesBeforeTheTimer) {
     automatic(7);
     waiter.standStill(1000, 60000);
     line.sendAt(2000, memory());
@@ -100,7 +100,7 @@ TEST_F(InstrumentWaitTest, whatArrivedWhileTheProcessStoodStillComesBeforeTheTim
     EXPECT_EQ(flips(), 0);
 }
 
-TEST_F(InstrumentWaitTest, aWaitWithoutALimitSaysSinceWhenAndWhatToCheckAfterTenSeconds) {
+TEST_F(InstrumentWaitTest, AWaitWithoutALimitSaysSinceWhenAndWhatToCheckAfterTenSeconds) {
     ofType(5, 10710);
     instrument.gCommPort = 3;
     line.sendAt(9999, "x");
@@ -113,7 +113,7 @@ TEST_F(InstrumentWaitTest, aWaitWithoutALimitSaysSinceWhenAndWhatToCheckAfterTen
     EXPECT_EQ(panel.hints[1], "");
 }
 
-TEST_F(InstrumentWaitTest, aWaitWithALimitNeedsNoHint) {
+TEST_F(InstrumentWaitTest, AWaitWithALimitNeedsNoHint) {
     automatic(7);
     EXPECT_FALSE(run());
     ofType(5, 10710);
@@ -121,7 +121,7 @@ TEST_F(InstrumentWaitTest, aWaitWithALimitNeedsNoHint) {
     EXPECT_TRUE(panel.hints.empty());
 }
 
-TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterABoundedWaitIsSaidToo) {
+TEST_F(InstrumentWaitTest, ALineThatFallsSilentAfterABoundedWaitIsSaidToo) {
     ofType(5, 10710);
     line.sendAt(1000, memory().substr(0, 60));
     waiter.cancelAt(30000);
@@ -130,7 +130,7 @@ TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterABoundedWaitIsSaidToo) {
     EXPECT_TRUE(panel.hints[0].starts_with("Nothing has come since 14:05. Check that "));
 }
 
-TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterTheTokenIsSaidToo) {
+TEST_F(InstrumentWaitTest, ALineThatFallsSilentAfterTheTokenIsSaidToo) {
     automatic(7);
     line.sendAt(1000, memory().substr(0, 60));
     waiter.cancelAt(30000);
@@ -139,13 +139,13 @@ TEST_F(InstrumentWaitTest, aLineThatFallsSilentAfterTheTokenIsSaidToo) {
     EXPECT_NE(panel.hints[0].find("Nothing has come since 14:05"), std::string::npos);
 }
 
-TEST_F(InstrumentWaitTest, theSpecialTestSizeHasTheLimitOfItsOwnSize) {
+TEST_F(InstrumentWaitTest, TheSpecialTestSizeHasTheLimitOfItsOwnSize) {
     ofType(9, 294);
     line.sendAt(10, "P" + std::string(60000, '1'));
     EXPECT_EQ(run()->text.size(), 294U * 6 + 1024);
 }
 
-TEST_F(InstrumentWaitTest, anotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt) {
+TEST_F(InstrumentWaitTest, AnotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt) {
     ofType(5, 10710);
     line.sendAt(3600000, memory());
     EXPECT_EQ(run()->text, memory());
@@ -153,21 +153,21 @@ TEST_F(InstrumentWaitTest, anotherTypeWaitsWithoutATimerAsLongAsTheUserLetsIt) {
     EXPECT_EQ(line.count("PortOpen true"), 1);
 }
 
-TEST_F(InstrumentWaitTest, theWaitForTheFirstCharacterCanBeBounded) {
+TEST_F(InstrumentWaitTest, TheWaitForTheFirstCharacterCanBeBounded) {
     ofType(5, 10710);
     EXPECT_FALSE(run(4000));
     EXPECT_EQ(waiter.now(), 4000);
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"No response in  4 seconds."});
 }
 
-TEST_F(InstrumentWaitTest, theBoundDoesNotConcernWhatComesLater) {
+TEST_F(InstrumentWaitTest, TheBoundDoesNotConcernWhatComesLater) {
     ofType(5, 10710);
     line.sendAt(100, "PQX");
     line.sendAt(9000, "\x1a");
     EXPECT_EQ(run(4000)->text, "PQX\x1a");
 }
 
-TEST_F(InstrumentWaitTest, totalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
+TEST_F(InstrumentWaitTest, TotalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
     automatic(7);
     EXPECT_FALSE(run());
     EXPECT_EQ(waiter.now(), 10000);
@@ -184,7 +184,7 @@ TEST_F(InstrumentWaitTest, totalSilenceFlipsOnceAt2500AndGivesUpAt10000) {
                                         "Now treating unit as PQX-K4-W.  Waiting for response..."}));
 }
 
-TEST_F(InstrumentWaitTest, anInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
+TEST_F(InstrumentWaitTest, AnInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
     automatic(7);
     answers("115200,N,8,1", memory(), 5200);
     const auto received = run();
@@ -197,7 +197,7 @@ TEST_F(InstrumentWaitTest, anInstrumentAtTheOtherRateIsFoundAfterTheFlip) {
     EXPECT_NE(panel.log.find("Start of StopTimer: timer1.enabled=True\r\nGot 'KWT'.\r\n"), std::string::npos);
 }
 
-TEST_F(InstrumentWaitTest, anAnswerDuringTheResetIsKept) {
+TEST_F(InstrumentWaitTest, AnAnswerDuringTheResetIsKept) {
     automatic(8);
     answers("9600,N,8,1", memory(), 100);
     EXPECT_EQ(run()->text, memory());
@@ -205,7 +205,7 @@ TEST_F(InstrumentWaitTest, anAnswerDuringTheResetIsKept) {
     EXPECT_EQ(instrument.instAutoCurrent, 7);
 }
 
-TEST_F(InstrumentWaitTest, aValidAnswerAtTheFirstRateStopsTheTimer) {
+TEST_F(InstrumentWaitTest, AValidAnswerAtTheFirstRateStopsTheTimer) {
     automatic(8);
     answers("115200,N,8,1", "KWT", 2400);
     line.sendAt(60000, "x\x1a");
@@ -214,7 +214,7 @@ TEST_F(InstrumentWaitTest, aValidAnswerAtTheFirstRateStopsTheTimer) {
     EXPECT_EQ(instrument.instAutoCurrent, 8);
 }
 
-TEST_F(InstrumentWaitTest, whatCameAtTheOldRateIsDiscardedAndTheCountRestarts) {
+TEST_F(InstrumentWaitTest, WhatCameAtTheOldRateIsDiscardedAndTheCountRestarts) {
     automatic(7);
     answers("115200,N,8,1", memory(), 6000, "\x01\x02\x03noise");
     const auto received = run();
@@ -227,7 +227,7 @@ TEST_F(InstrumentWaitTest, whatCameAtTheOldRateIsDiscardedAndTheCountRestarts) {
               panel.progressTexts.end());
 }
 
-TEST_F(InstrumentWaitTest, aWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTime) {
+TEST_F(InstrumentWaitTest, AWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTime) {
     automatic(7);
     line.onOpen = [this](const std::string& settings) {
         if (settings == "9600,N,8,1")
@@ -240,7 +240,7 @@ TEST_F(InstrumentWaitTest, aWrongTokenFlipsAtOnceAndTheOtherRateHasItsFullTime) 
     EXPECT_NE(panel.log.find("Got a non-KWT.   triedBoth=False\r\n"), std::string::npos);
 }
 
-TEST_F(InstrumentWaitTest, wrongTokensAtBothRatesEndWithTheirMessage) {
+TEST_F(InstrumentWaitTest, WrongTokensAtBothRatesEndWithTheirMessage) {
     automatic(7);
     answers("none", "", 0, "PQXa");
     EXPECT_FALSE(run());
@@ -251,7 +251,7 @@ TEST_F(InstrumentWaitTest, wrongTokensAtBothRatesEndWithTheirMessage) {
     EXPECT_EQ(line.count("DTREnable false"), 1);
 }
 
-TEST_F(InstrumentWaitTest, aTokenInLowerCaseIsValidAndMeansALowBattery) {
+TEST_F(InstrumentWaitTest, ATokenInLowerCaseIsValidAndMeansALowBattery) {
     automatic(7);
     line.sendAt(50, "..kwtA\x1a");
     const auto received = run();
@@ -260,19 +260,19 @@ TEST_F(InstrumentWaitTest, aTokenInLowerCaseIsValidAndMeansALowBattery) {
     EXPECT_TRUE(received->lowBattery());
 }
 
-TEST_F(InstrumentWaitTest, noiseAtTheWrongRateDoesNotSetTheLowBattery) {
+TEST_F(InstrumentWaitTest, NoiseAtTheWrongRateDoesNotSetTheLowBattery) {
     automatic(7);
     answers("115200,N,8,1", memory(), 5100, "xkp");
     EXPECT_FALSE(run()->lowBattery());
 }
 
-TEST_F(InstrumentWaitTest, theComputersTimeOfTheHeaderIsKept) {
+TEST_F(InstrumentWaitTest, TheComputersTimeOfTheHeaderIsKept) {
     ofType(4, 10710);
     line.sendAt(5 * 60000, memory());
     EXPECT_EQ(run()->headerSeen, toReadingTime({2024, 3, 15, 14, 10}));
 }
 
-TEST_F(InstrumentWaitTest, aTypeOf2091SamplesStopsAt48000Characters) {
+TEST_F(InstrumentWaitTest, ATypeOf2091SamplesStopsAt48000Characters) {
     for (const std::int16_t type : std::initializer_list<std::int16_t>{1, 10}) {
         ofType(type, 2091);
         waiter.after(10, [this] { line.send("H" + std::string(60000, '1')); });
@@ -281,25 +281,25 @@ TEST_F(InstrumentWaitTest, aTypeOf2091SamplesStopsAt48000Characters) {
     }
 }
 
-TEST_F(InstrumentWaitTest, otherTypesStopAt205000Characters) {
+TEST_F(InstrumentWaitTest, OtherTypesStopAt205000Characters) {
     ofType(4, 10710);
     line.sendAt(10, "P" + std::string(300000, '1'));
     EXPECT_EQ(run()->text.size(), 205000U);
 }
 
-TEST_F(InstrumentWaitTest, afterAFlipToType7TheLimitIs48000) {
+TEST_F(InstrumentWaitTest, AfterAFlipToType7TheLimitIs48000) {
     automatic(8);
     answers("9600,N,8,1", "KWT" + std::string(300000, '1'), 5100);
     EXPECT_EQ(run()->text.size(), 48000U);
 }
 
-TEST_F(InstrumentWaitTest, afterAFlipToType8TheLimitIs205000) {
+TEST_F(InstrumentWaitTest, AfterAFlipToType8TheLimitIs205000) {
     automatic(7);
     answers("115200,N,8,1", "KWT" + std::string(300000, '1'), 5100);
     EXPECT_EQ(run()->text.size(), 205000U);
 }
 
-TEST_F(InstrumentWaitTest, theProgressStartsAt1000AndWrapsOnceIn20001Characters) {
+TEST_F(InstrumentWaitTest, TheProgressStartsAt1000AndWrapsOnceIn20001Characters) {
     ofType(4, 10710);
     // 20 characters a tick: the bar shows every twentieth value.
     const std::string text = "P" + std::string(20000, '1');
@@ -318,7 +318,7 @@ TEST_F(InstrumentWaitTest, theProgressStartsAt1000AndWrapsOnceIn20001Characters)
     EXPECT_EQ(panel.values.back(), 999);
 }
 
-TEST_F(InstrumentWaitTest, theLabelCountsAndSaysWhenItWaits) {
+TEST_F(InstrumentWaitTest, TheLabelCountsAndSaysWhenItWaits) {
     ofType(4, 10710);
     line.sendAt(1000, "PQX");
     line.sendAt(1600, "\x1a");
@@ -332,7 +332,7 @@ TEST_F(InstrumentWaitTest, theLabelCountsAndSaysWhenItWaits) {
     EXPECT_TRUE(panel.isBusy);
 }
 
-TEST_F(InstrumentWaitTest, aSilentLineEndsTheDownloadWhenTheTicksPassTheLimit) {
+TEST_F(InstrumentWaitTest, ASilentLineEndsTheDownloadWhenTheTicksPassTheLimit) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(600, '1'));
     EXPECT_EQ(run()->text.size(), 601U);
@@ -342,7 +342,7 @@ TEST_F(InstrumentWaitTest, aSilentLineEndsTheDownloadWhenTheTicksPassTheLimit) {
     EXPECT_NE(panel.log.find("Terminated by waiting for data"), std::string::npos);
 }
 
-TEST_F(InstrumentWaitTest, silenceIsWaitedForUpTo500Characters) {
+TEST_F(InstrumentWaitTest, SilenceIsWaitedForUpTo500Characters) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(499, '1'));
     line.sendAt(600000, "\x1a");
@@ -350,7 +350,7 @@ TEST_F(InstrumentWaitTest, silenceIsWaitedForUpTo500Characters) {
     EXPECT_EQ(waiter.now(), 600000 + 250);
 }
 
-TEST_F(InstrumentWaitTest, stallsAddUpOverTheWholeDownload) {
+TEST_F(InstrumentWaitTest, StallsAddUpOverTheWholeDownload) {
     ofType(4, 10710);
     line.sendAt(0, "P" + std::string(600, '1'));
     // A character every 750 ms: of three ticks one sees it and two are silent.
@@ -364,7 +364,7 @@ TEST_F(InstrumentWaitTest, stallsAddUpOverTheWholeDownload) {
     EXPECT_EQ(received->text.size(), 601U + 4U);
 }
 
-TEST_F(InstrumentWaitTest, aLineThatGoesAwayIsToldAndWhatCameStaysInTheJournal) {
+TEST_F(InstrumentWaitTest, ALineThatGoesAwayIsToldAndWhatCameStaysInTheJournal) {
     ofType(4, 10710);
     line.sendAt(100, "PQX 12");
     line.loseAt(200);
@@ -373,14 +373,14 @@ TEST_F(InstrumentWaitTest, aLineThatGoesAwayIsToldAndWhatCameStaysInTheJournal) 
     EXPECT_EQ(journal.receptions[0].parts[0], "PQX 12");
 }
 
-TEST_F(InstrumentWaitTest, aLineThatGoesAwayWhileWaitingIsTold) {
+TEST_F(InstrumentWaitTest, ALineThatGoesAwayWhileWaitingIsTold) {
     automatic(7);
     line.loseAt(200);
     EXPECT_FALSE(run());
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"COM1: the line went away"});
 }
 
-TEST_F(InstrumentWaitTest, aLineThatGoesAwayDuringTheResetIsTold) {
+TEST_F(InstrumentWaitTest, ALineThatGoesAwayDuringTheResetIsTold) {
     automatic(7);
     line.loseAt(4000);
     EXPECT_FALSE(run());
@@ -388,7 +388,7 @@ TEST_F(InstrumentWaitTest, aLineThatGoesAwayDuringTheResetIsTold) {
     EXPECT_EQ(waiter.now(), 4000);
 }
 
-TEST_F(InstrumentWaitTest, aPortThatCannotBeReopenedIsTold) {
+TEST_F(InstrumentWaitTest, APortThatCannotBeReopenedIsTold) {
     automatic(7);
     line.failOpen = Fault(8002, "Invalid port number");
     line.openProblem = "COM1 is not there.";
@@ -402,7 +402,7 @@ TEST_F(InstrumentWaitTest, aPortThatCannotBeReopenedIsTold) {
             "Communication port not valid.\r\nTry selecting a different COM port\r\nCOM1 is not there."});
 }
 
-TEST_F(InstrumentWaitTest, atTheSameInstantTheTimeOutComesBeforeTheCancelAndTheCharacter) {
+TEST_F(InstrumentWaitTest, AtTheSameInstantTheTimeOutComesBeforeTheCancelAndTheCharacter) {
     automatic(7);
     line.sendAt(2500, "KWT");
     waiter.cancelAt(2500);

@@ -13,7 +13,7 @@ InstrumentState chosen(int code, InstrumentState state = {}) {
     return state;
 }
 
-TEST(InstrumentName, IsTheDisplayNameOfEachCode) {
+TEST(Instruments, IsTheDisplayNameOfEachCode) {
     const std::vector<std::string> names = {"(no instrument selected)",
                                             "HVN40/80",
                                             "",
@@ -30,12 +30,12 @@ TEST(InstrumentName, IsTheDisplayNameOfEachCode) {
         EXPECT_EQ(InstrumentName(static_cast<int>(code)), names[code]) << code;
 }
 
-TEST(InstrumentName, IsEmptyOutsideTheTable) {
+TEST(Instruments, IsEmptyOutsideTheTable) {
     EXPECT_EQ(InstrumentName(12), "");
     EXPECT_EQ(InstrumentName(-2), "");
 }
 
-TEST(InstrumentName, CodeMinusOneDividesByZero) {
+TEST(Instruments, CodeMinusOneDividesByZero) {
     try {
         InstrumentName(-1);
         FAIL() << "no fault";
@@ -119,7 +119,7 @@ TEST(Instruments, BeforeAnyChoiceTheCableGoesFirst) {
     EXPECT_EQ(state.instAutoCurrent, 7);
 }
 
-TEST(TypeChoice, CancelPutsBackWhatWasInForceBefore) {
+TEST(Instruments, CancelPutsBackWhatWasInForceBefore) {
     InstrumentState state = chosen(1);
     TypeChoice choice(state);
     choice.apply(8);
@@ -131,14 +131,14 @@ TEST(TypeChoice, CancelPutsBackWhatWasInForceBefore) {
     EXPECT_FALSE(state.gCableFirst);
 }
 
-TEST(TypeChoice, NoneOfTheTypesKeepsTheCode) {
+TEST(Instruments, NoneOfTheTypesKeepsTheCode) {
     InstrumentState state = chosen(8);
     TypeChoice(state).apply({});
     EXPECT_EQ(state.instSelection, 8);
     EXPECT_EQ(state.maxSamples, 42966);
 }
 
-TEST(Properties, CustomTakesThemIntoForceAndKeepsThem) {
+TEST(Instruments, CustomTakesThemIntoForceAndKeepsThem) {
     InstrumentState state = chosen(9);
     EXPECT_TRUE(hasOwnProperties(state));
     setProperties(state, "115200,N,8,1", 21462);
@@ -150,7 +150,7 @@ TEST(Properties, CustomTakesThemIntoForceAndKeepsThem) {
     EXPECT_EQ(state.maxSamples, 21462);
 }
 
-TEST(Properties, ThoseOfAFixedTypeCannotBeChanged) {
+TEST(Instruments, ThoseOfAFixedTypeCannotBeChanged) {
     InstrumentState state = chosen(7);
     EXPECT_FALSE(hasOwnProperties(state));
     setProperties(state, "115200,N,8,1", 294);

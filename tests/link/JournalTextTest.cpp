@@ -15,7 +15,7 @@ const JournalHeader header = {.commPort = 5,
                               .pcTime = toReadingTime({2024, 3, 15, 14, 5}),
                               .command = "recover"};
 
-TEST(JournalTextTest, whatIsWrittenIsReadAgain) {
+TEST(JournalText, WhatIsWrittenIsReadAgain) {
     const JournalRecord record =
         readJournal(journalStart(header) + journalPart(417, "9600,N,8,1") + journalClock(-12) +
                     journalState(JournalState::received) + journalState(JournalState::accepted));
@@ -30,7 +30,7 @@ TEST(JournalTextTest, whatIsWrittenIsReadAgain) {
     EXPECT_EQ(record.state, JournalState::accepted);
 }
 
-TEST(JournalTextTest, theLinesOfAStart) {
+TEST(JournalText, TheLinesOfAStart) {
     EXPECT_EQ(journalStart(header),
               "command recover\nport 5\nsamples 42966\ntype 8\ntime 03-15-24 14:05\npart 0 115200,N,8,1\n");
     JournalHeader byPath = header;
@@ -41,7 +41,7 @@ TEST(JournalTextTest, theLinesOfAStart) {
     EXPECT_EQ(readJournal(journalStart(byPath)).header.device, "/dev/pts/7");
 }
 
-TEST(JournalTextTest, aLineCutShortDoesNotCount) {
+TEST(JournalText, ALineCutShortDoesNotCount) {
     EXPECT_EQ(readJournal("state received\nstate acc").state, JournalState::received);
     EXPECT_EQ(readJournal("state received").state, std::nullopt);
 }
@@ -53,7 +53,7 @@ TEST(JournalText, WhatWasSavedOrDroppedIsNotAcceptedAfterwards) {
     EXPECT_EQ(readJournal("state refused\nstate accepted\n").state, JournalState::accepted);
 }
 
-TEST(JournalTextTest, unknownAndDamagedLinesAreLeftOut) {
+TEST(JournalText, UnknownAndDamagedLinesAreLeftOut) {
     const JournalRecord record =
         readJournal("port x\npart 12\npart y z\nclock 1x\nstate lost\n\n nonsense\n");
     EXPECT_EQ(record.header.commPort, 1);
@@ -62,14 +62,14 @@ TEST(JournalTextTest, unknownAndDamagedLinesAreLeftOut) {
     EXPECT_EQ(record.state, std::nullopt);
 }
 
-TEST(JournalTextTest, everyStateButReceivingIsWritten) {
+TEST(JournalText, EveryStateButReceivingIsWritten) {
     for (const auto state : {JournalState::interrupted, JournalState::received, JournalState::accepted,
                              JournalState::refused, JournalState::saved, JournalState::dropped})
         EXPECT_EQ(readJournal(journalState(state)).state, state);
     EXPECT_EQ(journalState(JournalState::receiving), "");
 }
 
-TEST(JournalTextTest, modelAndSerialNumberComeFromTheCharacters) {
+TEST(JournalText, ModelAndSerialNumberComeFromTheCharacters) {
     JournalEntry entry;
     describe(entry, "??" + testing::memory());
     EXPECT_EQ(entry.model, "KWT");

@@ -12,7 +12,7 @@ const std::string switchLines = "                                             \r
                                 "                                             \r\n";
 const std::string quitLine = "     Hit 'Cancel' or use ESC key to quit     ";
 
-TEST(PromptTextsTest, okComesFirstForTheOlderTypes) {
+TEST(PromptTextsTest, OkComesFirstForTheOlderTypes) {
     InstrumentState instrument;
     instrument.instSelection = 4;
     instrument.gCableFirst = false;
@@ -21,7 +21,7 @@ TEST(PromptTextsTest, okComesFirstForTheOlderTypes) {
                                                 switchLines + quitLine);
 }
 
-TEST(PromptTextsTest, theCableComesFirstForTheNewerTypes) {
+TEST(PromptTextsTest, TheCableComesFirstForTheNewerTypes) {
     InstrumentState instrument;
     instrument.instSelection = 8;
     instrument.gCableFirst = true;
@@ -30,7 +30,7 @@ TEST(PromptTextsTest, theCableComesFirstForTheNewerTypes) {
                                                 switchLines + quitLine);
 }
 
-TEST(PromptTextsTest, automaticSelectionTellsItsSettingsUnlessLeftOut) {
+TEST(PromptTextsTest, AutomaticSelectionTellsItsSettingsUnlessLeftOut) {
     InstrumentState instrument;
     instrument.instSelection = 11;
     instrument.gCableFirst = true;
@@ -43,7 +43,7 @@ TEST(PromptTextsTest, automaticSelectionTellsItsSettingsUnlessLeftOut) {
     EXPECT_EQ(connectionPrompt(instrument, false), cable + quitLine);
 }
 
-TEST(PromptTextsTest, everyPromptLineHas45Columns) {
+TEST(PromptTextsTest, EveryPromptLineHas45Columns) {
     InstrumentState instrument;
     for (const bool cableFirst : {false, true}) {
         instrument.gCableFirst = cableFirst;
@@ -53,7 +53,7 @@ TEST(PromptTextsTest, everyPromptLineHas45Columns) {
     }
 }
 
-TEST(PromptTextsTest, otherTexts) {
+TEST(PromptTextsTest, OtherTexts) {
     EXPECT_EQ(removeCableText(), "       RETURN THE SWITCH TO 'STANDBY'   \r\n"
                                  "           OR REMOVE THE CABLE NOW       ");
     InstrumentState instrument;

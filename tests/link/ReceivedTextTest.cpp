@@ -13,7 +13,7 @@ using testing::header;
 
 const std::string olderHeader = "PQXa   1234" + std::string(35, '.') + "03-15-99 10:07" + "....";
 
-TEST(ReceivedTextTest, theModelCodeIsPutIntoUpperCase) {
+TEST(ReceivedTextTest, TheModelCodeIsPutIntoUpperCase) {
     std::string text = "??kwTa";
     EXPECT_TRUE(upperCaseModel(text));
     EXPECT_EQ(text, "??KWTa");
@@ -22,7 +22,7 @@ TEST(ReceivedTextTest, theModelCodeIsPutIntoUpperCase) {
     EXPECT_EQ(text, "xP");
 }
 
-TEST(ReceivedTextTest, aRecordingStartsWithinTheFirst32766Characters) {
+TEST(ReceivedTextTest, ARecordingStartsWithinTheFirst32766Characters) {
     std::string text = std::string(32765, '.') + "K";
     EXPECT_TRUE(upperCaseModel(text));
     text = std::string(32766, '.') + "K";
@@ -33,7 +33,7 @@ TEST(ReceivedTextTest, aRecordingStartsWithinTheFirst32766Characters) {
     EXPECT_FALSE(upperCaseModel(text));
 }
 
-TEST(ReceivedTextTest, theHeaderGoesFromItsInitialToTheEndOfItsLine) {
+TEST(ReceivedTextTest, TheHeaderGoesFromItsInitialToTheEndOfItsLine) {
     EXPECT_EQ(headerOf("\"\r\n\nKWTa 1\rT: 2"), "KWTa 1");
     EXPECT_EQ(headerOf("KWTa\nx"), "KWTa");
     EXPECT_EQ(headerOf("KWTa\x1a"), "KWTa");
@@ -41,7 +41,7 @@ TEST(ReceivedTextTest, theHeaderGoesFromItsInitialToTheEndOfItsLine) {
     EXPECT_EQ(headerOf("...\r"), "");
 }
 
-TEST(ReceivedTextTest, aTimeIsWrittenWhereItsHeaderHasIt) {
+TEST(ReceivedTextTest, ATimeIsWrittenWhereItsHeaderHasIt) {
     const ReadingTime time = toReadingTime({2025, 12, 1, 0, 30});
     std::string text = ".." + header("KWT", 'A', "??????????????") + "\rT: 1";
     setHeaderTime(text, time);
@@ -53,7 +53,7 @@ TEST(ReceivedTextTest, aTimeIsWrittenWhereItsHeaderHasIt) {
     EXPECT_EQ(text.size(), olderHeader.size() + 3);
 }
 
-TEST(ReceivedTextTest, aShortHeaderIsFilledUpWithBlanks) {
+TEST(ReceivedTextTest, AShortHeaderIsFilledUpWithBlanks) {
     std::string text = "KWTA\rT: 1";
     setHeaderTime(text, toReadingTime({2025, 12, 1, 0, 30}));
     EXPECT_EQ(text, "KWTA" + std::string(26, ' ') + "12-01-25 00:30\rT: 1");

@@ -21,7 +21,7 @@ struct RescueTest : ::testing::Test {
     }
 };
 
-TEST_F(RescueTest, anInterruptedReceptionIsJudgedAndAccepted) {
+TEST_F(RescueTest, AnInterruptedReceptionIsJudgedAndAccepted) {
     const std::string half = "k" + testing::memory(5).substr(1, 150);
     receive(half, JournalState::interrupted);
     prompt.answers = {Answer::Yes};
@@ -34,20 +34,20 @@ TEST_F(RescueTest, anInterruptedReceptionIsJudgedAndAccepted) {
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{errorReport({.ctrlZ = 0})});
 }
 
-TEST_F(RescueTest, noLeavesItAsItIs) {
+TEST_F(RescueTest, NoLeavesItAsItIs) {
     receive("KWT", JournalState::interrupted);
     prompt.answers = {Answer::No};
     EXPECT_FALSE(judgeReception(journal, "1", prompt));
     EXPECT_EQ(journal.receptions[0].state, JournalState::interrupted);
 }
 
-TEST_F(RescueTest, withoutARecordingItIsBadData) {
+TEST_F(RescueTest, WithoutARecordingItIsBadData) {
     receive("123", JournalState::interrupted);
     EXPECT_FALSE(judgeReception(journal, "1", prompt));
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{"Bad data. Try downloading again."});
 }
 
-TEST_F(RescueTest, aHeaderWithoutATimeAsksForIt) {
+TEST_F(RescueTest, AHeaderWithoutATimeAsksForIt) {
     receive(testing::memory(3, testing::header("KWT", 'b', "??????????????")), JournalState::received);
     prompt.inputs = {std::nullopt};
     EXPECT_FALSE(judgeReception(journal, "1", prompt));
@@ -56,11 +56,11 @@ TEST_F(RescueTest, aHeaderWithoutATimeAsksForIt) {
               testing::memory(3, testing::header("KWT", 'b', "03-01-24 12:30")));
 }
 
-TEST_F(RescueTest, aReceptionThatIsNotThereIsAFault) {
+TEST_F(RescueTest, AReceptionThatIsNotThereIsAFault) {
     EXPECT_THROW(judgeReception(journal, "7", prompt), Fault);
 }
 
-TEST_F(RescueTest, onlyUnsavedReceptionsWaitForTheUser) {
+TEST_F(RescueTest, OnlyUnsavedReceptionsWaitForTheUser) {
     for (const auto state : {JournalState::interrupted, JournalState::received, JournalState::accepted,
                              JournalState::refused, JournalState::saved, JournalState::dropped})
         receive("KWT", state);
@@ -73,7 +73,7 @@ TEST_F(RescueTest, onlyUnsavedReceptionsWaitForTheUser) {
     EXPECT_EQ(entries[2].state, JournalState::interrupted);
 }
 
-TEST_F(RescueTest, aRefusedReceptionIsOfferedUntilALaterOneOfItsInstrumentIsSaved) {
+TEST_F(RescueTest, ARefusedReceptionIsOfferedUntilALaterOneOfItsInstrumentIsSaved) {
     receive(testing::memory(), JournalState::refused);
     EXPECT_EQ(unsavedReceptions(journal).size(), 1U);
     receive(testing::memory(), JournalState::saved);
@@ -83,7 +83,7 @@ TEST_F(RescueTest, aRefusedReceptionIsOfferedUntilALaterOneOfItsInstrumentIsSave
     EXPECT_EQ(unsavedReceptions(journal)[0].id, "3");
 }
 
-TEST_F(RescueTest, theTextEndsAtItsFirstEndMarkAndWhatFollowsIsWarnedOf) {
+TEST_F(RescueTest, TheTextEndsAtItsFirstEndMarkAndWhatFollowsIsWarnedOf) {
     receive(testing::memory() + "more", JournalState::received);
     const auto pending = judgeReception(journal, "1", prompt);
     ASSERT_TRUE(pending);
@@ -91,7 +91,7 @@ TEST_F(RescueTest, theTextEndsAtItsFirstEndMarkAndWhatFollowsIsWarnedOf) {
     EXPECT_TRUE(prompt.texts().front().starts_with("4 characters followed the end mark"));
 }
 
-TEST_F(RescueTest, aReceptionInOneLine) {
+TEST_F(RescueTest, AReceptionInOneLine) {
     JournalEntry entry{.header = {.commPort = 2, .pcTime = toReadingTime({2024, 3, 15, 14, 5})},
                        .state = JournalState::interrupted,
                        .bytes = 120};

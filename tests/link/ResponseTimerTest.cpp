@@ -16,7 +16,7 @@ struct ResponseTimerTest : ::testing::Test, testing::LinkBench {
     }
 };
 
-TEST_F(ResponseTimerTest, startAndStopAreLoggedWithTheStateBefore) {
+TEST_F(ResponseTimerTest, StartAndStopAreLoggedWithTheStateBefore) {
     timer.StartTimer();
     EXPECT_EQ(timer.deadline(), 2500);
     timer.StartTimer();
@@ -30,7 +30,7 @@ TEST_F(ResponseTimerTest, startAndStopAreLoggedWithTheStateBefore) {
     EXPECT_EQ(panel.statuses.front(), "Treating unit as PQX-K4.  Waiting for response...");
 }
 
-TEST_F(ResponseTimerTest, theFlipGoesToTheOtherSettingsAndBack) {
+TEST_F(ResponseTimerTest, TheFlipGoesToTheOtherSettingsAndBack) {
     switchAutoType(instrument);
     EXPECT_EQ(instrument.instAutoCurrent, 8);
     EXPECT_EQ(instrument.portSettings, "115200,N,8,1");
@@ -41,7 +41,7 @@ TEST_F(ResponseTimerTest, theFlipGoesToTheOtherSettingsAndBack) {
     EXPECT_EQ(instrument.maxSamples, 10710);
 }
 
-TEST_F(ResponseTimerTest, theFlipReopensResetsAndRunsAnew) {
+TEST_F(ResponseTimerTest, TheFlipReopensResetsAndRunsAnew) {
     session.openPort();
     line.calls.clear();
     EXPECT_TRUE(timer.FlipPortSettings());
@@ -61,13 +61,13 @@ TEST_F(ResponseTimerTest, theFlipReopensResetsAndRunsAnew) {
                                         "Now treating unit as PQX-K4-W.  Waiting for response..."}));
 }
 
-TEST_F(ResponseTimerTest, theReasonStandsInTheStatusText) {
+TEST_F(ResponseTimerTest, TheReasonStandsInTheStatusText) {
     session.openPort();
     timer.FlipPortSettings("Bad header.");
     EXPECT_EQ(panel.statuses.front(), "Bad header. Changing settings. (Takes about 5 seconds)...");
 }
 
-TEST_F(ResponseTimerTest, aCancelDuringTheResetRaisesDtrAgain) {
+TEST_F(ResponseTimerTest, ACancelDuringTheResetRaisesDtrAgain) {
     session.openPort();
     waiter.cancelAt(1200);
     const auto flipped = timer.FlipPortSettings();
@@ -78,7 +78,7 @@ TEST_F(ResponseTimerTest, aCancelDuringTheResetRaisesDtrAgain) {
     EXPECT_FALSE(timer.running());
 }
 
-TEST_F(ResponseTimerTest, theJournalKnowsWhereTheOtherSettingsBegin) {
+TEST_F(ResponseTimerTest, TheJournalKnowsWhereTheOtherSettingsBegin) {
     session.openPort();
     line.send("old");
     session.Input();

@@ -14,7 +14,7 @@ const std::string nothingFound = "No valid run specs found in 'runspec.txt'.\r\n
                                  "  - To avoid getting this message either fix file 'runspec.txt'\r\n"
                                  "    or delete it.";
 
-TEST(RunspecTest, withoutTheFileTheDefaultsStandAndNothingIsShown) {
+TEST(RunspecTest, WithoutTheFileTheDefaultsStandAndNothingIsShown) {
     testing::MemoryFiles files;
     testing::QueuedPrompt prompt;
     const RunFlags flags = HandleRunspec(files, prompt, "/home/field");
@@ -25,7 +25,7 @@ TEST(RunspecTest, withoutTheFileTheDefaultsStandAndNothingIsShown) {
     EXPECT_FALSE(flags.anyFault());
 }
 
-TEST(RunspecTest, theFileStandsInTheWorkingDirectory) {
+TEST(RunspecTest, TheFileStandsInTheWorkingDirectory) {
     testing::MemoryFiles files;
     testing::QueuedPrompt prompt;
     files.contents["/home/field/runspec.txt"] = "enable999CountReport=True\r\n";
@@ -37,7 +37,7 @@ TEST(RunspecTest, theFileStandsInTheWorkingDirectory) {
                                                        "enable999CountReport=True\r\n"});
 }
 
-TEST(RunspecTest, eachOfTheTenLinesSetsItsFlag) {
+TEST(RunspecTest, EachOfTheTenLinesSetsItsFlag) {
     const std::vector<std::pair<std::string, bool RunFlags::*>> cases = {
         {"enableChange999sTo000=False", &RunFlags::enableChange999sTo000},
         {"enable999CountReport=True", &RunFlags::enable999CountReport},
@@ -58,7 +58,7 @@ TEST(RunspecTest, eachOfTheTenLinesSetsItsFlag) {
     }
 }
 
-TEST(RunspecTest, theDefaultValueCannotBeWritten) {
+TEST(RunspecTest, TheDefaultValueCannotBeWritten) {
     for (const std::string line :
          {"enableErrorReport=True", "enableChange999sTo000=True", "enableAddedReading=False"}) {
         const Runspec found = readRunspec(line + "\r\n");
@@ -67,7 +67,7 @@ TEST(RunspecTest, theDefaultValueCannotBeWritten) {
     }
 }
 
-TEST(RunspecTest, onlyAWholeLineInItsExactCaseCounts) {
+TEST(RunspecTest, OnlyAWholeLineInItsExactCaseCounts) {
     const Runspec found = readRunspec("enableAddedReading = True\n enableAddedReading=True\n"
                                       "EnableAddedReading=True\nenableAddedReading=True \n"
                                       "enableAddedReading=Truex\nenableAddedReading=true\n");
@@ -75,14 +75,14 @@ TEST(RunspecTest, onlyAWholeLineInItsExactCaseCounts) {
     EXPECT_EQ(found.report, nothingFound);
 }
 
-TEST(RunspecTest, theReportKeepsTheOrderOfTheFileAndLeavesOtherLinesOut) {
+TEST(RunspecTest, TheReportKeepsTheOrderOfTheFileAndLeavesOtherLinesOut) {
     const Runspec found = readRunspec("note\r\nenableMissingCtrlZ=True\r\n\r\nenableErrorReport=True\r\n"
                                       "enableErrorReport=False");
     EXPECT_EQ(found.report, "Flag settings per 'runspec.txt' file:\r\n" + bullet +
                                 "enableMissingCtrlZ=True\r\n" + bullet + "enableErrorReport=False\r\n");
 }
 
-TEST(RunspecTest, anEmptyFileGivesTheMessageAndTheDefaults) {
+TEST(RunspecTest, AnEmptyFileGivesTheMessageAndTheDefaults) {
     testing::MemoryFiles files;
     testing::QueuedPrompt prompt;
     files.contents["d/runspec.txt"] = "";
@@ -90,7 +90,7 @@ TEST(RunspecTest, anEmptyFileGivesTheMessageAndTheDefaults) {
     EXPECT_EQ(prompt.texts(), std::vector<std::string>{nothingFound});
 }
 
-TEST(RunspecTest, aFileThatCannotBeReadStopsWithItsFault) {
+TEST(RunspecTest, AFileThatCannotBeReadStopsWithItsFault) {
     testing::MemoryFiles files;
     testing::QueuedPrompt prompt;
     files.contents["d/runspec.txt"] = "enableErrorReport=False\r\n";

@@ -17,19 +17,19 @@ std::string withSerial(const std::string& serial, const std::string& time = "03-
     return "noise\r\n" + header("KWT", 'a', time).replace(7, 4, serial) + "\rT: 1\x1a";
 }
 
-TEST(SavedDownloadTest, theNameIsSerialNumberAndDay) {
+TEST(SavedDownloadTest, TheNameIsSerialNumberAndDay) {
     EXPECT_EQ(proposedName(withSerial("4127")), "4127-2024-03-31.dat");
     EXPECT_EQ(proposedName(withSerial(" 27 ")), "27-2024-03-31.dat");
     EXPECT_EQ(proposedName(withSerial("4/\\\x80")), "4___-2024-03-31.dat");
 }
 
-TEST(SavedDownloadTest, whatTheHeaderLacksIsLeftOut) {
+TEST(SavedDownloadTest, WhatTheHeaderLacksIsLeftOut) {
     EXPECT_EQ(proposedName(withSerial("    ")), "2024-03-31.dat");
     EXPECT_EQ(proposedName(withSerial("4127", "00-00-00 00:00")), "4127.dat");
     EXPECT_EQ(proposedName("KW\r"), "recording.dat");
 }
 
-TEST(SavedDownloadTest, theQuestionStartsWhereTheLastDownloadWent) {
+TEST(SavedDownloadTest, TheQuestionStartsWhereTheLastDownloadWent) {
     testing::MemorySettings settings;
     const FileQuestion first = saveQuestion(memory(), settings, "/default", "data files");
     EXPECT_TRUE(first.save);
@@ -43,7 +43,7 @@ TEST(SavedDownloadTest, theQuestionStartsWhereTheLastDownloadWent) {
     EXPECT_EQ(saveQuestion(memory(), settings, "/default", "").folder, "/");
 }
 
-TEST(SavedDownloadTest, saysWhereAndHowMuch) {
+TEST(SavedDownloadTest, SaysWhereAndHowMuch) {
     EXPECT_EQ(savedText(memory(3), "/d/new.dat"), "Saved in /d/new.dat: instrument 1234, 30 readings.");
     EXPECT_EQ(savedText("KW\r", "/d/new.dat"), "Saved in /d/new.dat.");
 }

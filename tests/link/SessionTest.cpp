@@ -12,7 +12,7 @@ struct SessionTest : ::testing::Test, LinkBench {
     void SetUp() override { journal.begin({}); }
 };
 
-TEST_F(SessionTest, opensThePortOneCharacterARead) {
+TEST_F(SessionTest, OpensThePortOneCharacterARead) {
     instrument.gCommPort = 3;
     instrument.portSettings = "115200,N,8,1";
     session.openPort();
@@ -23,7 +23,7 @@ TEST_F(SessionTest, opensThePortOneCharacterARead) {
                                                "EOFEnable false", "PortOpen true"}));
 }
 
-TEST_F(SessionTest, givesOneCharacterAndKeepsEveryOneInTheJournalBefore) {
+TEST_F(SessionTest, GivesOneCharacterAndKeepsEveryOneInTheJournalBefore) {
     session.openPort();
     line.send("abc");
     EXPECT_EQ(session.Input(), "a");
@@ -33,7 +33,7 @@ TEST_F(SessionTest, givesOneCharacterAndKeepsEveryOneInTheJournalBefore) {
     EXPECT_EQ(session.Input(), "");
 }
 
-TEST_F(SessionTest, dueComesBeforeCancelAndCancelBeforeData) {
+TEST_F(SessionTest, DueComesBeforeCancelAndCancelBeforeData) {
     session.openPort();
     line.send("ab");
     waiter.cancelNow();
@@ -49,7 +49,7 @@ TEST_F(SessionTest, dueComesBeforeCancelAndCancelBeforeData) {
     EXPECT_EQ(session.until(1), Wake::cancelled);
 }
 
-TEST_F(SessionTest, whatComesDuringAPauseIsKeptAndInTheJournal) {
+TEST_F(SessionTest, WhatComesDuringAPauseIsKeptAndInTheJournal) {
     session.openPort();
     line.sendAt(100, "xy");
     line.sendAt(200, "z");
@@ -61,14 +61,14 @@ TEST_F(SessionTest, whatComesDuringAPauseIsKeptAndInTheJournal) {
     EXPECT_EQ(session.Input(), "z");
 }
 
-TEST_F(SessionTest, aCancelEndsAPause) {
+TEST_F(SessionTest, ACancelEndsAPause) {
     session.openPort();
     waiter.cancelAt(300);
     EXPECT_EQ(session.pause(5000), Wake::cancelled);
     EXPECT_EQ(waiter.now(), 300);
 }
 
-TEST_F(SessionTest, closingDropsWhatWasReadButNotUsed) {
+TEST_F(SessionTest, ClosingDropsWhatWasReadButNotUsed) {
     session.openPort();
     line.send("abc");
     session.Input();
@@ -77,7 +77,7 @@ TEST_F(SessionTest, closingDropsWhatWasReadButNotUsed) {
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(SessionTest, aLineThatWentAwayIsLostWhenEverythingWasUsed) {
+TEST_F(SessionTest, ALineThatWentAwayIsLostWhenEverythingWasUsed) {
     session.openPort();
     line.send("ab");
     line.lose();
@@ -90,7 +90,7 @@ TEST_F(SessionTest, aLineThatWentAwayIsLostWhenEverythingWasUsed) {
     EXPECT_EQ(waiter.now(), 0);
 }
 
-TEST_F(SessionTest, theGuardClosesThePort) {
+TEST_F(SessionTest, TheGuardClosesThePort) {
     {
         const PortGuard guard(session);
         session.openPort();
@@ -98,7 +98,7 @@ TEST_F(SessionTest, theGuardClosesThePort) {
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(SessionTest, aWaitThatNothingCanEndFailsTheTest) {
+TEST_F(SessionTest, AWaitThatNothingCanEndFailsTheTest) {
     session.openPort();
     EXPECT_THROW(session.until(Waiter::never), std::logic_error);
 }

@@ -27,7 +27,7 @@ struct StatusCheckTest : ::testing::Test, testing::LinkBench {
     std::string told() const { return prompt.shown.size() == 2 ? prompt.shown[1].text : "not one box"; }
 };
 
-TEST_F(StatusCheckTest, showsTheFieldsAndAsksForAnother) {
+TEST_F(StatusCheckTest, ShowsTheFieldsAndAsksForAnother) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", header("KWT", 'c') + "\r", 800);
     const auto fields = check.StatusCheck();
@@ -42,7 +42,7 @@ TEST_F(StatusCheckTest, showsTheFieldsAndAsksForAnother) {
     EXPECT_EQ(line.written, "");
 }
 
-TEST_F(StatusCheckTest, yesStartsAgainAtThePrompt) {
+TEST_F(StatusCheckTest, YesStartsAgainAtThePrompt) {
     prompt.answers = {Answer::Ok, Answer::Yes, Answer::Ok, Answer::No};
     answers("9600,N,8,1", header() + "\r");
     EXPECT_TRUE(check.StatusCheck());
@@ -51,13 +51,13 @@ TEST_F(StatusCheckTest, yesStartsAgainAtThePrompt) {
     EXPECT_EQ(line.count("PortOpen true"), 2);
 }
 
-TEST_F(StatusCheckTest, cancelAtThePromptEndsIt) {
+TEST_F(StatusCheckTest, CancelAtThePromptEndsIt) {
     prompt.answers = {Answer::Cancel};
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(line.count("PortOpen true"), 0);
 }
 
-TEST_F(StatusCheckTest, cancelAtEachOf200InstantsClosesThePort) {
+TEST_F(StatusCheckTest, CancelAtEachOf200InstantsClosesThePort) {
     for (int i = 0; i < 200; ++i) {
         testing::LinkBench bench;
         bench.automatic(7);
@@ -75,7 +75,7 @@ TEST_F(StatusCheckTest, cancelAtEachOf200InstantsClosesThePort) {
     }
 }
 
-TEST_F(StatusCheckTest, automaticSelectionNamesTheTypeWhoseSettingsWork) {
+TEST_F(StatusCheckTest, AutomaticSelectionNamesTheTypeWhoseSettingsWork) {
     automatic(8);
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", header("KWT", 'c') + "\r", 6000);
@@ -87,7 +87,7 @@ TEST_F(StatusCheckTest, automaticSelectionNamesTheTypeWhoseSettingsWork) {
     EXPECT_EQ(panel.statuses[1], "No response. Changing settings. (Takes about 5 seconds)...");
 }
 
-TEST_F(StatusCheckTest, totalSilenceFlipsOnceAndGivesUpAt10000) {
+TEST_F(StatusCheckTest, TotalSilenceFlipsOnceAndGivesUpAt10000) {
     automatic(7);
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(waiter.now(), 10000);
@@ -96,7 +96,7 @@ TEST_F(StatusCheckTest, totalSilenceFlipsOnceAndGivesUpAt10000) {
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(StatusCheckTest, anIncompleteHeaderByTheSecondTimeOutIsShown) {
+TEST_F(StatusCheckTest, AnIncompleteHeaderByTheSecondTimeOutIsShown) {
     automatic(7);
     answers("115200,N,8,1", "..KW", 5100);
     EXPECT_FALSE(check.StatusCheck());
@@ -105,7 +105,7 @@ TEST_F(StatusCheckTest, anIncompleteHeaderByTheSecondTimeOutIsShown) {
                           closing);
 }
 
-TEST_F(StatusCheckTest, aWrongTokenFlipsAsABadHeader) {
+TEST_F(StatusCheckTest, AWrongTokenFlipsAsABadHeader) {
     automatic(7);
     prompt.answers = {Answer::Ok, Answer::No};
     answers("115200,N,8,1", header() + "\r", 6000, "PQX");
@@ -114,7 +114,7 @@ TEST_F(StatusCheckTest, aWrongTokenFlipsAsABadHeader) {
     EXPECT_EQ(instrument.instAutoCurrent, 8);
 }
 
-TEST_F(StatusCheckTest, wrongTokensAtBothRatesAreShown) {
+TEST_F(StatusCheckTest, WrongTokensAtBothRatesAreShown) {
     automatic(7);
     answers("none", "", 0, "xPQXab");
     EXPECT_FALSE(check.StatusCheck());
@@ -123,27 +123,27 @@ TEST_F(StatusCheckTest, wrongTokensAtBothRatesAreShown) {
                   closing);
 }
 
-TEST_F(StatusCheckTest, aLineThatEndsWithinTheTokenIsAFragment) {
+TEST_F(StatusCheckTest, ALineThatEndsWithinTheTokenIsAFragment) {
     automatic(7);
     answers("none", "", 0, "K\r");
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(), "Invalid header fragment received: 'K'" + closing);
 }
 
-TEST_F(StatusCheckTest, aHeaderWithoutAModeIsAFragment) {
+TEST_F(StatusCheckTest, AHeaderWithoutAModeIsAFragment) {
     answers("9600,N,8,1", "PQX\r");
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(), "Invalid header fragment received: 'PQX'" + closing);
 }
 
-TEST_F(StatusCheckTest, noiseIsAFragment) {
+TEST_F(StatusCheckTest, NoiseIsAFragment) {
     answers("9600,N,8,1", "H\x06H\r");
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(), "Invalid header fragment received: 'H\x06H'" + closing);
     EXPECT_EQ(waiter.now(), 100 + 250);
 }
 
-TEST_F(StatusCheckTest, aTimeThatIsNoneIsAFragment) {
+TEST_F(StatusCheckTest, ATimeThatIsNoneIsAFragment) {
     answers("9600,N,8,1", header("KWT", 'a', "99-99-99 99:99") + "\r");
     const auto fields = check.StatusCheck();
     ASSERT_FALSE(fields);
@@ -151,7 +151,7 @@ TEST_F(StatusCheckTest, aTimeThatIsNoneIsAFragment) {
     EXPECT_TRUE(told().starts_with("Invalid header fragment received: 'KWTa   1234"));
 }
 
-TEST_F(StatusCheckTest, aLaterInitialThatBeginsAReadableHeaderCounts) {
+TEST_F(StatusCheckTest, ALaterInitialThatBeginsAReadableHeaderCounts) {
     for (const char* noise : {"p\x06", "H\x06H", "k\xffHP\r", "P..\r\nh\r"}) {
         prompt.answers = {Answer::Ok, Answer::No};
         answers("9600,N,8,1", noise + header("PQX", 'c') + "\r");
@@ -164,13 +164,13 @@ TEST_F(StatusCheckTest, aLaterInitialThatBeginsAReadableHeaderCounts) {
     }
 }
 
-TEST_F(StatusCheckTest, anEndMarkBeforeTheHeaderDoesNotMakeItDeaf) {
+TEST_F(StatusCheckTest, AnEndMarkBeforeTheHeaderDoesNotMakeItDeaf) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", "\x80\x1a\x1a" + header() + "\r");
     EXPECT_TRUE(check.StatusCheck());
 }
 
-TEST_F(StatusCheckTest, anEndMarkWhileTheTokenIsAwaitedChangesTheRate) {
+TEST_F(StatusCheckTest, AnEndMarkWhileTheTokenIsAwaitedChangesTheRate) {
     automatic(7);
     prompt.answers = {Answer::Ok, Answer::No};
     answers("115200,N,8,1", header() + "\r", 6000, "\x1a");
@@ -178,7 +178,7 @@ TEST_F(StatusCheckTest, anEndMarkWhileTheTokenIsAwaitedChangesTheRate) {
     EXPECT_EQ(panel.statuses[1], "Bad header. Changing settings. (Takes about 5 seconds)...");
 }
 
-TEST_F(StatusCheckTest, anUnreadableHeaderWithoutEndIsGivenUp) {
+TEST_F(StatusCheckTest, AnUnreadableHeaderWithoutEndIsGivenUp) {
     answers("9600,N,8,1", "PQX\r");
     for (int i = 0; i < 10000; ++i)
         line.sendAt(100 + i, "12 34\r");
@@ -186,7 +186,7 @@ TEST_F(StatusCheckTest, anUnreadableHeaderWithoutEndIsGivenUp) {
     EXPECT_EQ(waiter.now(), 100 + 2500);
 }
 
-TEST_F(StatusCheckTest, aLowBatteryIsWarnedOf) {
+TEST_F(StatusCheckTest, ALowBatteryIsWarnedOf) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", "k" + header().substr(1) + "\r");
     EXPECT_TRUE(check.StatusCheck()->lowBattery);
@@ -194,7 +194,7 @@ TEST_F(StatusCheckTest, aLowBatteryIsWarnedOf) {
     EXPECT_EQ(prompt.shown[1].title, "WARNING");
 }
 
-TEST_F(StatusCheckTest, aModeLetterOutsideTheTableIsReportedWithItsCallPoint) {
+TEST_F(StatusCheckTest, AModeLetterOutsideTheTableIsReportedWithItsCallPoint) {
     answers("9600,N,8,1", header("KWT", 'z') + "\r");
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(),
@@ -202,38 +202,38 @@ TEST_F(StatusCheckTest, aModeLetterOutsideTheTableIsReportedWithItsCallPoint) {
     EXPECT_FALSE(line.isOpen());
 }
 
-TEST_F(StatusCheckTest, aPortThatCannotBeOpenedIsTold) {
+TEST_F(StatusCheckTest, APortThatCannotBeOpenedIsTold) {
     line.failOpen = Fault(8002, "Invalid port number");
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(), badPortText);
 }
 
-TEST_F(StatusCheckTest, aLineThatGoesAwayIsTold) {
+TEST_F(StatusCheckTest, ALineThatGoesAwayIsTold) {
     line.loseAt(400);
     EXPECT_FALSE(check.StatusCheck());
     EXPECT_EQ(told(), "COM1: the line went away");
 }
 
-TEST_F(StatusCheckTest, anotherTypeWaitsWithoutATimer) {
+TEST_F(StatusCheckTest, AnotherTypeWaitsWithoutATimer) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", header() + "\r", 7200000);
     EXPECT_TRUE(check.StatusCheck());
     EXPECT_EQ(panel.log, "");
 }
 
-TEST_F(StatusCheckTest, theWaitCanBeBounded) {
+TEST_F(StatusCheckTest, TheWaitCanBeBounded) {
     StatusCheckSession bounded(session, 3000);
     EXPECT_FALSE(bounded.StatusCheck());
     EXPECT_EQ(told(), "No response in  3 seconds.");
 }
 
-TEST_F(StatusCheckTest, anInstrumentThatNeverEndsItsLineIsNotListenedToForEver) {
+TEST_F(StatusCheckTest, AnInstrumentThatNeverEndsItsLineIsNotListenedToForEver) {
     prompt.answers = {Answer::Ok, Answer::No};
     answers("9600,N,8,1", header() + std::string(300000, 'x'));
     EXPECT_TRUE(check.StatusCheck());
 }
 
-TEST_F(StatusCheckTest, aPortFoundOpenIsClosedFirst) {
+TEST_F(StatusCheckTest, APortFoundOpenIsClosedFirst) {
     check.prepare();
     EXPECT_TRUE(prompt.shown.empty());
     session.openPort();

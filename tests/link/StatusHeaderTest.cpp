@@ -15,7 +15,7 @@ StatusFields fieldsOf(const std::string& line1) {
     return readStatusHeader(line1, false);
 }
 
-TEST(StatusHeaderTest, modeC) {
+TEST(StatusHeaderTest, ModeC) {
     const StatusFields fields = fieldsOf(header("KWT", 'c'));
     EXPECT_EQ(fields.state, "Running");
     EXPECT_EQ(fields.mode, "Average");
@@ -23,7 +23,7 @@ TEST(StatusHeaderTest, modeC) {
     EXPECT_EQ(fields.whenFull, "Cont");
 }
 
-TEST(StatusHeaderTest, modeUpperCaseH) {
+TEST(StatusHeaderTest, ModeUpperCaseH) {
     const StatusFields fields = fieldsOf(header("KWT", 'H'));
     EXPECT_EQ(fields.state, "Stopped");
     EXPECT_EQ(fields.mode, "Min/Max/Avg ");
@@ -31,7 +31,7 @@ TEST(StatusHeaderTest, modeUpperCaseH) {
     EXPECT_EQ(fields.whenFull, "Cont");
 }
 
-TEST(StatusHeaderTest, modeFIsNotAfterF) {
+TEST(StatusHeaderTest, ModeFIsNotAfterF) {
     const StatusFields fields = fieldsOf(header("KWT", 'f'));
     EXPECT_EQ(fields.state, "Running");
     EXPECT_EQ(fields.mode, "Average");
@@ -39,7 +39,7 @@ TEST(StatusHeaderTest, modeFIsNotAfterF) {
     EXPECT_EQ(fields.whenFull, "Stop");
 }
 
-TEST(StatusHeaderTest, aModeCharacterThatIsNoLetterFails) {
+TEST(StatusHeaderTest, AModeCharacterThatIsNoLetterFails) {
     StatusFields fields = fieldsOf(header("KWT", '5'));
     EXPECT_EQ(fields.mode, "FAIL; value is 5 ;   invalid  ");
     EXPECT_EQ(fields.state, "");
@@ -48,7 +48,7 @@ TEST(StatusHeaderTest, aModeCharacterThatIsNoLetterFails) {
     EXPECT_EQ(fieldsOf(header("KWT", '[')).mode, "FAIL; value is [ ;   invalid  ");
 }
 
-TEST(StatusHeaderTest, aLetterAfterMIsOutsideTheTable) {
+TEST(StatusHeaderTest, ALetterAfterMIsOutsideTheTable) {
     EXPECT_EQ(fieldsOf(header("KWT", 'm')).interval, std::nullopt);
     for (const char letter : {'n', 'N', 'z'})
         try {
@@ -59,7 +59,7 @@ TEST(StatusHeaderTest, aLetterAfterMIsOutsideTheTable) {
         }
 }
 
-TEST(StatusHeaderTest, batteryDigits) {
+TEST(StatusHeaderTest, BatteryDigits) {
     EXPECT_EQ(batteryText(fieldsOf(header()).vbatt.value()), "Vbatt = 3.806 volts");
     // 0x5dc is 1,500: 1500 * 0.003656 + 0.15 = 5.634
     EXPECT_EQ(batteryText(fieldsOf(header("KWT", 'a', "03-15-24 14:05", "5dc")).vbatt.value()),
@@ -68,7 +68,7 @@ TEST(StatusHeaderTest, batteryDigits) {
               "Vbatt = .150 volts");
 }
 
-TEST(StatusHeaderTest, noLabelOrNoDigitsGiveNoVoltage) {
+TEST(StatusHeaderTest, NoLabelOrNoDigitsGiveNoVoltage) {
     std::string line1 = header();
     line1[47] = 'v';
     EXPECT_EQ(fieldsOf(line1).vbatt, std::nullopt);
@@ -78,7 +78,7 @@ TEST(StatusHeaderTest, noLabelOrNoDigitsGiveNoVoltage) {
     EXPECT_EQ(fieldsOf(header("KWT", 'a', "03-15-24 14:05", "-11")).vbatt, std::nullopt);
 }
 
-TEST(StatusHeaderTest, theResultLabel) {
+TEST(StatusHeaderTest, TheResultLabel) {
     EXPECT_EQ(fieldsOf(header("kwt", 'H')).text(),
               " Type: KWT    Serial Number 1234\r Mode setting:  Min/Max/Avg 5 min Cont"
               " Time On: 14:05  Mar 15, 24 (03-15-24 14:05)     Condition: Stopped\rVbatt = 3.806 volts");
@@ -87,7 +87,7 @@ TEST(StatusHeaderTest, theResultLabel) {
               " Time On: 14:05  Mar 15, 24 (03-15-24 14:05)     Condition: Running");
 }
 
-TEST(StatusHeaderTest, aHeaderCanBeReadWhenItsTimeIsADateAndATime) {
+TEST(StatusHeaderTest, AHeaderCanBeReadWhenItsTimeIsADateAndATime) {
     EXPECT_TRUE(hasStatusFields(header()));
     for (const char* line : {"", "KWT", "KWTa", "H\x06H"})
         EXPECT_FALSE(hasStatusFields(line)) << line;
@@ -95,7 +95,7 @@ TEST(StatusHeaderTest, aHeaderCanBeReadWhenItsTimeIsADateAndATime) {
     EXPECT_FALSE(hasStatusFields(header("KWT", 'a', "              ")));
 }
 
-TEST(StatusHeaderTest, aBlankModeKeepsItsWordsAndIsExplainedUnderThem) {
+TEST(StatusHeaderTest, ABlankModeKeepsItsWordsAndIsExplainedUnderThem) {
     EXPECT_EQ(fieldsOf(header("HVN", ' ').substr(0, 44)).text(),
               " Type: HVN    Serial Number 1234\r Mode setting:  FAIL; value is   ;   invalid  "
               " Time On: 14:05  Mar 15, 24 (03-15-24 14:05)     Condition: "

@@ -8,7 +8,7 @@
 namespace tally {
 namespace {
 
-TEST(TextBlocksTest, everyCharacterIsWhatItIs) {
+TEST(TextBlocksTest, EveryCharacterIsWhatItIs) {
     for (int c = 0; c < 256; ++c) {
         std::string text(TextBlock::looksAt, ' ');
         text[5] = static_cast<char>(c);
@@ -21,7 +21,7 @@ TEST(TextBlocksTest, everyCharacterIsWhatItIs) {
     }
 }
 
-TEST(TextBlocksTest, threeNinesAreNotPlainWhereverTheyBegin) {
+TEST(TextBlocksTest, ThreeNinesAreNotPlainWhereverTheyBegin) {
     for (std::size_t at = 0; at < TextBlock::size; ++at) {
         std::string text(TextBlock::looksAt, ' ');
         text.replace(at, 3, "999");
@@ -31,7 +31,7 @@ TEST(TextBlocksTest, threeNinesAreNotPlainWhereverTheyBegin) {
     }
 }
 
-TEST(TextBlocksTest, thePlainStepsGiveTheSame) {
+TEST(TextBlocksTest, ThePlainStepsGiveTheSame) {
     std::uint32_t seed = 7;
     const std::string characters = "0123456789999 \r\n  99x\x1a";
     for (int round = 0; round < 2000; ++round) {
@@ -50,7 +50,7 @@ TEST(TextBlocksTest, thePlainStepsGiveTheSame) {
     }
 }
 
-TEST(TextBlocksTest, bitsAreCountedUpToEachByte) {
+TEST(TextBlocksTest, BitsAreCountedUpToEachByte) {
     const std::uint64_t counts = bitsUpToByte(0x80000000000100ffULL);
     // Byte 0 holds 8 bits, byte 2 one, byte 7 one.
     EXPECT_EQ(counts & 0xff, 8U);

@@ -13,12 +13,12 @@ const std::string head = "Downloaded data has the following error(s):\r\n";
 const std::string question = "\r\nDo you want to save this file anyway?\r\n"
                              " (If you click 'No' you can try another Download.)";
 
-TEST(ValidationReportTest, nothingIsReportedOfACleanText) {
+TEST(ValidationReportTest, NothingIsReportedOfACleanText) {
     EXPECT_EQ(errorReport({.count999 = 4, .ctrlZ = 1}), "");
     EXPECT_EQ(report999({.ctrlZ = 1}, true), "");
 }
 
-TEST(ValidationReportTest, eachFindingHasItsLine) {
+TEST(ValidationReportTest, EachFindingHasItsLine) {
     EXPECT_EQ(errorReport({.badLines = 3, .ctrlZ = 1}),
               head + bullet + "3 line(s) with an incorrect number of readings\r\n" + question);
     EXPECT_EQ(errorReport({.over999 = 2, .ctrlZ = 1}),
@@ -30,7 +30,7 @@ TEST(ValidationReportTest, eachFindingHasItsLine) {
                   question);
 }
 
-TEST(ValidationReportTest, findingsStandInOrder) {
+TEST(ValidationReportTest, FindingsStandInOrder) {
     EXPECT_EQ(
         errorReport(
             {.badLines = 1, .over999 = 2, .count999 = 9, .ctrlZ = 2, .badChars = 1, .firstBadChar = 26}),
@@ -40,14 +40,14 @@ TEST(ValidationReportTest, findingsStandInOrder) {
             "1 bad character(s)\r\n       (ASCII value of first bad character = 26)\r\n" + question);
 }
 
-TEST(ValidationReportTest, readingsOf999AreReportedAsConvertedOrLeft) {
+TEST(ValidationReportTest, ReadingsOf999AreReportedAsConvertedOrLeft) {
     EXPECT_EQ(report999({.count999 = 12}, true),
               "Download had 12 '999' reading(s)\r\n(which was/were converted to '000')");
     EXPECT_EQ(report999({.count999 = 1}, false),
               "Download had 1 '999' reading(s)\r\n(which was/were left as is)");
 }
 
-TEST(ValidationReportTest, aCleanTextIsKeptWithoutAQuestion) {
+TEST(ValidationReportTest, ACleanTextIsKeptWithoutAQuestion) {
     testing::QueuedPrompt prompt;
     std::string text = "T: 999 \x1a";
     EXPECT_TRUE(judgeDownload(text, {}, prompt));
@@ -55,7 +55,7 @@ TEST(ValidationReportTest, aCleanTextIsKeptWithoutAQuestion) {
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST(ValidationReportTest, theCountOf999ComesFirstThenTheErrorsWithTheirQuestion) {
+TEST(ValidationReportTest, TheCountOf999ComesFirstThenTheErrorsWithTheirQuestion) {
     testing::QueuedPrompt prompt;
     prompt.answers = {Answer::No};
     std::string text = "T: 999 1000 \x1a";
@@ -67,21 +67,21 @@ TEST(ValidationReportTest, theCountOf999ComesFirstThenTheErrorsWithTheirQuestion
     EXPECT_EQ(prompt.shown[1].buttons, Buttons::YesNo);
 }
 
-TEST(ValidationReportTest, yesKeepsTheText) {
+TEST(ValidationReportTest, YesKeepsTheText) {
     testing::QueuedPrompt prompt;
     prompt.answers = {Answer::Yes};
     std::string text = "T: 1000 \x1a";
     EXPECT_TRUE(judgeDownload(text, {}, prompt));
 }
 
-TEST(ValidationReportTest, withoutErrorReportsTheTextIsKeptWithoutAsking) {
+TEST(ValidationReportTest, WithoutErrorReportsTheTextIsKeptWithoutAsking) {
     testing::QueuedPrompt prompt;
     std::string text = "T: 1000 xyz";
     EXPECT_TRUE(judgeDownload(text, {.enableErrorReport = false}, prompt));
     EXPECT_TRUE(prompt.shown.empty());
 }
 
-TEST(ValidationReportTest, plantedFaultsAreFound) {
+TEST(ValidationReportTest, PlantedFaultsAreFound) {
     testing::QueuedPrompt prompt;
     prompt.answers = {Answer::Yes};
     std::string text = testing::memory(8);

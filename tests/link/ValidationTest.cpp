@@ -75,7 +75,7 @@ ValidationCounts plainly(std::string& text, bool change) {
     return {small(badLines), small(over), small(nines), small(ctrlZ), small(bad), first};
 }
 
-TEST(ValidationTest, aCleanTextHasNothingToReport) {
+TEST(ValidationTest, ACleanTextHasNothingToReport) {
     for (const int n : {1, 2, 3, 50, 1000}) {
         const ValidationCounts counts = counted(testing::memory(n));
         EXPECT_EQ(counts, (ValidationCounts{.ctrlZ = 1})) << n;
@@ -84,34 +84,34 @@ TEST(ValidationTest, aCleanTextHasNothingToReport) {
     }
 }
 
-TEST(ValidationTest, aShortLastLineIsBadOnlyWhenLfEndsIt) {
+TEST(ValidationTest, AShortLastLineIsBadOnlyWhenLfEndsIt) {
     EXPECT_EQ(counted("T:" + lines(2) + " 1 2 3\n\x1a").badLines, 1);
     EXPECT_EQ(counted("T:" + lines(2) + " 1 2 3\x1a").badLines, 0);
 }
 
-TEST(ValidationTest, theRestOfTheLineOfTheMarkIsTheFirstLine) {
+TEST(ValidationTest, TheRestOfTheLineOfTheMarkIsTheFirstLine) {
     EXPECT_EQ(counted("T: 1 2 3 4 5 6 7 8 9 10\n\x1a").badLines, 0);
     EXPECT_EQ(counted("T:\n 1 2 3 4 5 6 7 8 9 10\n\x1a").badLines, 1);
     EXPECT_EQ(counted("T: 1 2 3 4 5 6 7 8 9\n\x1a").badLines, 1);
     EXPECT_EQ(counted("T: 1 2 3 4 5 6 7 8 9 10 11\n\x1a").badLines, 1);
 }
 
-TEST(ValidationTest, aTNotFollowedByAColonStartsNothing) {
+TEST(ValidationTest, ATNotFollowedByAColonStartsNothing) {
     EXPECT_EQ(counted("T 1 2\nTT\n xyz"), ValidationCounts());
     EXPECT_EQ(counted("TT:1 x\x1a"), (ValidationCounts{.ctrlZ = 1, .badChars = 1, .firstBadChar = 'x'}));
 }
 
-TEST(ValidationTest, theHeaderIsNotLookedAt) {
+TEST(ValidationTest, TheHeaderIsNotLookedAt) {
     EXPECT_TRUE(counted("KWT?!\x1a\x1a 1234 999\n\nT:\x1a").clean());
 }
 
-TEST(ValidationTest, aTextWithoutTheMarkHasNoTerminator) {
+TEST(ValidationTest, ATextWithoutTheMarkHasNoTerminator) {
     const ValidationCounts counts = counted(testing::header() + "\r" + lines(3) + "\x1a");
     EXPECT_EQ(counts, ValidationCounts());
     EXPECT_EQ(counts.result(), "0 0 0 0 0");
 }
 
-TEST(ValidationTest, readingsAround999) {
+TEST(ValidationTest, ReadingsAround999) {
     EXPECT_EQ(counted("T: 0999 \x1a"), (ValidationCounts{.ctrlZ = 1}));
     EXPECT_EQ(counted("T: 1000 \x1a"), (ValidationCounts{.over999 = 1, .ctrlZ = 1}));
     EXPECT_EQ(counted("T: 999 \x1a"), (ValidationCounts{.count999 = 1, .ctrlZ = 1}));
@@ -120,7 +120,7 @@ TEST(ValidationTest, readingsAround999) {
     EXPECT_EQ(counted("T: 99999999999999999999999999 \x1a"), (ValidationCounts{.over999 = 1, .ctrlZ = 1}));
 }
 
-TEST(ValidationTest, aTerminatorWithinAReadingDoesNotEndIt) {
+TEST(ValidationTest, ATerminatorWithinAReadingDoesNotEndIt) {
     EXPECT_EQ(counted("T: 12\x1a"
                       "3 2 3 4 5 6 7 8 9 10\n"),
               (ValidationCounts{.ctrlZ = 1}));
@@ -130,7 +130,7 @@ TEST(ValidationTest, aTerminatorWithinAReadingDoesNotEndIt) {
               0);
 }
 
-TEST(ValidationTest, whatStandsBetweenHeaderAndMarkCountsAsBadLines) {
+TEST(ValidationTest, WhatStandsBetweenHeaderAndMarkCountsAsBadLines) {
     const std::string head = testing::header() + "\r";
     const std::string data = "T:" + lines(3) + "\x1a";
     EXPECT_EQ(counted(head + "\n" + data).badLines, 0);
@@ -141,12 +141,12 @@ TEST(ValidationTest, whatStandsBetweenHeaderAndMarkCountsAsBadLines) {
     EXPECT_EQ(counted("x\r\n" + head + data).badLines, 0); // noise before the header is passed over
 }
 
-TEST(ValidationTest, aReadingEndsWithTheText) {
+TEST(ValidationTest, AReadingEndsWithTheText) {
     EXPECT_EQ(counted("T: 999\x1a"), (ValidationCounts{.count999 = 1, .ctrlZ = 1}));
     EXPECT_EQ(counted("T: 999"), (ValidationCounts{.count999 = 1}));
 }
 
-TEST(ValidationTest, nineHundredNinetyNineIsRewrittenInPlaceWhenAsked) {
+TEST(ValidationTest, NineHundredNinetyNineIsRewrittenInPlaceWhenAsked) {
     std::string text = "T: 999 0999 1999 999\r 999\n9999\x1a";
     const std::string before = text;
     EXPECT_EQ(validate(text, false).count999, 3);
@@ -155,28 +155,28 @@ TEST(ValidationTest, nineHundredNinetyNineIsRewrittenInPlaceWhenAsked) {
     EXPECT_EQ(text, "T: 000 0999 1999 000\r 000\n9999\x1a");
 }
 
-TEST(ValidationTest, twoTerminatorsGiveOneBadCharacterOfCode26) {
+TEST(ValidationTest, TwoTerminatorsGiveOneBadCharacterOfCode26) {
     EXPECT_EQ(counted("T: 1\x1a\x1a"), (ValidationCounts{.ctrlZ = 2, .badChars = 1, .firstBadChar = 26}));
 }
 
-TEST(ValidationTest, theFirstBadCharacterIsRemembered) {
+TEST(ValidationTest, TheFirstBadCharacterIsRemembered) {
     EXPECT_EQ(counted("T: 1. \xff x\x1a"),
               (ValidationCounts{.ctrlZ = 1, .badChars = 3, .firstBadChar = '.'}));
     EXPECT_EQ(counted(std::string("T:\xff\0", 4)), (ValidationCounts{.badChars = 2, .firstBadChar = 255}));
 }
 
-TEST(ValidationTest, aBadCharacterDoesNotEndAReading) {
+TEST(ValidationTest, ABadCharacterDoesNotEndAReading) {
     EXPECT_EQ(counted("T: 1x2 3 4 5 6 7 8 9 10 11\n\x1a"),
               (ValidationCounts{.ctrlZ = 1, .badChars = 1, .firstBadChar = 'x'}));
     EXPECT_EQ(counted("T: 9x99 \x1a").count999, 0);
 }
 
-TEST(ValidationTest, theResultJoinsTheCounters) {
+TEST(ValidationTest, TheResultJoinsTheCounters) {
     EXPECT_EQ(counted("T: 1 999 1000 x\n\x1a\x1a").result(), "1 1 1 2 2");
     EXPECT_EQ(counted("T: 999 \x1a").result(), "");
 }
 
-TEST(ValidationTest, aCounterThatLeaves16BitsIsAnOverflowAndTheTextStays) {
+TEST(ValidationTest, ACounterThatLeaves16BitsIsAnOverflowAndTheTextStays) {
     std::string text = "T:" + std::string(32767, 'x') + " 999 ";
     EXPECT_EQ(counted(text).badChars, 32767);
     text += "x";
@@ -190,7 +190,7 @@ TEST(ValidationTest, aCounterThatLeaves16BitsIsAnOverflowAndTheTextStays) {
     EXPECT_EQ(text, before);
 }
 
-TEST(ValidationTest, blocksAndSingleCharactersCountAlike) {
+TEST(ValidationTest, BlocksAndSingleCharactersCountAlike) {
     std::uint32_t seed = 1;
     const auto random = [&seed](std::uint32_t below) {
         seed = seed * 1664525U + 1013904223U;

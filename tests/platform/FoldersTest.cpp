@@ -81,7 +81,7 @@ TEST(Folders, HomeIsTheFirstPlaceToChooseAFolderFrom) {
     EXPECT_EQ(volumes[0].root, QDir::homePath().toStdString());
 }
 
-TEST(QtClock, WallClockReadsLocalTimeAndTheOtherOneOnlyGoesForward) {
+TEST(Folders, WallClockReadsLocalTimeAndTheOtherOneOnlyGoesForward) {
     const QtClock clock;
     const QDateTime before = QDateTime::currentDateTime();
     const CivilTime time = toCivil(clock.localTime());

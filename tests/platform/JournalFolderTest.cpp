@@ -52,7 +52,7 @@ struct JournalFolderTest : ::testing::Test {
     }
 };
 
-TEST_F(JournalFolderTest, whatIsAppendedIsInTheFileAtOnce) {
+TEST_F(JournalFolderTest, WhatIsAppendedIsInTheFileAtOnce) {
     journal.begin(header);
     journal.append("KWT");
     journal.append("a   1234");
@@ -63,7 +63,7 @@ TEST_F(JournalFolderTest, whatIsAppendedIsInTheFileAtOnce) {
     EXPECT_EQ(raw.size(), 11);
 }
 
-TEST_F(JournalFolderTest, whatIsReadIntoItsRoomIsKeptBeforeItIsAppended) {
+TEST_F(JournalFolderTest, WhatIsReadIntoItsRoomIsKeptBeforeItIsAppended) {
     EXPECT_TRUE(journal.room().empty());
     journal.begin(header);
     const std::string id = journal.id();
@@ -90,12 +90,12 @@ TEST_F(JournalFolderTest, whatIsReadIntoItsRoomIsKeptBeforeItIsAppended) {
     EXPECT_EQ(QFile(QString::fromStdString(folder + "/" + id + ".raw")).size(), qint64(all.size()));
 }
 
-TEST_F(JournalFolderTest, zerosThatWereReceivedAreKept) {
+TEST_F(JournalFolderTest, ZerosThatWereReceivedAreKept) {
     const std::string text = std::string("\0a\0", 3) + std::string(9, '\0');
     EXPECT_EQ(journal.text(receive(text, JournalState::interrupted)), text);
 }
 
-TEST_F(JournalFolderTest, whatWasSavedBeforeItWasOnTheDiskStaysSaved) {
+TEST_F(JournalFolderTest, WhatWasSavedBeforeItWasOnTheDiskStaysSaved) {
     for (int i = 0; i < 20; ++i) {
         journal.begin(header);
         journal.append("kwt 999");
@@ -108,7 +108,7 @@ TEST_F(JournalFolderTest, whatWasSavedBeforeItWasOnTheDiskStaysSaved) {
     }
 }
 
-TEST_F(JournalFolderTest, anEntryTellsWhatIsKnown) {
+TEST_F(JournalFolderTest, AnEntryTellsWhatIsKnown) {
     journal.begin(header);
     journal.append("noise");
     journal.restart("115200,N,8,1");
@@ -133,7 +133,7 @@ TEST_F(JournalFolderTest, anEntryTellsWhatIsKnown) {
     EXPECT_EQ(journal.text(entry.id), "..KWTa   1234 and so on");
 }
 
-TEST_F(JournalFolderTest, allByteValuesAreKept) {
+TEST_F(JournalFolderTest, AllByteValuesAreKept) {
     std::string all;
     for (int i = 0; i < 256; ++i)
         all += static_cast<char>(i);
@@ -141,7 +141,7 @@ TEST_F(JournalFolderTest, allByteValuesAreKept) {
     EXPECT_EQ(journal.text(id), all);
 }
 
-TEST_F(JournalFolderTest, anAcceptedTextIsWhatIsSavedLater) {
+TEST_F(JournalFolderTest, AnAcceptedTextIsWhatIsSavedLater) {
     journal.begin(header);
     journal.append("kwt 999");
     journal.end(JournalState::received);
@@ -153,7 +153,7 @@ TEST_F(JournalFolderTest, anAcceptedTextIsWhatIsSavedLater) {
     EXPECT_EQ(journal.list().at(0).state, JournalState::saved);
 }
 
-TEST_F(JournalFolderTest, anAcceptedTextCanBeReadBeforeItIsOnTheDisk) {
+TEST_F(JournalFolderTest, AnAcceptedTextCanBeReadBeforeItIsOnTheDisk) {
     for (int i = 0; i < 20; ++i) {
         journal.begin(header);
         journal.append("kwt 999");
@@ -167,7 +167,7 @@ TEST_F(JournalFolderTest, anAcceptedTextCanBeReadBeforeItIsOnTheDisk) {
     }
 }
 
-TEST_F(JournalFolderTest, onlyAnAcceptedTextOnTheDiskIsKept) {
+TEST_F(JournalFolderTest, OnlyAnAcceptedTextOnTheDiskIsKept) {
     const std::string id = receive("KWT", JournalState::received);
     EXPECT_FALSE(journal.keeps(id));
     EXPECT_FALSE(journal.keeps(""));
@@ -178,7 +178,7 @@ TEST_F(JournalFolderTest, onlyAnAcceptedTextOnTheDiskIsKept) {
     EXPECT_FALSE(journal.keeps(id));
 }
 
-TEST_F(JournalFolderTest, anInterruptedReceptionCanBeAcceptedLater) {
+TEST_F(JournalFolderTest, AnInterruptedReceptionCanBeAcceptedLater) {
     const std::string id = receive("KWT", JournalState::interrupted);
     EXPECT_EQ(journal.list().at(0).state, JournalState::interrupted);
     journal.accept(id, "KWT!");
@@ -186,13 +186,13 @@ TEST_F(JournalFolderTest, anInterruptedReceptionCanBeAcceptedLater) {
     EXPECT_EQ(journal.text(id), "KWT!");
 }
 
-TEST_F(JournalFolderTest, aReceptionWithoutACharacterLeavesNothing) {
+TEST_F(JournalFolderTest, AReceptionWithoutACharacterLeavesNothing) {
     receive("", JournalState::interrupted);
     EXPECT_TRUE(journal.list().empty());
     EXPECT_EQ(names(), QStringList());
 }
 
-TEST_F(JournalFolderTest, charactersOutsideAReceptionAreIgnored) {
+TEST_F(JournalFolderTest, CharactersOutsideAReceptionAreIgnored) {
     journal.append("x");
     journal.restart("9600,N,8,1");
     const std::string id = receive("abc", JournalState::received);
@@ -200,7 +200,7 @@ TEST_F(JournalFolderTest, charactersOutsideAReceptionAreIgnored) {
     EXPECT_EQ(journal.text(id), "abc");
 }
 
-TEST_F(JournalFolderTest, theLast20AreKeptAndUnsavedOnesAlways) {
+TEST_F(JournalFolderTest, TheLast20AreKeptAndUnsavedOnesAlways) {
     const std::string unsaved = receive("first", JournalState::received);
     const std::string saved = receive("second", JournalState::saved);
     for (int i = 0; i < 25; ++i)
@@ -215,7 +215,7 @@ TEST_F(JournalFolderTest, theLast20AreKeptAndUnsavedOnesAlways) {
         EXPECT_GT(entries[i - 1].id, entries[i].id);
 }
 
-TEST_F(JournalFolderTest, aFolderThatCannotBeWrittenIsToldOnceForEachReceptionAndNothingElseHappens) {
+TEST_F(JournalFolderTest, AFolderThatCannotBeWrittenIsToldOnceForEachReceptionAndNothingElseHappens) {
     QFile blocker(dir.path() + QStringLiteral("/data"));
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     for (int i = 0; i < 2; ++i) {
@@ -237,14 +237,14 @@ TEST_F(JournalFolderTest, aFolderThatCannotBeWrittenIsToldOnceForEachReceptionAn
     EXPECT_EQ(journal.list().size(), 1U);
 }
 
-TEST_F(JournalFolderTest, anUnknownOrStrangeNameIsNotFound) {
+TEST_F(JournalFolderTest, AnUnknownOrStrangeNameIsNotFound) {
     for (const std::string id : {"", "2024", "../../etc/passwd", "20240315-140512-123-4/../x"}) {
         EXPECT_THROW(journal.text(id), Fault) << id;
         EXPECT_THROW(journal.mark(id, JournalState::saved), Fault) << id;
     }
 }
 
-TEST_F(JournalFolderTest, strangeAndDamagedFilesAreReadAsFarAsTheyGo) {
+TEST_F(JournalFolderTest, StrangeAndDamagedFilesAreReadAsFarAsTheyGo) {
     receive("KWTa   1234", JournalState::received);
     const auto put = [this](const std::string& name, const std::string& bytes) {
         QFile file(QString::fromStdString(folder + "/" + name));
@@ -265,7 +265,7 @@ TEST_F(JournalFolderTest, strangeAndDamagedFilesAreReadAsFarAsTheyGo) {
 }
 
 #ifndef Q_OS_WIN
-TEST_F(JournalFolderTest, everyFileIsForThisUserAlone) {
+TEST_F(JournalFolderTest, EveryFileIsForThisUserAlone) {
     const mode_t before = umask(0);
     journal.begin(header);
     journal.append("KWT");
@@ -285,7 +285,7 @@ TEST_F(JournalFolderTest, everyFileIsForThisUserAlone) {
 }
 
 // A limit on the size of files stands for a disk that fills up in the middle of a reception.
-TEST_F(JournalFolderTest, aDiskThatFillsUpLeavesWhatItTookAndSaysWhy) {
+TEST_F(JournalFolderTest, ADiskThatFillsUpLeavesWhatItTookAndSaysWhy) {
     rlimit usual = {};
     getrlimit(RLIMIT_FSIZE, &usual);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
@@ -310,7 +310,7 @@ TEST_F(JournalFolderTest, aDiskThatFillsUpLeavesWhatItTookAndSaysWhy) {
     EXPECT_EQ(journal.text(id), std::string(800, 'a') + std::string(200, 'b'));
 }
 
-TEST_F(JournalFolderTest, aLogThatAnotherProgramHoldsIsNotRemoved) {
+TEST_F(JournalFolderTest, ALogThatAnotherProgramHoldsIsNotRemoved) {
     const std::string id = "20200101-000000-000-1";
     receive("abc", JournalState::saved);
     QFile log(QString::fromStdString(folder + "/" + id + ".log"));
@@ -323,7 +323,7 @@ TEST_F(JournalFolderTest, aLogThatAnotherProgramHoldsIsNotRemoved) {
     EXPECT_FALSE(log.exists());
 }
 
-TEST_F(JournalFolderTest, aProgramThatIsKilledLeavesEveryByteAndNoLock) {
+TEST_F(JournalFolderTest, AProgramThatIsKilledLeavesEveryByteAndNoLock) {
     int pipeEnds[2];
     ASSERT_EQ(pipe(pipeEnds), 0);
     const pid_t child = fork();

@@ -28,7 +28,7 @@ struct PatientFilesTest : ::testing::Test {
     std::string path = (dir.path() + QStringLiteral("/a.dat")).toStdString();
 };
 
-TEST_F(PatientFilesTest, theEventLoopRunsOnWhileADiskIsSlow) {
+TEST_F(PatientFilesTest, TheEventLoopRunsOnWhileADiskIsSlow) {
     int ticks = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
@@ -40,7 +40,7 @@ TEST_F(PatientFilesTest, theEventLoopRunsOnWhileADiskIsSlow) {
     EXPECT_TRUE(files.same(path, path));
 }
 
-TEST_F(PatientFilesTest, aFaultReachesTheOneWhoWrites) {
+TEST_F(PatientFilesTest, AFaultReachesTheOneWhoWrites) {
     EXPECT_THROW(files.write(path + "/no/such", "text"), Fault);
     EXPECT_THROW(files.read(path, 10), Fault);
 }

@@ -9,7 +9,7 @@ namespace {
 
 using namespace sim;
 
-TEST(AddFault, ReadsFlagsNumbersAndStalls) {
+TEST(Faults, ReadsFlagsNumbersAndStalls) {
     Faults faults;
     for (const char* text : {"low-battery", "noise=20", "cable=5000", "stall=500:1500", "stall=600:0"})
         addFault(faults, text);
@@ -21,7 +21,7 @@ TEST(AddFault, ReadsFlagsNumbersAndStalls) {
     EXPECT_EQ(faults.stalls[0].milliseconds, 1500);
 }
 
-TEST(AddFault, RefusesWhatIsNone) {
+TEST(Faults, RefusesWhatIsNone) {
     Faults faults;
     for (const char* text :
          {"", "low-batery", "noise", "noise=", "noise=x", "noise=-1", "noise=2x", "noise=1000001", "silent=1",
@@ -29,7 +29,7 @@ TEST(AddFault, RefusesWhatIsNone) {
         EXPECT_THROW(addFault(faults, text), std::invalid_argument) << text;
 }
 
-TEST(FaultHelp, ExplainsEveryFaultOnALineOfItsOwn) {
+TEST(Faults, ExplainsEveryFaultOnALineOfItsOwn) {
     const std::string help = faultHelp();
     EXPECT_NE(help.find("  stall=N:MS        a pause of MS milliseconds"), std::string::npos);
     std::size_t from = 0;

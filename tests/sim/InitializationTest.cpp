@@ -186,7 +186,7 @@ TEST(Initialization, AMemoryThatIsOutAlreadyDelaysNoAnswer) {
     EXPECT_EQ(line.after(1000, "\t", 50), "\r\nSET");
 }
 
-TEST(InitializationFaults, EachStepCanFail) {
+TEST(Initialization, EachStepCanFail) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.faults.noAnswer = true;
     EXPECT_EQ(Ready(setup).after(1000, "\t", 9000), "");

@@ -96,14 +96,14 @@ TEST(Instrument, BeginsAnewAfterACloseAndReopen) {
     EXPECT_EQ(line.until(2 * longAfter).substr(0, 4), "KWTa");
 }
 
-TEST(Reset, IsIgnoredUnlessAskedFor) {
+TEST(Instrument, IsIgnoredUnlessAskedFor) {
     OpenInstrument line(setupWith(7, {1, 2}));
     EXPECT_EQ(line.until(520).size(), 19U);
     line.instrument.dtr(520, false);
     EXPECT_EQ(line.until(530).size(), 9U);
 }
 
-TEST(Reset, AnInstrumentThatRestartsIsSilentWhileDtrIsLow) {
+TEST(Instrument, AnInstrumentThatRestartsIsSilentWhileDtrIsLow) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.reset = Reset::restarts;
     OpenInstrument line(setup);
@@ -115,7 +115,7 @@ TEST(Reset, AnInstrumentThatRestartsIsSilentWhileDtrIsLow) {
     EXPECT_EQ(line.until(longAfter), currentHeader("KWT", 'a', "03-15-24 12:00") + "\rT:   1\x1a");
 }
 
-TEST(Reset, AnExcitedInstrumentSendsDuringTheResetAndAfter) {
+TEST(Instrument, AnExcitedInstrumentSendsDuringTheResetAndAfter) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.reset = Reset::excites;
     OpenInstrument line(setup);
@@ -127,7 +127,7 @@ TEST(Reset, AnExcitedInstrumentSendsDuringTheResetAndAfter) {
     EXPECT_EQ(line.until(longAfter), whole);
 }
 
-TEST(Reset, ClosedPortsStartNothing) {
+TEST(Instrument, ClosedPortsStartNothing) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.reset = Reset::excites;
     Instrument instrument(setup);
@@ -194,19 +194,19 @@ TEST(Instrument, WaitsForTheTrainerWhenAsked) {
     EXPECT_EQ(line.until(2 * longAfter).substr(0, 3), "KWT");
 }
 
-TEST(InstrumentFaults, LowBatterySendsTheInitialInLowerCase) {
+TEST(Instrument, LowBatterySendsTheInitialInLowerCase) {
     InstrumentSetup setup = setupWith(10, {1});
     setup.faults.lowBattery = true;
     EXPECT_EQ(OpenInstrument(setup).until(longAfter).substr(0, 3), "pQX");
 }
 
-TEST(InstrumentFaults, WrongTokenBeginsWithAnInitialAndIsNoKWT) {
+TEST(Instrument, WrongTokenBeginsWithAnInitialAndIsNoKWT) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.faults.wrongToken = true;
     EXPECT_EQ(OpenInstrument(setup).until(longAfter).substr(0, 3), "KWX");
 }
 
-TEST(InstrumentFaults, SilentSendsNothingAndStallsPause) {
+TEST(Instrument, SilentSendsNothingAndStallsPause) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.speed = 0;
     setup.faults.stalls = {{10, 700}};
@@ -217,7 +217,7 @@ TEST(InstrumentFaults, SilentSendsNothingAndStallsPause) {
     EXPECT_EQ(OpenInstrument(setup).until(longAfter), "");
 }
 
-TEST(InstrumentFaults, AModeOutsideTheTableAndATimeThatIsNone) {
+TEST(Instrument, AModeOutsideTheTableAndATimeThatIsNone) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.modeShown = 'z';
     setup.faults.badTime = true;
@@ -225,7 +225,7 @@ TEST(InstrumentFaults, AModeOutsideTheTableAndATimeThatIsNone) {
               currentHeader("KWT", 'z', "99-99-99 99:99").substr(0, 44));
 }
 
-TEST(InstrumentFaults, ThePulledCableFallsSilentAfterSoManyCharacters) {
+TEST(Instrument, ThePulledCableFallsSilentAfterSoManyCharacters) {
     for (const std::int64_t count : {0, 1, 3, 56, 63}) {
         InstrumentSetup setup = setupWith(7, {1});
         setup.faults.cable = count;
@@ -238,7 +238,7 @@ TEST(InstrumentFaults, ThePulledCableFallsSilentAfterSoManyCharacters) {
     }
 }
 
-TEST(InstrumentFaults, ThePulledAdapterTakesThePortAway) {
+TEST(Instrument, ThePulledAdapterTakesThePortAway) {
     for (const std::int64_t count : {0, 1, 50}) {
         InstrumentSetup setup = setupWith(7, {1});
         setup.faults.gone = count;
@@ -249,7 +249,7 @@ TEST(InstrumentFaults, ThePulledAdapterTakesThePortAway) {
     }
 }
 
-TEST(InstrumentFaults, AnEndlessTextWithoutPaceComesInPieces) {
+TEST(Instrument, AnEndlessTextWithoutPaceComesInPieces) {
     InstrumentSetup setup = setupWith(7, {1});
     setup.speed = 0;
     setup.faults.endless = true;

@@ -84,11 +84,11 @@ TEST(Script, RepeatsFromItsBegin) {
     }
 }
 
-TEST(ParseScript, RemarksAndBlankLinesSayNothing) {
+TEST(Script, RemarksAndBlankLinesSayNothing) {
     EXPECT_EQ(parseScript("# remark\n\n  plug  \r\n").size(), 1U);
 }
 
-TEST(ParseScript, RefusesWithTheNumberOfTheLine) {
+TEST(Script, RefusesWithTheNumberOfTheLine) {
     for (const char* line : {"plugg", "wait", "wait x", "wait -1", "wait 1e40", "wait nan", "plug now",
                              "fault nonsense", "send abc", "until-received", "repeat"}) {
         try {

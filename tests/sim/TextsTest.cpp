@@ -37,7 +37,7 @@ std::string text(const std::vector<int>& values, const Faults& faults = {}) {
 const std::string head = "KWTc   0042" + std::string(19, ' ') + "03-15-24 12:00\r\nT:";
 const std::string lineOne = "   1   2   3   4   5   6   7   8   9  10";
 
-TEST(HeaderText, PlacesTheFieldsOfTheCurrentLayout) {
+TEST(Texts, PlacesTheFieldsOfTheCurrentLayout) {
     const std::string text = headerText(example(), Layout::current);
     EXPECT_EQ(text.size(), 56U);
     EXPECT_EQ(text.substr(0, 3), "KWT");
@@ -48,39 +48,39 @@ TEST(HeaderText, PlacesTheFieldsOfTheCurrentLayout) {
     EXPECT_EQ(text.substr(53, 3), "0A5");
 }
 
-TEST(HeaderText, PlacesTheTimeOfTheOlderLayoutAtColumn47) {
+TEST(Texts, PlacesTheTimeOfTheOlderLayoutAtColumn47) {
     const std::string text = headerText(example(), Layout::older);
     EXPECT_EQ(text.size(), 60U);
     EXPECT_EQ(text.substr(46, 14), "03-15-24 12:00");
     EXPECT_EQ(text.substr(30, 16), std::string(16, ' '));
 }
 
-TEST(HeaderText, BriefLayoutEndsAtColumn44SoThatTheTStandsAtOffset46) {
+TEST(Texts, BriefLayoutEndsAtColumn44SoThatTheTStandsAtOffset46) {
     EXPECT_EQ(headerText(example(), Layout::brief).size(), 44U);
     EXPECT_EQ(text({1})[46], 'T');
 }
 
-TEST(MemoryText, TenReadingsALineNewestFirstAndCtrlZ) {
+TEST(Texts, TenReadingsALineNewestFirstAndCtrlZ) {
     EXPECT_EQ(text(counting(12)), head + lineOne + "\n\r  11  12\x1a");
 }
 
-TEST(MemoryText, AFullLastLineIsNotEnded) {
+TEST(Texts, AFullLastLineIsNotEnded) {
     EXPECT_EQ(text(counting(10)), head + lineOne + "\x1a");
 }
 
-TEST(MemoryText, AnEmptyMemoryIsHeaderAndEnd) {
+TEST(Texts, AnEmptyMemoryIsHeaderAndEnd) {
     EXPECT_EQ(text({}), head + "\x1a");
 }
 
-TEST(MemoryText, LowReadingsCarryOneDecimalInFiveColumns) {
+TEST(Texts, LowReadingsCarryOneDecimalInFiveColumns) {
     EXPECT_EQ(made(Layout::brief, {5, 1234}, true).text, head + "  0.5123.4\x1a");
 }
 
-TEST(MemoryText, CurrentLayoutEndsItsHeaderWithOneCarriageReturn) {
+TEST(Texts, CurrentLayoutEndsItsHeaderWithOneCarriageReturn) {
     EXPECT_EQ(made(Layout::current, {7}, false).text.substr(53), "0A5\rT:   7\x1a");
 }
 
-TEST(MemoryFaults, NoiseComesBeforeTheHeaderAndIsOfAnyValue) {
+TEST(Texts, NoiseComesBeforeTheHeaderAndIsOfAnyValue) {
     Faults faults;
     faults.noise = 10000;
     const std::string all = text({1}, faults);
@@ -91,7 +91,7 @@ TEST(MemoryFaults, NoiseComesBeforeTheHeaderAndIsOfAnyValue) {
     EXPECT_EQ(text({1}, faults).size(), head.size() + 3 + 5);
 }
 
-TEST(MemoryFaults, AnotherSeedDrawsOtherNoise) {
+TEST(Texts, AnotherSeedDrawsOtherNoise) {
     std::mt19937 one(1);
     std::mt19937 same(1);
     std::mt19937 two(2);
@@ -101,7 +101,7 @@ TEST(MemoryFaults, AnotherSeedDrawsOtherNoise) {
     EXPECT_NE(rubbish(40, one), noise); // nor does it repeat itself
 }
 
-TEST(MemoryFaults, TheTailOfAnOldTransmissionComesFirst) {
+TEST(Texts, TheTailOfAnOldTransmissionComesFirst) {
     Faults faults;
     faults.tail = 7;
     EXPECT_EQ(text({11, 12}, faults), "11  12\x1a" + head + "  11  12\x1a");
@@ -109,19 +109,19 @@ TEST(MemoryFaults, TheTailOfAnOldTransmissionComesFirst) {
     EXPECT_EQ(text({11, 12}, faults), "  11  12\x1a" + head + "  11  12\x1a");
 }
 
-TEST(MemoryFaults, AHeaderOnly) {
+TEST(Texts, AHeaderOnly) {
     Faults faults;
     faults.headerOnly = true;
     EXPECT_EQ(made(Layout::current, {1}, false, faults).text, headerText(example(), Layout::current) + "\r");
 }
 
-TEST(MemoryFaults, HeaderCutKeepsTheFirstColumns) {
+TEST(Texts, HeaderCutKeepsTheFirstColumns) {
     Faults faults;
     faults.headerCut = 9;
     EXPECT_EQ(text({1}, faults), "KWTc   00\r\nT:   1\x1a");
 }
 
-TEST(MemoryFaults, MissingAndDoubleEnd) {
+TEST(Texts, MissingAndDoubleEnd) {
     Faults none;
     none.noCtrlZ = true;
     EXPECT_EQ(text({1}, none), head + "   1");
@@ -138,14 +138,14 @@ TEST(MemoryFaults, MissingAndDoubleEnd) {
     EXPECT_EQ(text({1}, early), head + "   1\x1a\x1a");
 }
 
-TEST(MemoryFaults, ReadingsOf999AndOver) {
+TEST(Texts, ReadingsOf999AndOver) {
     Faults faults;
     faults.over = 2;
     faults.nines = 1;
     EXPECT_EQ(text(counting(3), faults), head + " 999 1234   3\x1a");
 }
 
-TEST(MemoryFaults, LinesWithTooFewTooManyAndADamagedOne) {
+TEST(Texts, LinesWithTooFewTooManyAndADamagedOne) {
     Faults faults;
     faults.shortLine = 1;
     faults.longLine = 2;
@@ -154,7 +154,7 @@ TEST(MemoryFaults, LinesWithTooFewTooManyAndADamagedOne) {
               head + lineOne.substr(0, 36) + "\n\r  11  12  13  14  15  16  17  18  19  20  11\n\r  21A\x1a");
 }
 
-TEST(MemoryFaults, EndlessGoesOnWithItsReadings) {
+TEST(Texts, EndlessGoesOnWithItsReadings) {
     Faults faults;
     faults.endless = true;
     const MemoryText endless = made(Layout::brief, {1}, false, faults);
@@ -164,7 +164,7 @@ TEST(MemoryFaults, EndlessGoesOnWithItsReadings) {
     EXPECT_EQ(made(Layout::brief, {1}, false, faults).repeatFrom, head.size() + 1);
 }
 
-TEST(MemoryFaults, BinaryHoldsEveryByteValue) {
+TEST(Texts, BinaryHoldsEveryByteValue) {
     Faults faults;
     faults.binary = 256;
     std::string all = text({1}, faults);

@@ -40,14 +40,14 @@ void press(QDialog& box, const QString& caption) {
     FAIL() << "no button " << caption.toStdString();
 }
 
-TEST(MessageBox, EveryKindOfLineBreakBreaksALineAndBlanksStay) {
+TEST(QtPrompt, EveryKindOfLineBreakBreaksALineAndBlanksStay) {
     MessageBox box({.text = "  one\rtwo  \r\nthree\nfour   <b>"});
     EXPECT_EQ(label(box).text(), QStringLiteral("  one\ntwo  \nthree\nfour   <b>"));
     EXPECT_EQ(label(box).textFormat(), Qt::PlainText);
     EXPECT_EQ(box.windowTitle(), QStringLiteral("Tallyline"));
 }
 
-TEST(MessageBox, StandsUnderTheDialogThatItSpeaksOf) {
+TEST(QtPrompt, StandsUnderTheDialogThatItSpeaksOf) {
     QDialog about;
     about.setGeometry(100, 50, 300, 200);
     about.show();
@@ -56,14 +56,14 @@ TEST(MessageBox, StandsUnderTheDialogThatItSpeaksOf) {
     EXPECT_GE(box.frameGeometry().top(), about.frameGeometry().bottom());
 }
 
-TEST(MessageBox, PaddedTextsAreInAFixedWidthFontAndOthersAreNot) {
+TEST(QtPrompt, PaddedTextsAreInAFixedWidthFontAndOthersAreNot) {
     MessageBox padded({.text = "             CAUTION          \r    For Voltage Recorders press  "});
     EXPECT_TRUE(QFontInfo(label(padded).font()).fixedPitch());
     MessageBox plain({.text = "Error - No file available.  Need to open a file."});
     EXPECT_FALSE(QFontInfo(label(plain).font()).fixedPitch());
 }
 
-TEST(MessageBox, LongLinesAreWrappedPaddedOnesNever) {
+TEST(QtPrompt, LongLinesAreWrappedPaddedOnesNever) {
     MessageBox box({.text = std::string(300, 'x')});
     EXPECT_TRUE(label(box).wordWrap());
     MessageBox padded({.text = std::string(20, ' ') + "x"});

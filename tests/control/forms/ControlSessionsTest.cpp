@@ -34,7 +34,7 @@ void proceed(const char* option) {
     });
 }
 
-TEST(AbortForm, InitializesWithTheChosenOptions) {
+TEST(ControlSessions, InitializesWithTheChosenOptions) {
     SessionBench bench(7);
     answerInitialization(bench);
     bench.prompt.answers = {Answer::Ok, Answer::Ok, Answer::No}; // warning, connection, another
@@ -52,7 +52,7 @@ TEST(AbortForm, InitializesWithTheChosenOptions) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST(AbortForm, IsNotShownBeforeTheConnectionPromptIsAnswered) {
+TEST(ControlSessions, IsNotShownBeforeTheConnectionPromptIsAnswered) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Ok, Answer::Cancel};
     bool shownEarly = false;
@@ -66,7 +66,7 @@ TEST(AbortForm, IsNotShownBeforeTheConnectionPromptIsAnswered) {
     EXPECT_FALSE(shownEarly);
 }
 
-TEST(AbortForm, CancelOfTheOptionsSendsNothing) {
+TEST(ControlSessions, CancelOfTheOptionsSendsNothing) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Ok};
     soon([] { click(*shownDialog("InitInst"), "Command2"); });
@@ -74,14 +74,14 @@ TEST(AbortForm, CancelOfTheOptionsSendsNothing) {
     EXPECT_EQ(bench.line.written, "");
 }
 
-TEST(AbortForm, CancelOfTheWarningShowsNoOptions) {
+TEST(ControlSessions, CancelOfTheWarningShowsNoOptions) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Cancel};
     runInitialize(nullptr, bench.context);
     EXPECT_TRUE(bench.line.calls.empty());
 }
 
-TEST(AbortForm, CANCELEscapeAndClosingRequestACancelAtEveryMoment) {
+TEST(ControlSessions, CANCELEscapeAndClosingRequestACancelAtEveryMoment) {
     for (int way = 0; way < 3; ++way) {
         SessionBench bench(7);
         answerInitialization(bench);
@@ -105,14 +105,14 @@ TEST(AbortForm, CANCELEscapeAndClosingRequestACancelAtEveryMoment) {
     }
 }
 
-TEST(AbortForm, HasItsDesignTextUntilTheFirstOne) {
+TEST(ControlSessions, HasItsDesignTextUntilTheFirstOne) {
     SessionBench bench(7);
     const Abort dialog(bench.context, nullptr);
     EXPECT_EQ(labelText(dialog, "Label1"), "NO REPONSE");
     EXPECT_FALSE(dialog.isVisible());
 }
 
-TEST(AbortForm, TheOptionsShowTheJournalsLine) {
+TEST(ControlSessions, TheOptionsShowTheJournalsLine) {
     SessionBench bench(7);
     bench.journal.begin({});
     bench.journal.append("PQX");
@@ -128,7 +128,7 @@ TEST(AbortForm, TheOptionsShowTheJournalsLine) {
     EXPECT_NE(line.find("NOT SAVED YET"), std::string::npos);
 }
 
-TEST(RecoverForm, PromptsThenRecovers) {
+TEST(ControlSessions, PromptsThenRecovers) {
     SessionBench bench(7);
     std::string text = connected + "T: 1 2 3\r\n\x1a";
     text[3] = 'F';
@@ -158,7 +158,7 @@ TEST(RecoverForm, PromptsThenRecovers) {
     EXPECT_TRUE(bench.files.contents.contains("/cache/temp.dat"));
 }
 
-TEST(RecoverForm, CancelButtonWhileItWaitsEndsIt) {
+TEST(ControlSessions, CancelButtonWhileItWaitsEndsIt) {
     SessionBench bench(7);
     soon([] { click(*shownDialog("recover"), "OK"); });
     bench.waiter.at(10000, [] { click(*shownDialog("recover"), "CancelButton"); });
@@ -167,7 +167,7 @@ TEST(RecoverForm, CancelButtonWhileItWaitsEndsIt) {
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST(RecoverForm, AutomaticSelectionIsRefusedWithoutADialog) {
+TEST(ControlSessions, AutomaticSelectionIsRefusedWithoutADialog) {
     SessionBench bench(11);
     EXPECT_FALSE(runRecover(nullptr, bench.context, bench.files, "/cache/temp.dat"));
     EXPECT_EQ(bench.prompt.shown.size(), 1U);

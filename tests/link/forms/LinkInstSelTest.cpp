@@ -18,7 +18,7 @@ InstrumentState chosen(int code) {
     return state;
 }
 
-TEST(InstSelForm, HasTheTypesInTheOrderOfTheirCodes) {
+TEST(LinkInstSel, HasTheTypesInTheOrderOfTheirCodes) {
     InstrumentState state;
     const InstSel form(state, false, nullptr);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Instrument Selection"));
@@ -39,14 +39,14 @@ TEST(InstSelForm, HasTheTypesInTheOrderOfTheirCodes) {
                   QString::fromLatin1(captions[i]));
 }
 
-TEST(InstSelForm, SaysWhatToDo) {
+TEST(LinkInstSel, SaysWhatToDo) {
     InstrumentState state;
     EXPECT_EQ(labelText(InstSel(state, false, nullptr), "Label1"),
               "Please select the instrument you're using and then Press OK.");
     EXPECT_EQ(labelText(InstSel(state, true, nullptr), "Label1"), "Must first select an instrument type:");
 }
 
-TEST(InstSelForm, OkAndPropertiesWaitForAClickOnAType) {
+TEST(LinkInstSel, OkAndPropertiesWaitForAClickOnAType) {
     for (int code = 1; code <= 11; ++code) {
         InstrumentState state = chosen(7);
         const InstSel form(state, false, nullptr);
@@ -60,7 +60,7 @@ TEST(InstSelForm, OkAndPropertiesWaitForAClickOnAType) {
     }
 }
 
-TEST(InstSelForm, ExitIsHiddenAndDisabled) {
+TEST(LinkInstSel, ExitIsHiddenAndDisabled) {
     InstrumentState state;
     InstSel form(state, true, nullptr);
     form.show();
@@ -70,7 +70,7 @@ TEST(InstSelForm, ExitIsHiddenAndDisabled) {
     EXPECT_TRUE(named(form, "CancelButton")->isEnabled());
 }
 
-TEST(InstSelForm, OkTakesTheCheckedTypeIntoForce) {
+TEST(LinkInstSel, OkTakesTheCheckedTypeIntoForce) {
     InstrumentState state;
     soon([] {
         QDialog* form = shownDialog("InstSel");
@@ -83,7 +83,7 @@ TEST(InstSelForm, OkTakesTheCheckedTypeIntoForce) {
     EXPECT_EQ(state.maxSamples, 42966);
 }
 
-TEST(InstSelForm, NoneOfTheAboveKeepsTheType) {
+TEST(LinkInstSel, NoneOfTheAboveKeepsTheType) {
     InstrumentState state = chosen(5);
     InstSel form(state, false, nullptr);
     click(form, "Option1");
@@ -92,7 +92,7 @@ TEST(InstSelForm, NoneOfTheAboveKeepsTheType) {
     EXPECT_EQ(state.instSelection, 5);
 }
 
-TEST(InstSelForm, CancelAfterPropertiesRestoresWhatWasBefore) {
+TEST(LinkInstSel, CancelAfterPropertiesRestoresWhatWasBefore) {
     InstrumentState state = chosen(1);
     InstSel form(state, false, nullptr);
     click(form, "Option8");
@@ -105,7 +105,7 @@ TEST(InstSelForm, CancelAfterPropertiesRestoresWhatWasBefore) {
     EXPECT_EQ(state.maxSamples, 2091);
 }
 
-TEST(InstSelForm, EscapeIsCancel) {
+TEST(LinkInstSel, EscapeIsCancel) {
     InstrumentState state = chosen(1);
     soon([] {
         QDialog* form = shownDialog("InstSel");
@@ -116,7 +116,7 @@ TEST(InstSelForm, EscapeIsCancel) {
     EXPECT_EQ(state.instSelection, 1);
 }
 
-TEST(InstPropertiesForm, ShowsTheSettingsOfAFixedTypeWithOkDisabled) {
+TEST(LinkInstSel, ShowsTheSettingsOfAFixedTypeWithOkDisabled) {
     InstrumentState state = chosen(7);
     const InstProperties form(state, nullptr);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Instrument Properties"));
@@ -130,7 +130,7 @@ TEST(InstPropertiesForm, ShowsTheSettingsOfAFixedTypeWithOkDisabled) {
     EXPECT_FALSE(named(form, "OK")->isEnabled());
 }
 
-TEST(InstPropertiesForm, ChecksTheSizeInForce) {
+TEST(LinkInstSel, ChecksTheSizeInForce) {
     const std::pair<int, const char*> sizes[] = {
         {42966, "Option3"}, {21462, "Option4"}, {10710, "Option5"}, {294, "Option6"}, {2091, "Option7"}};
     const char* const captions[] = {"42,966  (512 kbit eeprom)", "21,462  (256 kbit eeprom)",
@@ -147,7 +147,7 @@ TEST(InstPropertiesForm, ChecksTheSizeInForce) {
     }
 }
 
-TEST(InstPropertiesForm, OkSetsTheCustomValuesAndTakesThemIntoForce) {
+TEST(LinkInstSel, OkSetsTheCustomValuesAndTakesThemIntoForce) {
     InstrumentState state = chosen(9);
     InstProperties form(state, nullptr);
     click(form, "Option2");
@@ -160,7 +160,7 @@ TEST(InstPropertiesForm, OkSetsTheCustomValuesAndTakesThemIntoForce) {
     EXPECT_FALSE(form.isVisible());
 }
 
-TEST(InstPropertiesForm, CancelChangesNothing) {
+TEST(LinkInstSel, CancelChangesNothing) {
     InstrumentState state = chosen(9);
     InstProperties form(state, nullptr);
     click(form, "Option2");

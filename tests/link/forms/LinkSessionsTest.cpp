@@ -32,7 +32,7 @@ void pressOk(QDialog& dialog) {
     click(dialog, "OK");
 }
 
-TEST(DwnloaditemForm, StartsWithThePromptAndAnEmptyLog) {
+TEST(LinkSessions, StartsWithThePromptAndAnEmptyLog) {
     SessionBench bench(7);
     download(bench, [](QDialog& dialog) {
         EXPECT_TRUE(dialog.isModal());
@@ -50,7 +50,7 @@ TEST(DwnloaditemForm, StartsWithThePromptAndAnEmptyLog) {
     EXPECT_EQ(bench.line.count("PortOpen true"), 1); // the try alone
 }
 
-TEST(DwnloaditemForm, OkRunsTheWholeDownload) {
+TEST(LinkSessions, OkRunsTheWholeDownload) {
     SessionBench bench(7);
     bench.line.sendAt(500, recording());
     std::string log;
@@ -73,7 +73,7 @@ TEST(DwnloaditemForm, OkRunsTheWholeDownload) {
     EXPECT_EQ(bench.mainStatuses.back(), "");
 }
 
-TEST(DwnloaditemForm, CancelEscapeAndClosingBeforeOkEndTheCommand) {
+TEST(LinkSessions, CancelEscapeAndClosingBeforeOkEndTheCommand) {
     for (int way = 0; way < 3; ++way) {
         SessionBench bench(7);
         const auto accepted = download(bench, [way](QDialog& dialog) {
@@ -90,7 +90,7 @@ TEST(DwnloaditemForm, CancelEscapeAndClosingBeforeOkEndTheCommand) {
     }
 }
 
-TEST(DwnloaditemForm, WhileItRunsCancelEscapeAndClosingOnlyRequestACancel) {
+TEST(LinkSessions, WhileItRunsCancelEscapeAndClosingOnlyRequestACancel) {
     for (int way = 0; way < 3; ++way) {
         SessionBench bench(7);
         bench.line.sendAt(500, "PQX");
@@ -112,7 +112,7 @@ TEST(DwnloaditemForm, WhileItRunsCancelEscapeAndClosingOnlyRequestACancel) {
     }
 }
 
-TEST(DwnloaditemForm, AFaultClosesTheDialogAndGoesToTheCaller) {
+TEST(LinkSessions, AFaultClosesTheDialogAndGoesToTheCaller) {
     SessionBench bench(7);
     // More bad characters than a 16-bit counter holds.
     bench.line.sendAt(500, instrumentHeader("PQX", 'a') + "\r\nT: " + std::string(32'768, 'x') + "\r\n\x1a");
@@ -121,7 +121,7 @@ TEST(DwnloaditemForm, AFaultClosesTheDialogAndGoesToTheCaller) {
     EXPECT_FALSE(bench.line.isOpen());
 }
 
-TEST(DwnloaditemForm, TheMainWindowHasTheHourglassWhileCharactersCome) {
+TEST(LinkSessions, TheMainWindowHasTheHourglassWhileCharactersCome) {
     SessionBench bench(7);
     QMainWindow window;
     bench.line.sendPaced(500, recording(), 1);
@@ -132,7 +132,7 @@ TEST(DwnloaditemForm, TheMainWindowHasTheHourglassWhileCharactersCome) {
     EXPECT_EQ(window.cursor().shape(), Qt::ArrowCursor);
 }
 
-TEST(StatusForm, ShowsTheResultUntilNoOther) {
+TEST(LinkSessions, ShowsTheResultUntilNoOther) {
     SessionBench bench(7);
     bench.line.sendAt(500, instrumentHeader("PQX", 'c') + "   Vbatt 3E8\r");
     bench.prompt.answers = {Answer::Ok, Answer::No};
@@ -151,7 +151,7 @@ TEST(StatusForm, ShowsTheResultUntilNoOther) {
     EXPECT_NE(result.find("\nVbatt = 3.806 volts"), std::string::npos);
 }
 
-TEST(StatusForm, CancelEndsTheCheckWithCallPoint114) {
+TEST(LinkSessions, CancelEndsTheCheckWithCallPoint114) {
     SessionBench bench(7);
     bench.prompt.answers = {Answer::Ok};
     bench.waiter.at(1000, [] { click(*shownDialog("status"), "Command2"); });
