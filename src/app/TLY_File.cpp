@@ -46,13 +46,13 @@ bool mayReplace(const Services& services, const std::string& path, const Range& 
         const FileFacts& info = services.recordings.info(slot);
         if (info.path.empty() || info.count <= range.entries() || !services.files.same(info.path, path))
             continue;
-        return services.prompt.show(
-                   {.text = info.path + " is open and holds " + std::to_string(info.count) +
-                            " readings.\r\nReplace it by " +
-                            (part.empty() ? std::to_string(range.entries()) + " readings" : part) + "?",
-                    .buttons = Buttons::YesNo,
-                    .exclamation = true,
-                    .defaultAnswer = Answer::No}) == Answer::Yes;
+        return services.prompt.show({.text = info.path + " is open and holds " +
+                                             counted(info.count, "reading") + ".\r\nReplace it by " +
+                                             (part.empty() ? counted(range.entries(), "reading") : part) +
+                                             "?",
+                                     .buttons = Buttons::YesNo,
+                                     .exclamation = true,
+                                     .defaultAnswer = Answer::No}) == Answer::Yes;
     }
     return true;
 }

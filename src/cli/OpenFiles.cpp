@@ -3,12 +3,12 @@
 
 #include "cli/ArchiveFiles.h"
 #include "cli/ArchivePlace.h"
-#include "core/Aligned.h"
 #include "core/Fault.h"
 #include "core/Fileopen.h"
 #include "core/ModeTable.h"
 #include "core/NotesFile.h"
 #include "core/Numbers.h"
+#include "core/TimeAxis.h"
 #include "platform/FilePath.h"
 #include "view/FilesTogether.h"
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Endings.h"
 #include "cli/Json.h"
 #include "cli/PowerOptions.h"
 #include "view/FilesTogether.h"
@@ -79,8 +80,8 @@ int run(Context& context, const Options& options) {
     const QSize size = sizeOf(options.size);
     if (options.to.empty() && !*options.json)
         throw WrongUsage("Name the picture to write with -o, or ask for --json");
-    if (!options.to.empty() && !pictureKind(options.to))
-        throw WrongUsage("-o: '" + options.to + "' must end in .png, .pdf or .svg");
+    if (!options.to.empty())
+        endingOf(options.to, {"png", "pdf", "svg"});
     OpenFiles open = openTogether(context, *options.files, *options.range, *options.align);
     const Plot plot = draw(context, open, options);
     if (const std::string shorter = shorterFiles(open.recordings); !shorter.empty())

@@ -36,6 +36,10 @@ Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<R
 // The same of the files that are open.
 Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<Range> range = {});
 
+// The files cut to a common time axis of theirs: reading i of each stands for the same time. Facts that speak
+// of the whole file stay, save count and start; what was forced outside the axis is left out.
+Recordings aligned(const Recordings& recordings, const TimeAxis& axis);
+
 // What is to be said of files without a common axis: "b.dat starts 26 h after a.dat; readings are combined by
 // number, not by time"; empty for no minutes.
 std::string startsApart(const std::string& file, const std::string& first, std::int64_t minutes);

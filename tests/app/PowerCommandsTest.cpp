@@ -62,6 +62,14 @@ TEST_F(PowerCommands, VoltagesEnteredAreOfferedAgainAfterClose) {
     EXPECT_THAT(prompt.asked.back().choices, ElementsAre("4160", "13800"));
 }
 
+TEST_F(PowerCommands, VoltageWithAGroupingCommaIsOfferedAgainAsThatManyVolts) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    prompt.inputs = {"13,800", "13,800"};
+    click("mnuItemViewPower");
+    click("mnuItemViewPower");
+    EXPECT_THAT(prompt.asked.back().choices, ElementsAre("13800"));
+}
+
 TEST_F(PowerCommands, KilovoltsGetAHintButAreTaken) {
     open("/d/a.dat", dataFile('a', constant(8, 1000)));
     prompt.inputs.push_back("13.8");
