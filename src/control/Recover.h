@@ -45,7 +45,7 @@ private:
     WaitHint hint_;
     std::int64_t waitFor_;
     HeaderScan scan_;
-    std::size_t followed_ = 0; // characters behind the end mark
+    std::size_t followed_ = 0; // characters after the end mark
     std::string text_;         // as it arrives, the family initial in upper case
     int progress_ = 0;
     bool headerPassed_ = false;

@@ -22,7 +22,7 @@ enum class RecoverRefusal { notValid, notVoltmeter, notRecoverable };
 // The words of a refusal, as a message box has them, and its end.
 SessionEnd recoverEnd(RecoverRefusal refusal);
 
-// Looks at the character that stands `offset` characters behind the start of a recording (0 before it): what
+// Looks at the character that stands `offset` characters after the start of a recording (0 before it): what
 // it says against recovering from an instrument of this type.
 std::optional<RecoverRefusal> recoverRefusal(std::size_t offset, char c, int instrumentType);
 

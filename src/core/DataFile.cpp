@@ -14,7 +14,7 @@ std::string reasonOf(DataRefusal refusal) {
     case DataRefusal::badTime:
         return "The time in its header is no date and time.";
     case DataRefusal::noReadings:
-        return "There are no readings behind its header.";
+        return "There are no readings after its header.";
     case DataRefusal::outOfRange:
         return "One of its readings is larger than a recording can hold.";
     case DataRefusal::touching:

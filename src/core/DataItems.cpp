@@ -72,7 +72,7 @@ public:
 
 private:
     std::string_view rest_;
-    std::size_t digits_ = 0; // left of the digits behind the last sign
+    std::size_t digits_ = 0; // left of the digits after the last sign
     bool first_ = true;
 };
 
@@ -160,7 +160,7 @@ private:
         std::size_t points = 0;
         std::size_t others = 0; // neither digit nor minus
         std::size_t digits = 0; // one after the other
-        bool several = false;   // a sign behind the first place, or more digits than a field has
+        bool several = false;   // a sign after the first place, or more digits than a field has
         bool digitsTouch = false;
         for (; at_ < text_.size() && !isDataSeparator(text_[at_]) && text_[at_] != terminator; ++at_) {
             const char c = text_[at_];

@@ -15,7 +15,7 @@ int digitAt(std::string_view text, std::size_t at) {
     return c >= '0' && c <= '9' ? c - '0' : -1;
 }
 
-// Whether the digits after the tenths round up; leaves `at` behind them.
+// Whether the digits after the tenths round up; leaves `at` after them.
 bool roundsUp(std::string_view item, std::size_t& at, bool odd) {
     const int first = digitAt(item, at);
     if (first < 0)

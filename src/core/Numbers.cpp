@@ -166,7 +166,7 @@ std::int16_t textToInt16(std::string_view text) {
         text.remove_suffix(1);
     std::size_t used = 0;
     const std::string part = numberPart(text, used);
-    // All of it, with no blanks inside and with digits also behind an exponent's letter.
+    // All of it, with no blanks inside and with digits also after an exponent's letter.
     if (part.size() != text.size() || part.find_first_of("0123456789") == std::string::npos ||
         !(isDigit(part.back()) || part.back() == '.'))
         throw fault::typeMismatch();

@@ -55,7 +55,7 @@ int intervalsOf(const FileFacts& info) {
 ReadingTime timeOf(const FileFacts& info, std::int64_t index) {
     const std::int64_t k = valuesPerInterval(info.modeLetter);
     const std::int64_t newer = info.count - 1 - index;
-    // Division that rounds down also behind the newest reading, so that a triple shares its time there too.
+    // Division that rounds down also after the newest reading, so that a triple shares its time there too.
     const std::int64_t back = newer >= 0 ? newer / k : -((-newer + k - 1) / k);
     return info.start + modeRow(info.modeLetter).minutes * (intervalsOf(info) - 1 - back);
 }

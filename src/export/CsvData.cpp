@@ -36,7 +36,7 @@ std::string csvText(const Recordings& recordings, int slot, const Range& range) 
     const int minutesPerLine = modeRow(info.modeLetter).minutes * static_cast<int>(readingsPerLine);
     RunningTime time(timeColumn, timeOf(info, range.first));
     auto readings = present(recordings, slot, range);
-    // Room for the longest lines, and for the writer, which may touch what lies behind its field.
+    // Room for the longest lines, and for the writer, which may touch what comes after its field.
     std::string text((readings.size() / readingsPerLine + 1) * maximumLineChars + FieldWriter::maximumChars,
                      ' ');
     char* to = text.data();

@@ -80,7 +80,7 @@ private:
         int ended = 0; // readings of the block in lines that have ended
         for (; feeds != 0; feeds &= feeds - 1) {
             const int at = std::countr_zero(feeds);
-            // All up to the byte of the line feed, without those behind it in that byte.
+            // All up to the byte of the line feed, without those after it in that byte.
             const int byte = at & ~7;
             const int before = static_cast<int>(upTo >> byte & 0xff) -
                                bitsInByte[static_cast<std::size_t>(starts >> byte & 0xff) >> (at & 7)];

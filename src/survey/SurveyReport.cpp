@@ -118,7 +118,7 @@ std::string stationReport(const SurveyData& survey) {
     for (std::size_t feeder = 0; feeder < peak.feeders.size(); ++feeder)
         if (peak.feeders[feeder])
             widest = std::max(widest, columnsOf(stationLine(survey, feeder)));
-    // Room for two blanks behind the widest name, so that the fields stay apart.
+    // Room for two blanks after the widest name, so that the fields stay apart.
     const std::size_t stop = (widest + 1) / tabColumns + 1;
     std::string text = formatTime(peak.time, stationTime).append(lineEnd);
     text.append(stationTimeHeading).append(lineEnd);

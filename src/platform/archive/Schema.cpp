@@ -37,7 +37,7 @@ constexpr const char* sourceTable = R"(CREATE TABLE source (
 
 constexpr const char* wordsTable = "CREATE TABLE words (id {key}, text TEXT NOT NULL)";
 constexpr const char* dailyTable = "CREATE TABLE daily (id {key}, figures {blob} NOT NULL)";
-// The packed readings first: SQLite reads them without what stands behind.
+// The packed readings first: SQLite reads them without what comes after.
 constexpr const char* bodyTable = R"(CREATE TABLE body (
     id {key}, readings {blob} NOT NULL, bytes {blob} NOT NULL, notes {blob}))";
 

@@ -106,7 +106,7 @@ void PaperText::paint(QPainter& painter, int page) const {
     paintFooter(painter, page);
 }
 
-// A field that is wider than its columns and the blanks behind it is squeezed, so that it never touches the
+// A field that is wider than its columns and the blanks after it is squeezed, so that it never touches the
 // next.
 void PaperText::paintLine(QPainter& painter, const QString& line, double top) const {
     const QFontMetricsF metrics(painter.font());

@@ -20,7 +20,7 @@ public:
     void setText(const QString& text);
     bool isEmpty() const { return lines_.isEmpty(); }
     // Finds a place for every line within the width; gives the height that it takes. Where that is more than
-    // `height`, the letters shrink, down to `leastLetters` pixels.
+    // `height`, the letters shrink, down to `minimumLetters` pixels.
     int layOut(int width, int height, const QFont& font, int minimumLetters);
     // As laid out last, the upper left corner at (left, top).
     void paint(QPainter& painter, int left, int top) const;
