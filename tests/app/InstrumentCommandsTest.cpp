@@ -339,8 +339,9 @@ TEST_F(InstrumentTest, WhatAJournalWithoutItsFolderCouldNotKeepIsAskedAbout) {
     ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
     SafeFile disk;
     JournalFolder real(blocker.fileName().toStdString() + "/journal", disk);
-    LinkServices realLink{line, waiter, real, instrument, ports, [this] { waiter.cancelNow(); }, "/work", ""};
-    Services realServices{recordings, display, settings, files, clock, prompt, chooser, realLink};
+    SessionServices realSession{
+        line, waiter, prompt, instrument, real, callPoint, [this] { waiter.cancelNow(); }};
+    Services realServices{recordings, display, settings, files, clock, prompt, chooser, realSession, places};
     TLY other(realServices);
     send(memory());
     instrument.instSelection = 4;
