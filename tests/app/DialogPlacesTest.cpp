@@ -68,17 +68,18 @@ TEST_F(DialogPlaces, DialogsAboutFilesFitTheScreenAndTheirButtonsStandApart) {
     DataSelect select(recordings, prompt);
     EditNotes notes(longPath, {"Mill Road substation", "Feeder 12", "Turner", "Outage on 21 March"});
     ForceRdgs force(longPath, "0", "42966");
-    DisplaySel display(Statistic::average);
-    MessageBox box({.text = longPath + "\r\n" + std::string(2000, 'x'), .buttons = Buttons::YesNo});
+    DisplaySel statistic(Statistic::average);
+    MessageBox box(
+        {.text = "File not found\r\n" + longPath + longPath + longPath, .buttons = Buttons::YesNo});
     InputBox input({.text = "Enter line voltage", .preset = "13800", .choices = {"13800", "4160"}});
     for (QDialog* dialog :
-         std::initializer_list<QDialog*>{&about, &select, &notes, &force, &display, &box, &input})
+         std::initializer_list<QDialog*>{&about, &select, &notes, &force, &statistic, &box, &input})
         check(*dialog);
 }
 
 TEST_F(DialogPlaces, DialogsOfInstrumentsFitTheScreenAndTheirButtonsStandApart) {
     std::string known = "No downloads are known";
-    for (int line = 0; line < 8; ++line)
+    for (int i = 0; i < 8; ++i)
         known += "\r\n  " + longPath;
     instrument.instSelection = 9;
     Abort abort(session, nullptr);

@@ -14,6 +14,7 @@ namespace tally {
 
 namespace {
 
+constexpr int buttonSpacing = 6;
 constexpr int optionRows = 6; // the twelve options stand in two columns
 
 QPushButton* addButton(const QString& name, const QString& caption) {
@@ -72,6 +73,7 @@ void InstSel::addButtons(QGridLayout& grid) {
     connect(cancel, &QPushButton::clicked, this, &InstSel::reject);
     connect(leave, &QPushButton::clicked, qApp, &QApplication::quit);
     auto* row = new QHBoxLayout;
+    row->setSpacing(buttonSpacing); // a row in a grid has none of its own
     row->addWidget(properties_);
     row->addStretch(1);
     row->addWidget(ok_);

@@ -10,9 +10,19 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tally {
+
+namespace {
+
+constexpr int noticeLines = 8;
+constexpr int noticeMargins = 40; // pixels beside them, the scroll bar included
+
+} // namespace
 
 LoadSurv::LoadSurv(SurveyData& survey, const SurveyServices& services, QWidget* parent)
     : QDialog(parent), desk_(survey), services_(services) {
@@ -40,12 +50,18 @@ void LoadSurv::layOut() {
     notices_ = surveyLabel(QStringLiteral("notices"), {});
     notices_->setWordWrap(true);
     notices_->setAccessibleName(QStringLiteral("Notices"));
+    notices_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    noticesArea_ = new QScrollArea(this);
+    noticesArea_->setFrameShape(QFrame::NoFrame);
+    noticesArea_->setWidgetResizable(true);
+    noticesArea_->setWidget(notices_);
     auto* down = new QVBoxLayout(this);
     down->setSpacing(14);
     down->addLayout(station);
     down->addLayout(feederRow());
     down->addLayout(phaseRows());
-    down->addWidget(notices_, 1);
+    down->addWidget(noticesArea_);
+    down->addStretch(1);
     down->addLayout(resultRows());
     down->addWidget(button("Cancel", "Cancel", &LoadSurv::Cancel_Click), 0, Qt::AlignRight);
     setMinimumWidth(640);
@@ -168,7 +184,10 @@ void LoadSurv::refresh() {
     if (!desk_.refusal().empty())
         notices.append(words(desk_.refusal()));
     notices_->setText(notices.join(QLatin1Char('\n')));
-    notices_->setVisible(!notices.isEmpty());
+    // As high as they are, and scrolled where there are many.
+    const int room = noticeLines * notices_->fontMetrics().lineSpacing();
+    noticesArea_->setFixedHeight(std::min(notices_->heightForWidth(width() - noticeMargins), room));
+    noticesArea_->setVisible(!notices.isEmpty());
 }
 
 void LoadSurv::Command1_Click() {

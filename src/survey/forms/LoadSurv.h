@@ -15,6 +15,7 @@ class QLayout;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
+class QScrollArea;
 
 namespace tally {
 
@@ -79,6 +80,7 @@ private:
     QPushButton* previewFeeders_ = nullptr;
     QPushButton* printStation_ = nullptr;
     QPushButton* previewStation_ = nullptr;
+    QScrollArea* noticesArea_ = nullptr;
     QLabel* notices_ = nullptr;
 };
 
