@@ -62,14 +62,11 @@ public:
     testing::MemoryJournal journal;
     InstrumentState instrument;
     OneCable ports;
-    LinkServices link{line,       waiter,
-                      journal,    instrument,
-                      ports,      [this] { waiter.cancelNow(); },
-                      "/nowhere", "/nowhere/temp.dat"};
-    TLY window{{recordings, display, settings, files, clock, prompt, chooser, link}};
     int gErrorCallPoint = 0;
-    SessionServices session{line,    waiter,          prompt, instrument,
-                            journal, gErrorCallPoint, [] {},  [](const std::string&) {}};
+    SessionServices session{
+        line, waiter, prompt, instrument, journal, gErrorCallPoint, [this] { waiter.cancelNow(); }};
+    InstrumentPlaces places{ports, "/nowhere", "/nowhere/temp.dat"};
+    TLY window{{recordings, display, settings, files, clock, prompt, chooser, session, places}};
 };
 
 } // namespace tally::pictures
