@@ -19,7 +19,7 @@ std::string DefaultFolder::stored() const {
 }
 
 std::string DefaultFolder::forDialog() {
-    const std::string folder = stored();
+    std::string folder = stored();
     if (folder.empty() || QDir(words(folder)).exists()) {
         notices_.remove(noticeKey);
         return folder;

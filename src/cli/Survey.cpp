@@ -2,6 +2,7 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
+#include "platform/FilePath.h"
 #include "survey/SurveyDesk.h"
 #include "survey/SurveyReport.h"
 #include "view/forms/Paper.h"
@@ -46,7 +47,7 @@ FeederOption parseFeeder(const std::string& text) {
 void processFeeder(Context& context, SurveyDesk& desk, int number, const FeederOption& feeder) {
     desk.proceed(number, feeder.name);
     for (int phase = 0; phase < phaseCount; ++phase) {
-        const std::string& file = feeder.files[static_cast<std::size_t>(phase)];
+        const std::string file = absolutePath(feeder.files[static_cast<std::size_t>(phase)]);
         if (const auto loaded = desk.load(phase, file, context.files()); !loaded)
             throw Refused(loaded.error());
     }

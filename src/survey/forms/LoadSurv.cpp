@@ -186,7 +186,7 @@ void LoadSurv::refresh() {
     notices_->setText(notices.join(QLatin1Char('\n')));
     // As high as they are, and scrolled where there are many.
     const int room = noticeLines * notices_->fontMetrics().lineSpacing();
-    noticesArea_->setFixedHeight(std::min(notices_->heightForWidth(width() - noticeMargins), room));
+    noticesArea_->setFixedHeight(std::clamp(notices_->heightForWidth(width() - noticeMargins), 0, room));
     noticesArea_->setVisible(!notices.isEmpty());
 }
 
