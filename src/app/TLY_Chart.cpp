@@ -82,7 +82,7 @@ void TLY_Chart::connectMarks() {
 
 Done TLY_Chart::spanEnded(int point) {
     services_.display.markEnd(screen_.chart().plot(), point);
-    const Done drawn = views_.redraw();
+    Done drawn = views_.redraw();
     if (drawn)
         views_.spanMarked();
     return drawn;
@@ -147,7 +147,7 @@ void TLY_Chart::copyShown() {
 }
 
 Done TLY_Chart::mnuItemadd_Click() {
-    if (const Done chart = needChart(); !chart)
+    if (Done chart = needChart(); !chart)
         return chart;
     screen_.chart().addNote(newNote);
     status_.remark(QStringLiteral("Drag the note to its place; double-click to edit it; Delete removes it."));
@@ -155,7 +155,7 @@ Done TLY_Chart::mnuItemadd_Click() {
 }
 
 Done TLY_Chart::mnuItemClearNote_Click() {
-    if (const Done chart = needChart(); !chart)
+    if (Done chart = needChart(); !chart)
         return chart;
     screen_.chart().clearNotes();
     return {};
@@ -165,7 +165,7 @@ Done TLY_Chart::mnuItemClearNote_Click() {
 Done TLY_Chart::needChart() {
     if (screen_.page() == Screen::Page::chart && !screen_.chart().isEmpty())
         return {};
-    const Done file = needFile(services_.recordings);
+    Done file = needFile(services_.recordings);
     return file ? views_.redraw() : file;
 }
 

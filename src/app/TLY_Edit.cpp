@@ -52,7 +52,7 @@ Done TLY_Edit::mnuItemNotes_Click() {
 
 Done TLY_Edit::mnuItemForceRdg_Click() {
     Recordings& recordings = services_.recordings;
-    if (const Done file = needFile(recordings); !file)
+    if (Done file = needFile(recordings); !file)
         return file;
     // After a cancelled list no file is current; the dialog's answer says so.
     const int slot = recordings.ginx;

@@ -110,7 +110,7 @@ Done TLY_File::opened() {
         parts_.menus.apply(MenuEvent::thirdOpened);
     showMru();
     parts_.namesChanged();
-    const Done shown = parts_.views.showSummary(slot);
+    Done shown = parts_.views.showSummary(slot);
     parts_.views.showTogether();
     showIncomplete();
     if (info.notesUnreadable)

@@ -28,7 +28,7 @@ Done TLY_Paper::mnuItemPrintSum_Click() {
 
 Done TLY_Paper::mnuItemPrintTable_Click() {
     Recordings& recordings = services_.recordings;
-    if (const Done file = needFile(recordings); !file)
+    if (Done file = needFile(recordings); !file)
         return file;
     SelectFile(recordings, services_.chooser);
     const int slot = recordings.ginx;
@@ -43,7 +43,7 @@ Done TLY_Paper::mnuItemPrintTable_Click() {
 }
 
 Done TLY_Paper::mnuItemPrintpwrSum_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     if (!voltage_.ensureKnown())
         return {};
@@ -57,7 +57,7 @@ Done TLY_Paper::mnuItemPrintpwrSum_Click() {
 }
 
 Done TLY_Paper::mnuItemPrintPwrTable_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     if (!voltage_.ensureKnown())
         return {};

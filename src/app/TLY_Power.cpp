@@ -11,7 +11,7 @@
 namespace tally {
 
 Done TLY_Power::mnuItemViewPower_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     if (!voltage_.ask())
         return {};
@@ -20,13 +20,13 @@ Done TLY_Power::mnuItemViewPower_Click() {
 }
 
 Done TLY_Power::mnuItemViewPwrTable_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     return voltage_.ensureKnown() ? views_.showPowerTable() : Done();
 }
 
 Done TLY_Power::mnuItemViewpwrsummry_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     return voltage_.ensureKnown() ? views_.showPowerSummary() : Done();
 }

@@ -21,7 +21,7 @@ constexpr qint64 halfDay = 12 * 60; // minutes
 } // namespace
 
 Done TLY_Study::mnuItemViewStudy_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     form().study(services_.recordings, {});
     screen_.showPage(form_, "load study of " + openNames(services_.recordings));
@@ -61,7 +61,7 @@ Done TLY_Study::goTo(qint64 minutes) {
     const int last = axis->reading(0, clamped(entry + around), axis->stride - 1);
     services_.display.startPlot(services_.recordings);
     services_.display.applyRange(services_.recordings, first, last);
-    const Done drawn = views_.redraw();
+    Done drawn = views_.redraw();
     if (drawn)
         menus_.apply(MenuEvent::zoomed);
     return drawn;

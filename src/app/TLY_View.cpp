@@ -18,7 +18,7 @@ constexpr std::string_view scaleAdvice = "The y axis can begin at a whole number
 } // namespace
 
 Done TLY_View::mnuItemViewPlot_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     Display& display = services_.display;
     if (needsStatistic(services_.recordings)) {
@@ -32,22 +32,22 @@ Done TLY_View::mnuItemViewPlot_Click() {
 }
 
 Done TLY_View::mnuItemRefresh_Click() {
-    const Done file = needFile(services_.recordings);
+    Done file = needFile(services_.recordings);
     return file ? views_.redraw() : file;
 }
 
 Done TLY_View::mnuZoom_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     services_.display.requestZoom();
-    const Done drawn = views_.redraw();
+    Done drawn = views_.redraw();
     if (drawn)
         menus_.apply(MenuEvent::zoomed);
     return drawn;
 }
 
 Done TLY_View::mnuItemScale_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     const auto answer = services_.prompt.input({.text = std::string(scalePrompt), .preset = {}});
     if (!answer)
@@ -61,10 +61,10 @@ Done TLY_View::mnuItemScale_Click() {
 }
 
 Done TLY_View::mnuItemOnepgPlot_Click() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     services_.display.startOnePage(services_.recordings);
-    const Done drawn = views_.redraw();
+    Done drawn = views_.redraw();
     if (drawn)
         menus_.apply(MenuEvent::onePage);
     return drawn;
@@ -87,7 +87,7 @@ Done TLY_View::mnuItemViewsummary_Click() {
 }
 
 Done TLY_View::showAll() {
-    if (const Done file = needFile(services_.recordings); !file)
+    if (Done file = needFile(services_.recordings); !file)
         return file;
     services_.display.showAll(services_.recordings);
     return views_.again();
