@@ -26,7 +26,7 @@ private:
     QTextLine line_;
 };
 
-// Whether a font of one width surely sets all of a text's characters at that width.
-bool isPlain(const QString& text);
+// Whether a text holds nothing but characters that a font of one width sets at that width, and line breaks.
+bool isPlain(QStringView text);
 
 } // namespace tally

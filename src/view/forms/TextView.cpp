@@ -109,22 +109,24 @@ QString TextView::lineText(int line) const {
     return text_.mid(begin, lineEnd(line) - begin);
 }
 
-// In a font of one width a line of letters is as wide as it is long, so that one line need be shaped; the
-// others are shaped each.
+// In a font of one width a line of letters is as wide as it is long, so that the longest of them is shaped
+// alone; what holds other characters is shaped line by line.
 double TextView::widestLine() const {
     const bool oneWidth = QFontInfo(font()).fixedPitch();
+    const bool letters = oneWidth && isPlain(text_);
     double widest = 0;
-    int longest = -1;
+    int longest = 0;
     for (int line = 0; line < lineCount(); ++line) {
-        const QString letters = lineText(line);
-        if (!oneWidth || !isPlain(letters))
-            widest = std::max(widest, ShapedLine(letters, *this).width());
-        else if (letters.size() > longest) {
-            longest = int(letters.size());
-            widest = std::max(widest, ShapedLine(letters, *this).width());
+        const int begin = starts_[std::size_t(line)];
+        const int length = lineEnd(line) - begin;
+        if (letters || (oneWidth && isPlain(QStringView(text_).mid(begin, length)))) {
+            if (length > lineEnd(longest) - starts_[std::size_t(longest)])
+                longest = line;
+        } else {
+            widest = std::max(widest, ShapedLine(lineText(line), *this).width());
         }
     }
-    return widest;
+    return std::max(widest, ShapedLine(lineText(longest), *this).width());
 }
 
 void TextView::measure() {
