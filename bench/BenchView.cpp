@@ -6,7 +6,6 @@
 #include "view/Power.h"
 #include "view/Print.h"
 #include "view/Printpwr.h"
-#include "view/Span.h"
 
 #include <cmath>
 #include <cstring>

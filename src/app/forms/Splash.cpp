@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QPainter>
+#include <QPainterPath>
 
 namespace tally {
 
