@@ -3,6 +3,7 @@
 
 #include "cli/Command.h"
 #include "cli/HelpText.h"
+#include "cli/TypedArguments.h"
 #include "platform/StandardStreams.h"
 
 namespace tally::cli {
@@ -60,8 +61,9 @@ int runProgram(int argc, char** argv) {
     program.formatter(std::make_shared<HelpText>()); // before the commands, which take it over
     for (const AddCommand add : allCommands())
         add(program, context);
+    takePlainWords(program);
     try {
-        program.parse(argc, argv);
+        program.parse(typedArguments(argc, argv));
     } catch (const CLI::ParseError& error) {
         return parseFailure(program, context, error);
     }

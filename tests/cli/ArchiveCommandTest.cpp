@@ -146,6 +146,24 @@ TEST_F(ArchiveCommand, FindsByWordsNamesAndDates) {
     EXPECT_EQ(document({"find", "--from", "2024-03-15", "--to", "2024-03-16"}).size(), 2U);
 }
 
+TEST_F(ArchiveCommand, TakesEverySignOfAWordForItself) {
+    addBoth();
+    // "north" has an o, but none in brackets.
+    EXPECT_EQ(document({"find", "[o]"}).size(), 0U);
+    EXPECT_EQ(document({"find", "[o,a]"}).size(), 0U);
+    EXPECT_EQ(document({"find", "ma%e"}).size(), 0U);
+    EXPECT_EQ(document({"find", "n_rth"}).size(), 0U);
+    EXPECT_EQ(json::parse(archive({"find", "--json", "--", "-x"}).out).size(), 0U);
+    EXPECT_EQ(json::parse(archive({"find", "--json", "mill", "--", "--json"}).out).size(), 0U);
+    EXPECT_EQ(json::parse(archive({"find", "--json", "--", "mill"}).out).size(), 1U);
+    EXPECT_EQ(archive({"assign", idOf("Oak"), "--circuit", "[o]"}).status, 0);
+    EXPECT_EQ(document({"find", "[O]"}).size(), 1U);
+    EXPECT_EQ(document({"find", "--circuit", "[o]"}).size(), 1U);
+    folder.write("at 100%.dat", dataText("03-17-24 09:45", " 100 200"));
+    EXPECT_EQ(document({"add", folder.path("at 100%.dat")})["added"], 1);
+    EXPECT_EQ(document({"find", "100%"}).size(), 1U);
+}
+
 TEST_F(ArchiveCommand, TakesWrongUsageForWhatItIs) {
     addBoth();
     for (const std::vector<std::string>& command :

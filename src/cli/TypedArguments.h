@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+#include <vector>
+
+namespace tally::cli {
+
+// The arguments of a call, last one first, as the parser takes them. It would read "[a,b]" as two arguments
+// and let nobody type a word that begins with a dash after "--": such arguments are marked as plain words.
+std::vector<std::string> typedArguments(int argc, const char* const* argv);
+
+// Lets every option of a command and of those below it take the mark away.
+void takePlainWords(CLI::App& command);
+
+} // namespace tally::cli
