@@ -2,7 +2,7 @@
 #pragma once
 
 #include "archive/Day.h"
-#include "cli/FoundFiles.h"
+#include "archive/FoundFile.h"
 #include "core/ReadingTime.h"
 
 #include <cmath>
@@ -31,7 +31,7 @@ public:
     static int seasonFrom() { return *archive::parseDay("2012-06-01"); }
     static int seasonTo() { return *archive::parseDay("2012-08-31"); }
 
-    cli::FoundFile file(int number) const {
+    archive::FoundFile file(int number) const {
         const std::string folder = "circuit" + std::to_string(number / perCircuit);
         const std::string name = "r" + std::to_string(number) + ".dat";
         return {folder_ + "/" + folder + "/" + name, {folder, name}};
@@ -47,7 +47,7 @@ private:
     static constexpr int readings = 2688;
 
     void write(int number) {
-        const cli::FoundFile found = file(number);
+        const archive::FoundFile found = file(number);
         std::filesystem::create_directories(std::filesystem::path(found.path).parent_path());
         const std::string text = dataText(number);
         textBytes_ += static_cast<double>(text.size());

@@ -3,9 +3,9 @@
 // reference RATIO GOAL ok|over. On servers too when TALLYLINE_TEST_SERVER and TALLYLINE_TEST_PARTITIONS name
 // some.
 #include "ArchiveSamples.h"
+#include "archive/Feed.h"
 #include "archive/Questions.h"
 #include "archive/Verify.h"
-#include "cli/ArchiveFeed.h"
 #include "platform/SafeFile.h"
 #include "platform/archive/OpenArchive.h"
 #include "platform/archive/QtArchiveTools.h"
@@ -83,7 +83,7 @@ double addTo(const Place& place, const Samples& samples, int count) {
     const auto store = opened(place);
     const SafeFile files;
     return secondsOf([&] {
-        cli::ArchiveFeed feed(*store, tools, files, [](const cli::FeedCount&) {});
+        Feed feed(*store, tools, files, [](const FeedCount&) {});
         for (int number = 0; number < count; ++number)
             feed.take(samples.file(number));
         feed.finish();
@@ -98,7 +98,7 @@ double addRowByRow(const Place& place, const Samples& samples, int count) {
     const SafeFile files;
     return secondsOf([&] {
         for (int number = 0; number < count; ++number) {
-            const cli::FoundFile file = samples.file(number);
+            const FoundFile file = samples.file(number);
             store->add({keptOf(files.read(file.path, maximumBytes), samples.notes(number),
                                {file.path, file.names}, tools)
                             .value()});
@@ -258,7 +258,7 @@ void measureReaders(const std::string& name, const Place& place, const Samples& 
         const auto store = opened(place);
         const SafeFile files;
         beside = secondsOf([&] {
-            cli::ArchiveFeed feed(*store, tools, files, [](const cli::FeedCount&) {});
+            Feed feed(*store, tools, files, [](const FeedCount&) {});
             for (int number = count / 2; number < count; ++number)
                 feed.take(samples.file(number));
             feed.finish();

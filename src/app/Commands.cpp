@@ -24,9 +24,12 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       options(services, dispatcher, folder, panes.folderChoice),
       survey(services, dispatcher, folder, printing, &panes.window),
       study(services, dispatcher, views, panes.screen, panes.menus, panes.status),
+      archive(services, {dispatcher, file, study, printing, panes.notices, panes.window}),
       help(services, panes.window) {
     forced.saveWhole = [this](int slot) { return file.saveWhole(slot); };
     forced.changed = [this] { views.renew(); };
+    file.onSaved([this](const std::string& path) { archive.saved(path); });
+    downloads.onSaved([this](const std::string& path) { archive.saved(path); });
     views.renewPage = [this] { study.renew(); };
 }
 

@@ -4,6 +4,7 @@
 #include "app/DefaultFolder.h"
 #include "app/ForcedReadings.h"
 #include "app/Printing.h"
+#include "app/TLY_Archive.h"
 #include "app/TLY_Chart.h"
 #include "app/TLY_Downloads.h"
 #include "app/TLY_Edit.h"
@@ -59,6 +60,7 @@ struct Commands {
     TLY_Options options;
     TLY_Survey survey;
     TLY_Study study;
+    TLY_Archive archive;
     TLY_Help help;
 };
 

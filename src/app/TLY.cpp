@@ -116,6 +116,8 @@ void TLY::connectMoreMenus() {
     on("SpecialTest", c.options, &TLY_Options::SpecialTest_Click);
     on("mnuItemDefaultDir", c.options, &TLY_Options::mnuItemDefaultDir_Click);
     on("mnuItemUserID", c.options, &TLY_Options::mnuItemUserID_Click);
+    if (services_.archive)
+        on("mnuItemArchive", c.archive, &TLY_Archive::mnuItemArchive_Click);
     on("mnuItemHelp", c.help, &TLY_Help::mnuItemHelp_Click);
     on("mnuItemAbout", c.help, &TLY_Help::mnuItemAbout_Click);
 }

@@ -64,6 +64,7 @@ private:
     bool mayClose();
     // The names of what is shown in the title bar.
     void updateTitle();
+    QString nameInTitle(const std::string& path) const;
 
     Services services_;
     Dispatcher dispatcher_;

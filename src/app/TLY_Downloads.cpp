@@ -100,6 +100,7 @@ bool TLY_Downloads::mayGo() {
 // Where it went, with a way to open it; the next one is proposed beside it.
 void TLY_Downloads::saved(const std::string& text, const std::string& path) {
     noteSaved(services_.settings, path);
+    savedTo_(path);
     menus_.showMru(recentFiles(services_.settings), services_.recordings.freeSlot() >= 0);
     notices_.put(savedKey, words(savedText(text, path)), {{QStringLiteral("Open"), [this, path] {
                                                                notices_.remove(savedKey);

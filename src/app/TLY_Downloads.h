@@ -47,6 +47,9 @@ public:
     // What opens a download that was saved.
     void onOpen(std::function<void(const std::string& path)> open) { open_ = std::move(open); }
 
+    // What is told where a download was saved.
+    void onSaved(std::function<void(const std::string& path)> told) { savedTo_ = std::move(told); }
+
     // One notice for each reception that waits for the user.
     void showNotices();
     // The same when another program may have received something meanwhile.
@@ -74,6 +77,7 @@ private:
     NoticeBar& notices_;
     std::optional<PendingDownload> pending_;
     std::function<void(const std::string& path)> open_;
+    std::function<void(const std::string& path)> savedTo_ = [](const std::string&) {};
     QStringList keys_;  // of the notices shown
     std::string shown_; // what they told of
 };

@@ -80,13 +80,13 @@ Done TLY_File::mnuMRU_Click(int index) {
     return open(parts_.menus.mruPath(index), recentGone);
 }
 
-void TLY_File::openAll(const std::vector<std::string>& paths) {
+void TLY_File::openAll(const std::vector<std::string>& paths, Remember remember) {
     for (const std::string& path : paths)
-        if (!parts_.dispatcher.attempt([&] { return open(path); }))
+        if (!parts_.dispatcher.attempt([&] { return open(path, {}, remember); }))
             return;
 }
 
-Done TLY_File::open(const std::string& path, std::string_view whenClosed) {
+Done TLY_File::open(const std::string& path, std::string_view whenClosed, Remember remember) {
     if (const auto slot = Fileopen(services_.recordings, services_.files, path); !slot) {
         Refusal refusal = slot.error();
         const OpenProblem why = slot.error().why;
@@ -94,7 +94,8 @@ Done TLY_File::open(const std::string& path, std::string_view whenClosed) {
             refusal.text = whenClosed;
         return tl::make_unexpected(refusal);
     }
-    addRecentFile(services_.settings, path);
+    if (remember == Remember::yes)
+        addRecentFile(services_.settings, path);
     return opened();
 }
 
@@ -191,6 +192,7 @@ void TLY_File::savePending() {
     if (!path)
         return;
     services_.files.write(*path, text);
+    saved_(*path);
     parts_.menus.apply(MenuEvent::saved);
 }
 
@@ -207,6 +209,7 @@ Done TLY_File::saveReadings(int slot, const Range& wanted) {
         return {};
     services_.files.write(*path, tally::quoted(recordings.gText));
     parts_.forced.saved(slot, range);
+    saved_(*path);
     if (part.empty())
         parts_.notices.remove(savedKey);
     else

@@ -48,16 +48,20 @@ public:
 
     // Opens files one after the other and stops at the first that is refused; a fourth is not opened and said
     // so.
-    void openAll(const std::vector<std::string>& paths);
+    // A copy out of the archive is no file to come back to.
+    enum class Remember { yes, no };
+    void openAll(const std::vector<std::string>& paths, Remember remember = Remember::yes);
     // Saves every reading of an open file.
     Done saveWhole(int slot);
+    // What is told where readings were saved.
+    void onSaved(std::function<void(const std::string& path)> saved) { saved_ = std::move(saved); }
     // The recent files as the settings have them; hidden while three files are open.
     void showMru();
     // A recording that comes with the program; empty when it is not there.
     static std::string sample();
 
 private:
-    Done open(const std::string& path, std::string_view whenClosed = {});
+    Done open(const std::string& path, std::string_view whenClosed = {}, Remember remember = Remember::yes);
     Done opened();
     void showIncomplete();
     void reset();
@@ -66,6 +70,7 @@ private:
 
     const Services& services_;
     FileParts parts_;
+    std::function<void(const std::string& path)> saved_ = [](const std::string&) {};
 };
 
 } // namespace tally

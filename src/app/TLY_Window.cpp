@@ -54,6 +54,8 @@ void TLY::connectStartPage() {
     start.setDownload(menus_->item("mnuItemDownload").isEnabled());
     connect(&start, &StartPage::openWanted, &menus_->item("mnuItemOpen"), &QAction::trigger);
     connect(&start, &StartPage::downloadWanted, &menus_->item("mnuItemDownload"), &QAction::trigger);
+    start.setArchive(services_.archive != nullptr);
+    connect(&start, &StartPage::archiveWanted, &menus_->item("mnuItemArchive"), &QAction::trigger);
     connect(&start, &StartPage::helpWanted, &menus_->item("mnuItemHelp"), &QAction::trigger);
     connect(&start, &StartPage::sampleWanted, this, [this] { openFiles({TLY_File::sample()}, true); });
     commands_->downloads.onOpen([this](const std::string& path) { openFiles({path}); });
@@ -72,9 +74,14 @@ void TLY::updateTitle() {
     else
         for (int slot = 0; slot < Recordings::slotCount; ++slot)
             if (services_.recordings.isOpen(slot))
-                names.append(words(fileNameOf(services_.recordings.info(slot).path)));
+                names.append(nameInTitle(services_.recordings.info(slot).path));
     setWindowTitle(names.isEmpty() ? QStringLiteral("Tallyline")
                                    : names.join(QStringLiteral(", ")) + QStringLiteral(" - Tallyline"));
+}
+
+QString TLY::nameInTitle(const std::string& path) const {
+    const QString name = words(fileNameOf(path));
+    return commands_ && commands_->archive.isCopy(path) ? name + QStringLiteral(" (from the archive)") : name;
 }
 
 void TLY::setHelpFile(const QString& path) {
@@ -110,7 +117,9 @@ bool TLY::event(QEvent* event) {
 // A question whose save fails leaves everything as it is.
 bool TLY::mayClose() {
     bool may = false;
-    dispatcher_.run([&] { may = commands_->forced.mayLeave() && commands_->downloads.mayGo(); });
+    dispatcher_.run([&] {
+        may = commands_->forced.mayLeave() && commands_->downloads.mayGo() && commands_->archive.mayLeave();
+    });
     return may;
 }
 
@@ -127,6 +136,7 @@ void TLY::closeEvent(QCloseEvent* event) {
         return;
     }
     services_.settings.set(section, key, saveGeometry().toBase64().toStdString());
+    commands_->archive.close();
     event->accept();
 }
 

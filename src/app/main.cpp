@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Arguments.h"
 #include "app/TLY.h"
+#include "app/forms/ChoosePaths.h"
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
 #include "app/forms/Splash.h"
@@ -17,6 +18,7 @@
 #include "platform/SimulatedInstrument.h"
 #include "platform/StandardStreams.h"
 #include "platform/UserSettings.h"
+#include "platform/archive/QtArchives.h"
 
 #include <QApplication>
 #include <QDir>
@@ -81,8 +83,11 @@ int main(int argc, char** argv) {
     tally::QtPrompt prompt;
     tally::AppSlotChooser chooser(prompt);
     Link link(disk, settings, prompt);
-    tally::TLY window(
-        {recordings, display, settings, files, clock, prompt, chooser, link.session, link.places});
+    const tally::QtArchives archives;
+    tally::SafeFile archiveFiles;
+    const tally::ArchiveServices archive{archives, archiveFiles, tally::chooseFolder, tally::chooseDataFiles};
+    tally::TLY window({recordings, display, settings, files, clock, prompt, chooser, link.session,
+                       link.places, &archive});
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });

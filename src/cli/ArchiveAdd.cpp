@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "archive/Feed.h"
 #include "archive/StoreFault.h"
 #include "cli/ArchiveCommands.h"
-#include "cli/ArchiveFeed.h"
 #include "cli/ArchivePlace.h"
 #include "cli/FolderWatch.h"
 #include "cli/batch/Interrupt.h"
@@ -18,9 +18,9 @@ struct Options {
     std::shared_ptr<bool> json;
 };
 
-Json jsonOf(const FeedCount& count) {
+Json jsonOf(const archive::FeedCount& count) {
     Json errors = Json::array();
-    for (const FeedCount::Failure& failure : count.failures)
+    for (const archive::FeedCount::Failure& failure : count.failures)
         errors.push_back({{"path", failure.path}, {"reason", failure.reason}});
     return {{"added", count.added},
             {"already", count.already},
@@ -32,7 +32,7 @@ Json jsonOf(const FeedCount& count) {
 class Progress {
 public:
     explicit Progress(Context& context) : context_(context) {}
-    void operator()(const FeedCount& count) {
+    void operator()(const archive::FeedCount& count) {
         for (; told_ < count.failures.size(); ++told_)
             context_.warn(count.failures[told_].path + ": " + count.failures[told_].reason);
         const std::int64_t done = count.added + count.already;
@@ -48,11 +48,11 @@ private:
     std::int64_t done_ = 0;
 };
 
-void addAll(ArchiveFeed& feed, const std::vector<std::string>& paths) {
+void addAll(archive::Feed& feed, const std::vector<std::string>& paths) {
     for (const std::string& path : paths)
         eachFile(
             path,
-            [&](FoundFile&& file) {
+            [&](archive::FoundFile&& file) {
                 feed.take(std::move(file));
                 return !Interrupt::happened();
             },
@@ -60,15 +60,15 @@ void addAll(ArchiveFeed& feed, const std::vector<std::string>& paths) {
     feed.finish();
 }
 
-void watch(ArchiveFeed& feed, FolderWatch& folders, const Interrupt& interrupt) {
+void watch(archive::Feed& feed, FolderWatch& folders, const Interrupt& interrupt) {
     while (interrupt.pause()) {
-        for (FoundFile& file : folders.settled())
+        for (archive::FoundFile& file : folders.settled())
             feed.take(std::move(file));
         feed.finish();
     }
 }
 
-int finish(Context& context, const Options& options, const FeedCount& count, int result) {
+int finish(Context& context, const Options& options, const archive::FeedCount& count, int result) {
     if (*options.json)
         outJson(context, jsonOf(count));
     else
@@ -82,8 +82,8 @@ int add(Context& context, const Options& options) {
     const auto store = openStore(context);
     const Interrupt interrupt;
     Progress progress(context);
-    ArchiveFeed feed(*store, archiveTools(), context.files(),
-                     [&](const FeedCount& count) { progress(count); });
+    archive::Feed feed(*store, archiveTools(), context.files(),
+                       [&](const archive::FeedCount& count) { progress(count); });
     try {
         // What comes while the rest is added is seen later, so the look comes first.
         std::optional<FolderWatch> folders;

@@ -12,9 +12,9 @@ FolderWatch::FolderWatch(std::vector<std::string> paths) : paths_(std::move(path
         look.known = true;
 }
 
-std::vector<FoundFile> FolderWatch::settled() {
-    std::vector<FoundFile> files;
-    const auto take = [&](FoundFile&& file) {
+std::vector<archive::FoundFile> FolderWatch::settled() {
+    std::vector<archive::FoundFile> files;
+    const auto take = [&](archive::FoundFile&& file) {
         std::error_code error;
         Look now;
         now.size = std::filesystem::file_size(file.path, error);

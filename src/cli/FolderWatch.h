@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "cli/FoundFiles.h"
+#include "platform/archive/FoundFiles.h"
 
 #include <filesystem>
 #include <map>
@@ -18,7 +18,7 @@ public:
     explicit FolderWatch(std::vector<std::string> paths);
 
     // The files that came to rest since the last look.
-    std::vector<FoundFile> settled();
+    std::vector<archive::FoundFile> settled();
 
 private:
     struct Look {

@@ -5,10 +5,13 @@
 #include "app/Screen.h"
 #include "app/TLY.h"
 #include "app/forms/NoticeBar.h"
+#include "platform/SafeFile.h"
+#include "platform/archive/QtArchives.h"
 #include "support/FixedClock.h"
 #include "support/MemoryFiles.h"
 #include "support/MemoryJournal.h"
 #include "support/MemorySettings.h"
+#include "support/Process.h"
 #include "support/QueuedPrompt.h"
 #include "support/VirtualLine.h"
 #include "support/VirtualWaiter.h"
@@ -44,6 +47,15 @@ public:
     PortPresence presence(const std::string&) const override { return PortPresence::free; }
 };
 
+// Archives whose usual place is a folder of the test; there is none before one is made.
+class FolderArchives : public QtArchives {
+public:
+    TemporaryFolder folder;
+    archive::Place usual() const override {
+        return archive::parsePlace(folder.path("archive.sqlite")).value();
+    }
+};
+
 // The data text of a recording: readings in tenths, oldest first; the header carries the time given.
 std::string dataFile(char modeLetter, const std::vector<int>& tenths, char typeLetter = 'X', bool low = false,
                      const std::string& time = "03-15-24 10:00");
@@ -67,7 +79,15 @@ protected:
     SessionServices session{
         line, waiter, prompt, instrument, journal, callPoint, [this] { waiter.cancelNow(); }};
     InstrumentPlaces places{ports, "/work", "/tmp/temp.dat"};
-    Services services{recordings, display, settings, files, clock, prompt, chooser, session, places};
+    FolderArchives archives;
+    SafeFile archiveFiles;
+    std::vector<std::string> chosenPaths; // by the dialogs of the archive
+    ArchiveServices archive{archives, archiveFiles,
+                            [this](const std::string&) {
+                                return chosenPaths.empty() ? std::nullopt : std::optional(chosenPaths[0]);
+                            },
+                            [this](const std::string&) { return chosenPaths; }};
+    Services services{recordings, display, settings, files, clock, prompt, chooser, session, places, &archive};
     TLY window{services};
 
     // Puts a file in memory and opens it by the menu.

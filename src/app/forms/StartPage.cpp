@@ -48,17 +48,26 @@ StartPage::StartPage(QWidget* parent) : QWidget(parent) {
             QStringLiteral("Fetches a recording over the serial cable."));
     auto* sample = add(*down, QStringLiteral("startSample"), QStringLiteral("Open a sample recording"),
                        QStringLiteral("Four weeks of a feeder, to try things out."));
+    auto* archive =
+        add(*down, QStringLiteral("startArchive"), QStringLiteral("Search the archive"),
+            QStringLiteral("Every recording that was kept, by circuit, serial number, note or date."));
     auto* help = add(*down, QStringLiteral("startHelp"), QStringLiteral("Read the help"),
                      QStringLiteral("F1 opens it; in an open menu, at the page of that menu."));
     down->addStretch();
     connect(open, &QPushButton::clicked, this, &StartPage::openWanted);
     connect(download, &QPushButton::clicked, this, &StartPage::downloadWanted);
     connect(sample, &QPushButton::clicked, this, &StartPage::sampleWanted);
+    connect(archive, &QPushButton::clicked, this, &StartPage::archiveWanted);
     connect(help, &QPushButton::clicked, this, &StartPage::helpWanted);
 }
 
 void StartPage::setSamples(bool there) {
     for (const auto& name : {QStringLiteral("startSample"), QStringLiteral("startSampleWhy")})
+        findChild<QWidget*>(name)->setVisible(there);
+}
+
+void StartPage::setArchive(bool there) {
+    for (const auto& name : {QStringLiteral("startArchive"), QStringLiteral("startArchiveWhy")})
         findChild<QWidget*>(name)->setVisible(there);
 }
 

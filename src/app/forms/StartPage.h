@@ -13,6 +13,8 @@ public:
     explicit StartPage(QWidget* parent = nullptr);
     // Without samples on this machine their button is hidden.
     void setSamples(bool there);
+    // Without an archive its button is hidden.
+    void setArchive(bool there);
     // Without an instrument link its button is off.
     void setDownload(bool possible);
 
@@ -20,6 +22,7 @@ Q_SIGNALS:
     void openWanted();
     void downloadWanted();
     void sampleWanted();
+    void archiveWanted();
     void helpWanted();
 };
 

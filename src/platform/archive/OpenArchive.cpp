@@ -23,13 +23,17 @@ constexpr const char* otherProgram = "This is no archive but a file or database 
 constexpr const char* newerVersion = "The archive was made by a newer version of this program";
 constexpr const char* newerAdvice = "Use that version, or a newer one.";
 
-Expected<std::unique_ptr<Connection>> connect(const Place& place) {
+tl::unexpected<archive::ArchiveRefusal> noArchiveAt(const Place& place) {
+    return tl::make_unexpected(archive::ArchiveRefusal({noArchive, place.text(), initAdvice}, true));
+}
+
+tl::expected<std::unique_ptr<Connection>, archive::ArchiveRefusal> connect(const Place& place) {
     if (place.engine == Engine::postgresql)
         return std::make_unique<Connection>(place, Connection::Mode::write);
     switch (lookAtFile(place.path)) {
     case FileFound::nothing:
     case FileFound::empty:
-        return refuse(noArchive, place.text(), initAdvice);
+        return noArchiveAt(place);
     case FileFound::foreign:
         return refuse(otherProgram, place.text());
     case FileFound::unreadable:
@@ -40,13 +44,12 @@ Expected<std::unique_ptr<Connection>> connect(const Place& place) {
     return std::make_unique<Connection>(place, modeFor(place.path));
 }
 
-Expected<std::unique_ptr<ArchiveStore>> openFound(std::unique_ptr<Connection> connection,
-                                                  const archive::ArchiveTools& tools, const Tell& tell,
-                                                  const Schema& schema) {
+archive::Opened openFound(std::unique_ptr<Connection> connection, const archive::ArchiveTools& tools,
+                          const Tell& tell, const Schema& schema) {
     const std::string place = connection->place().text();
     const FoundArchive found = lookAt(*connection);
     if (found.found == Found::nothing)
-        return refuse(noArchive, place, initAdvice);
+        return noArchiveAt(connection->place());
     if (found.found == Found::foreign)
         return refuse(otherProgram, place);
     if (found.version > schema.version)
@@ -66,8 +69,8 @@ Expected<std::unique_ptr<ArchiveStore>> openFound(std::unique_ptr<Connection> co
 
 } // namespace
 
-Expected<std::unique_ptr<ArchiveStore>> openArchive(const Place& place, const archive::ArchiveTools& tools,
-                                                    const Tell& tell, const Schema& schema) {
+archive::Opened openArchive(const Place& place, const archive::ArchiveTools& tools, const Tell& tell,
+                            const Schema& schema) {
     try {
         auto connection = connect(place);
         if (!connection)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "archive/ArchiveStore.h"
+#include "archive/Archives.h"
 #include "archive/Place.h"
 #include "core/Refusal.h"
 #include "platform/archive/Schema.h"
@@ -19,10 +19,8 @@ using Tell = std::function<void(const std::string& text)>;
 // Opens the archive at a place. Refused when there is none, it is of another program or a newer version, or
 // out of reach (within 5 s). An older one is brought up to date first. A read-only medium is opened for
 // reading.
-Expected<std::unique_ptr<archive::ArchiveStore>> openArchive(const archive::Place& place,
-                                                             const archive::ArchiveTools& tools,
-                                                             const Tell& tell = {},
-                                                             const Schema& schema = Schema::current());
+archive::Opened openArchive(const archive::Place& place, const archive::ArchiveTools& tools,
+                            const Tell& tell = {}, const Schema& schema = Schema::current());
 
 // Makes an archive where there is none yet; nothing when there is one. Its recordings are split over
 // `partitions` when some are given (PostgreSQL only). Refused as above.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/ArchiveFeed.h"
+#include "archive/Feed.h"
 
 #include "core/DataFile.h"
 #include "core/DataText.h"
@@ -11,9 +11,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace tally::cli {
-
-using archive::Kept;
+namespace tally::archive {
 
 namespace {
 
@@ -37,19 +35,19 @@ std::optional<std::string> notesBeside(const Files& files, const std::string& pa
 }
 
 // Names and paths are bytes; a store holds characters.
-archive::Source sourceOf(const FoundFile& file) {
-    archive::Source source{repairedUtf8(file.path), {}};
+Source sourceOf(const FoundFile& file) {
+    Source source{repairedUtf8(file.path), {}};
     for (const std::string& name : file.names)
         source.names.push_back(repairedUtf8(name));
     return source;
 }
 
-Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const archive::ArchiveTools& tools) {
+Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const ArchiveTools& tools) {
     try {
         const std::string bytes = files.read(file.path, maximumDataBytes + 1);
         if (bytes.size() > maximumDataBytes)
             return refuse(badFileText, file.path, "It is too long.");
-        return archive::keptOf(bytes, notesBeside(files, file.path), sourceOf(file), tools);
+        return keptOf(bytes, notesBeside(files, file.path), sourceOf(file), tools);
     } catch (const Fault& fault) {
         return refuse(fault.what(), file.path);
     }
@@ -57,33 +55,33 @@ Expected<Kept> keptFrom(const FoundFile& file, const Files& files, const archive
 
 } // namespace
 
-ArchiveFeed::ArchiveFeed(archive::ArchiveStore& store, const archive::ArchiveTools& tools, const Files& files,
-                         std::function<void(const FeedCount&)> progress)
+Feed::Feed(ArchiveStore& store, const ArchiveTools& tools, const Files& files,
+           std::function<void(const FeedCount&)> progress)
     : store_(store), tools_(tools), files_(files), progress_(std::move(progress)) {}
 
-void ArchiveFeed::take(FoundFile&& file) {
+void Feed::take(FoundFile&& file) {
     waiting_.push_back(std::move(file));
     if (waiting_.size() >= batchSize)
         passOn();
 }
 
-void ArchiveFeed::fail(const std::string& path, const std::string& reason) {
+void Feed::fail(const std::string& path, const std::string& reason) {
     count_.failures.push_back({path, reason});
 }
 
-void ArchiveFeed::finish() {
+void Feed::finish() {
     passOn();
     passOn();
 }
 
-void ArchiveFeed::passOn() {
+void Feed::passOn() {
     auto made = std::exchange(making_, {});
     make();
     if (made.valid())
         write(made.get());
 }
 
-void ArchiveFeed::make() {
+void Feed::make() {
     if (waiting_.empty())
         return;
     making_ = std::async(std::launch::async, [this, list = std::exchange(waiting_, {})] {
@@ -94,7 +92,7 @@ void ArchiveFeed::make() {
     });
 }
 
-void ArchiveFeed::write(Made&& batch) {
+void Feed::write(Made&& batch) {
     std::vector<Kept> recordings;
     for (auto& made : batch) {
         if (made)
@@ -109,4 +107,4 @@ void ArchiveFeed::write(Made&& batch) {
     progress_(count_);
 }
 
-} // namespace tally::cli
+} // namespace tally::archive

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "cli/FoundFiles.h"
+#include "platform/archive/FoundFiles.h"
 
 #include "core/Fileopen.h"
 
 #include <algorithm>
 #include <filesystem>
 
-namespace tally::cli {
+namespace tally {
 
 namespace fs = std::filesystem;
 
@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view dataEnding = ".dat";
 
 struct Walk {
-    const std::function<bool(FoundFile&&)>& receive;
+    const std::function<bool(archive::FoundFile&&)>& receive;
     const std::function<void(const std::string& path, const std::string& reason)>& failed;
     bool stopped = false;
 
@@ -51,7 +51,7 @@ struct Walk {
 
 } // namespace
 
-void eachFile(const std::string& path, const std::function<bool(FoundFile&&)>& receive,
+void eachFile(const std::string& path, const std::function<bool(archive::FoundFile&&)>& receive,
               const std::function<void(const std::string& path, const std::string& reason)>& failed) {
     std::error_code error;
     fs::path full = fs::absolute(path, error).lexically_normal();
@@ -68,4 +68,4 @@ void eachFile(const std::string& path, const std::function<bool(FoundFile&&)>& r
         failed(path, badFileText);
 }
 
-} // namespace tally::cli
+} // namespace tally

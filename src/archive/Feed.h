@@ -2,7 +2,7 @@
 #pragma once
 
 #include "archive/ArchiveStore.h"
-#include "cli/FoundFiles.h"
+#include "archive/FoundFile.h"
 #include "core/Files.h"
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace tally::cli {
+namespace tally::archive {
 
 // What came of adding files to an archive. Counted only once the store has acknowledged it.
 struct FeedCount {
@@ -26,11 +26,11 @@ struct FeedCount {
 
 // Reads data files and their notes and keeps them in an archive, a batch at a time: while the store writes
 // one, the next is made beside it.
-class ArchiveFeed {
+class Feed {
 public:
     // `progress` is called after each batch that was acknowledged or failed file that was told.
-    ArchiveFeed(archive::ArchiveStore& store, const archive::ArchiveTools& tools, const Files& files,
-                std::function<void(const FeedCount&)> progress);
+    Feed(ArchiveStore& store, const ArchiveTools& tools, const Files& files,
+         std::function<void(const FeedCount&)> progress);
 
     // Adds a file; it counts when its batch is acknowledged. Throws StoreFault when the store fails.
     void take(FoundFile&& file);
@@ -41,15 +41,15 @@ public:
     const FeedCount& count() const { return count_; }
 
 private:
-    using Made = std::vector<Expected<archive::Kept>>;
+    using Made = std::vector<Expected<Kept>>;
 
     // Begins to make what is waiting, and meanwhile writes what was made before.
     void passOn();
     void make();
     void write(Made&& batch);
 
-    archive::ArchiveStore& store_;
-    const archive::ArchiveTools& tools_;
+    ArchiveStore& store_;
+    const ArchiveTools& tools_;
     const Files& files_;
     std::function<void(const FeedCount&)> progress_;
     FeedCount count_;
@@ -57,4 +57,4 @@ private:
     std::future<Made> making_;
 };
 
-} // namespace tally::cli
+} // namespace tally::archive
