@@ -15,8 +15,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-#include <string>
-#include <vector>
 
 namespace tally {
 

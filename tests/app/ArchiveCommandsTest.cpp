@@ -56,7 +56,10 @@ struct ArchiveCommands : WindowTest {
                 button->click();
         QCoreApplication::processEvents();
     }
+    // Opens a recording and saves it. The double of the disk does not write; the file is there.
     void saveAs(const std::string& path) {
+        click("mnuItemClose");
+        open("/work/a.dat", maple);
         prompt.files.push_back(path);
         click("mnuItemSave");
     }
@@ -120,7 +123,6 @@ TEST_F(ArchiveCommands, IsOnTheStartPage) {
 TEST_F(ArchiveCommands, AsksOnceWhetherSavesGoIn) {
     make();
     const std::string saved = archives.folder.write("saved.dat", maple);
-    open("/work/a.dat", maple);
     saveAs(saved);
     ASSERT_TRUE(notices().has(QStringLiteral("archive automatic")));
     EXPECT_EQ(settings.get("Archive", "automatic"), "off");
@@ -128,16 +130,14 @@ TEST_F(ArchiveCommands, AsksOnceWhetherSavesGoIn) {
     answer("Yes");
     EXPECT_TRUE(QTest::qWaitFor([this] { return recordingsKept() == 1; }, 10000));
     EXPECT_EQ(settings.get("Archive", "automatic"), "on");
-    // From now on by itself. The double of the disk does not write; the file is there.
-    const std::string next = archives.folder.write("next.dat", oak);
-    saveAs(next);
+    // From now on by itself.
+    saveAs(archives.folder.write("next.dat", oak));
     EXPECT_FALSE(notices().has(QStringLiteral("archive automatic")));
     EXPECT_TRUE(QTest::qWaitFor([this] { return recordingsKept() == 2; }, 10000));
 }
 
 TEST_F(ArchiveCommands, TakesNoForAnAnswer) {
     make();
-    open("/work/a.dat", maple);
     saveAs(archives.folder.write("saved.dat", maple));
     answer("No");
     saveAs(archives.folder.write("again.dat", maple));
@@ -149,7 +149,6 @@ TEST_F(ArchiveCommands, TakesNoForAnAnswer) {
 TEST_F(ArchiveCommands, SaysWhenASaveCouldNotGoIn) {
     make();
     settings.set("Archive", "automatic", "on");
-    open("/work/a.dat", maple);
     saveAs(archives.folder.write("saved.dat", "no recording"));
     EXPECT_TRUE(QTest::qWaitFor([this] { return notices().has(QStringLiteral("archive added")); }, 10000));
     EXPECT_TRUE(
@@ -157,7 +156,6 @@ TEST_F(ArchiveCommands, SaysWhenASaveCouldNotGoIn) {
 }
 
 TEST_F(ArchiveCommands, IsNeverMentionedWithoutAnArchive) {
-    open("/work/a.dat", maple);
     saveAs("/work/b.dat");
     EXPECT_FALSE(notices().has(QStringLiteral("archive automatic")));
     EXPECT_EQ(settings.get("Archive", "automatic"), "");

@@ -81,6 +81,7 @@ QWidget* ArchiveForm::makeHead() {
     place_ = plainLabel("archivePlace", row);
     place_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     sum_ = plainLabel("archiveSum", row);
+    sum_->setContentsMargins(12, 0, 0, 0);
     across->addWidget(place_);
     across->addWidget(sum_, 1);
     addButton(*across, "archiveAddFiles", "Add &Files...", "Keep data files and their notes in the archive",

@@ -42,6 +42,7 @@ QLineEdit* SearchBar::addDate(const char* name, const char* caption) {
     date->setFixedWidth(110);
     auto* label = new QLabel(QString::fromLatin1(caption), this);
     label->setBuddy(date);
+    label->setContentsMargins(4, 0, 4, 0);
     layout()->addWidget(label);
     layout()->addWidget(date);
     return date;

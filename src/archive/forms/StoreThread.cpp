@@ -84,7 +84,10 @@ void StoreThread::run(const Task& task, std::unique_ptr<ArchiveStore>& store, co
         if (!store) {
             Opened opened = open(place, make);
             if (!opened) {
-                fail(opened.error().message(), opened.error().nothingThere);
+                const ArchiveRefusal& why = opened.error();
+                // The window has a button for what the advice says.
+                fail(why.nothingThere ? Refusal{why.text, why.subject}.message() : why.message(),
+                     why.nothingThere);
                 return;
             }
             store = *std::move(opened);

@@ -40,7 +40,7 @@ constexpr std::array<std::pair<int, Meaning>, 9> sqliteMeanings = {{
 }};
 
 // SQLSTATE of PostgreSQL; the first that fits counts.
-constexpr std::array<Meaning, 16> postgresqlMeanings = {{
+constexpr std::array<Meaning, 17> postgresqlMeanings = {{
     {"28P01", StoreTrouble::other, "The server refuses the password (PGPASSWORD or the password file)"},
     {"28", StoreTrouble::other, "The server refuses this user"},
     {"3D000", StoreTrouble::other, "There is no such database on the server; make it with createdb"},
@@ -48,6 +48,8 @@ constexpr std::array<Meaning, 16> postgresqlMeanings = {{
     {"53", StoreTrouble::lost, "The archive's server has no room for another connection"},
     {"25006", StoreTrouble::readOnly, readOnlyWords},
     {"42501", StoreTrouble::readOnly, rightsWords},
+    // The tables are there, as was looked at before, but this user may not see into their schema.
+    {"42P01", StoreTrouble::readOnly, rightsWords},
     {"08", StoreTrouble::lost, lostWords},
     {"57P", StoreTrouble::lost, lostWords},
     {"HV00N", StoreTrouble::lost, "A partition of the archive is out of reach"},

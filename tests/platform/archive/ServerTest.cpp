@@ -88,8 +88,7 @@ TEST_F(Server, SaysThatAPasswordIsWrongOrMissing) {
     EXPECT_EQ(refusalOf(url).find("sesame"), std::string::npos);
     setenv("PGPASSWORD", "open sesame", 1);
     // Right password, but no rights in the archive.
-    EXPECT_NE(refusalOf(url), "");
-    EXPECT_EQ(refusalOf(url).find("password"), std::string::npos) << refusalOf(url);
+    EXPECT_TRUE(refusalOf(url).starts_with("This user may not do that in the archive")) << refusalOf(url);
     unsetenv("PGPASSWORD");
 }
 
