@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Commands.h"
 
+#include "app/Screen.h"
+
 #include <QMainWindow>
 
 namespace tally {
@@ -25,7 +27,8 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       survey(services, dispatcher, folder, printing, &panes.window),
       study(services, dispatcher, views, panes.screen, panes.menus, panes.status),
       archive(services, {dispatcher, file, study, printing, panes.notices, panes.window}),
-      help(services, panes.window) {
+      help(services, panes.window),
+      start(services, panes.screen.start()) {
     forced.saveWhole = [this](int slot) { return file.saveWhole(slot); };
     forced.changed = [this] { views.renew(); };
     file.onSaved([this](const std::string& path) { archive.saved(path); });

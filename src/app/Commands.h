@@ -15,6 +15,7 @@
 #include "app/TLY_Options.h"
 #include "app/TLY_Paper.h"
 #include "app/TLY_Power.h"
+#include "app/TLY_Start.h"
 #include "app/TLY_Study.h"
 #include "app/TLY_Survey.h"
 #include "app/TLY_View.h"
@@ -62,6 +63,7 @@ struct Commands {
     TLY_Study study;
     TLY_Archive archive;
     TLY_Help help;
+    TLY_Start start;
 };
 
 } // namespace tally

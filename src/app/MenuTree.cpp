@@ -63,6 +63,8 @@ constexpr std::array tree = {
               "Set an instrument up for a new recording"},
     MenuEntry{1, "mnuItemRecover", "&Recover", false, "", false, "Fetch a recording after a battery failure"},
     MenuEntry{1, "mnuItemStatusCheck", "&Status Check", false, "", false, "Ask an instrument how it is"},
+    MenuEntry{1, "mnuItemFind", "&Find Instrument", false, "", line,
+              "Listen on all adapters for an instrument"},
     MenuEntry{0, "mnuOptions", "&Options", menu},
     MenuEntry{1, "SpecialTest", "Special Test", false, "", false, "Show the program's state, for support"},
     MenuEntry{1, "mnuItemDefaultDir", "&Default Dir", false, "", false, "Choose where file dialogs start"},

@@ -111,6 +111,7 @@ void TLY::connectMoreMenus() {
     on("mnuItemInitialize", c.instrument, &TLY_Instrument::mnuItemInitialize_Click);
     on("mnuItemRecover", c.instrument, &TLY_Instrument::mnuItemRecover_Click);
     on("mnuItemStatusCheck", c.instrument, &TLY_Instrument::mnuItemStatusCheck_Click);
+    on("mnuItemFind", c.instrument, &TLY_Instrument::mnuItemFind_Click);
     on("mnuItemPortSelect", c.instrument, &TLY_Instrument::mnuItemPortSelect_Click);
     on("mnuItemInstSelect", c.instrument, &TLY_Instrument::mnuItemInstSelect_Click);
     on("SpecialTest", c.options, &TLY_Options::SpecialTest_Click);

@@ -135,6 +135,8 @@ void TLY_Downloads::showNotices() {
     for (std::size_t i = 0; i < entries.size() && i < maximumNotices; ++i)
         notice(entries[i]);
     shown_ = textsOf(entries);
+    if (changed_)
+        changed_();
 }
 
 void TLY_Downloads::lookAgain() {

@@ -50,6 +50,9 @@ public:
     // What is told where a download was saved.
     void onSaved(std::function<void(const std::string& path)> told) { savedTo_ = std::move(told); }
 
+    // Told when the notices have changed.
+    void onChange(std::function<void()> tell) { changed_ = std::move(tell); }
+
     // One notice for each reception that waits for the user.
     void showNotices();
     // The same when another program may have received something meanwhile.
@@ -78,6 +81,7 @@ private:
     std::optional<PendingDownload> pending_;
     std::function<void(const std::string& path)> open_;
     std::function<void(const std::string& path)> savedTo_ = [](const std::string&) {};
+    std::function<void()> changed_;
     QStringList keys_;  // of the notices shown
     std::string shown_; // what they told of
 };

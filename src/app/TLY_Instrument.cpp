@@ -7,13 +7,16 @@
 #include "control/forms/Abort.h"
 #include "control/forms/Recover.h"
 #include "core/forms/Words.h"
+#include "link/Instruments.h"
 #include "link/forms/Dwnloaditem.h"
+#include "link/forms/FindForm.h"
 #include "link/forms/InstSel.h"
 #include "link/forms/PortSel.h"
 #include "link/forms/Status.h"
 
 #include <QMainWindow>
 #include <QMenuBar>
+#include <algorithm>
 
 namespace tally {
 
@@ -92,6 +95,41 @@ void TLY_Instrument::mnuItemRecover_Click() {
 
 void TLY_Instrument::mnuItemStatusCheck_Click() {
     session([&] { runStatusCheck(window_, context_); });
+}
+
+void TLY_Instrument::use(const std::string& device, int type) {
+    InstrumentState& instrument = context_.instrument;
+    instrument.gCommPort = takePort(device, services_.places.ports, services_.settings);
+    applySelection(instrument, type);
+}
+
+void TLY_Instrument::mnuItemFind_Click() {
+    std::optional<FoundInstrument> found;
+    {
+        const MenusOff off(*window_->menuBar(), menus_);
+        found = runFind(window_, context_, services_.places.ports);
+        window_->activateWindow();
+    }
+    if (!found)
+        return;
+    use(found->port.path, found->type);
+    mnuItemDownload_Click();
+}
+
+bool TLY_Instrument::hasSimulated() const {
+    const auto devices = services_.places.ports.devices();
+    return std::any_of(devices.begin(), devices.end(),
+                       [](const PortDevice& device) { return device.simulated; });
+}
+
+void TLY_Instrument::trySimulated() {
+    constexpr int usual = 7;
+    for (const PortDevice& device : services_.places.ports.devices())
+        if (device.simulated) {
+            use(device.path, usual);
+            mnuItemDownload_Click();
+            return;
+        }
 }
 
 void TLY_Instrument::mnuItemPortSelect_Click() {

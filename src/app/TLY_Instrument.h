@@ -4,6 +4,7 @@
 #include "app/Services.h"
 
 #include <functional>
+#include <string>
 
 class QMainWindow;
 
@@ -23,6 +24,11 @@ public:
     void mnuItemInitialize_Click();
     void mnuItemRecover_Click();
     void mnuItemStatusCheck_Click();
+    // Searches, and downloads from the instrument that the user chose.
+    void mnuItemFind_Click();
+    bool hasSimulated() const;
+    // Sets port and type to the simulated instrument, and downloads from it.
+    void trySimulated();
     void mnuItemPortSelect_Click();
     void mnuItemInstSelect_Click();
 
@@ -30,6 +36,7 @@ private:
     // Runs a session: a type is chosen first, the menus are off meanwhile.
     void session(const std::function<void()>& run);
     void sayProblem();
+    void use(const std::string& device, int type);
 
     const Services& services_;
     TLY_Downloads& downloads_;

@@ -52,6 +52,15 @@ void TLY::connectStartPage() {
     StartPage& start = screen_->start();
     start.setSamples(!TLY_File::sample().empty());
     start.setDownload(menus_->item("mnuItemDownload").isEnabled());
+    start.setSimulated(commands_->instrument.hasSimulated());
+    connect(&start, &StartPage::findWanted, &menus_->item("mnuItemFind"), &QAction::trigger);
+    connect(&start, &StartPage::simulatedWanted, this,
+            [this] { dispatcher_.run([this] { commands_->instrument.trySimulated(); }); });
+    connect(
+        &start, &StartPage::recentWanted, this,
+        [this](const QString& path) { openFiles({path.toStdString()}); }, Qt::QueuedConnection);
+    connect(&start, &StartPage::aboutToShow, this, [this] { commands_->start.refresh(); });
+    commands_->downloads.onChange([this] { commands_->start.refresh(); });
     connect(&start, &StartPage::openWanted, &menus_->item("mnuItemOpen"), &QAction::trigger);
     connect(&start, &StartPage::downloadWanted, &menus_->item("mnuItemDownload"), &QAction::trigger);
     start.setArchive(services_.archive != nullptr);

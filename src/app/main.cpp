@@ -38,7 +38,8 @@ struct Link {
 
     // The simulated instrument is started when its port is opened; it plays the chosen type.
     std::string device(int commPort, const tally::Settings& settings) {
-        const std::string path = tally::devicePath(commPort, settings);
+        const std::string path =
+            commPort == 0 ? instrument.devicePath : tally::devicePath(commPort, settings);
         constexpr int automatic = 11;
         const int type = instrument.instSelection;
         if (path == tally::simulatedInstrument())

@@ -2,8 +2,10 @@
 #include "link/DownloadProgress.h"
 
 #include "link/Instruments.h"
+#include "link/ReceiveLimit.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tally {
 
@@ -14,9 +16,18 @@ constexpr double maximumSilent = 2000.0 / static_cast<double>(DownloadProgress::
 constexpr int maximum = 20000;
 constexpr int atFirst = 1000;
 
+// "43,396"
+std::string grouped(std::size_t number) {
+    std::string digits = std::to_string(number);
+    for (std::size_t at = digits.size(); at > 3; at -= 3)
+        digits.insert(at - 3, ",");
+    return digits;
+}
+
 } // namespace
 
 bool DownloadProgress::first() {
+    begun_ = session_.waiter.now();
     if (deadline_ != Waiter::never)
         return false;
     session_.panel.progressText("Waiting for response from the unit.");
@@ -42,6 +53,7 @@ bool DownloadProgress::tick(std::size_t received) {
     }
     counted_ = received;
     session_.panel.progressText(label);
+    session_.panel.remaining(remainingText(received));
     session_.panel.progress(value_);
     deadline_ = session_.waiter.now() + interval;
     if (!goesOn) {
@@ -49,6 +61,18 @@ bool DownloadProgress::tick(std::size_t received) {
         session_.panel.appendLog("Terminated by waiting for data\r\n");
     }
     return goesOn;
+}
+
+// The pace is that of what has come so far.
+std::string DownloadProgress::remainingText(std::size_t received) const {
+    const std::size_t most = mostCharacters(session_.instrument);
+    const std::int64_t took = session_.waiter.now() - begun_;
+    if (received == 0 || received >= most || took <= 0)
+        return {};
+    const auto left = static_cast<double>(most - received) * static_cast<double>(took) /
+                      static_cast<double>(received) / 1000;
+    return grouped(received) + " of at most " + grouped(most) + " characters, about " +
+           std::to_string(static_cast<std::int64_t>(std::ceil(left))) + " s left";
 }
 
 void DownloadProgress::tokenSeen() {

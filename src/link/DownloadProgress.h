@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace tally {
 
@@ -30,7 +31,11 @@ public:
 
 private:
     Session& session_;
+    // "43,396 of at most 55,754 characters, about 12 s left"
+    std::string remainingText(std::size_t received) const;
+
     std::int64_t deadline_ = Waiter::never;
+    std::int64_t begun_ = 0;  // when the first character of the rate in force came
     std::size_t counted_ = 0; // characters at the tick before
     int silentTicks_ = 0;
     int value_ = 0;

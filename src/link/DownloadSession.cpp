@@ -31,6 +31,7 @@ public:
         if (!complete)
             session_.journal.end(JournalState::interrupted);
         session_.panel.progressVisible(false);
+        session_.panel.remaining("");
         session_.panel.busy(false);
         session_.panel.mainStatus("");
     }
@@ -128,6 +129,7 @@ void DownloadSession::showProcessing(const std::string& text) {
     Panel& panel = session_.panel;
     panel.appendLog("Total No. of characters received = " + std::to_string(text.size()));
     panel.progressVisible(false);
+    panel.remaining("");
     panel.status("PROCESSING DATA; WAIT");
     for (std::size_t count = 0; count < text.size();) {
         count = std::min(count + countStep, text.size());

@@ -17,6 +17,9 @@ public:
     virtual void progressVisible(bool visible) = 0;
     virtual void progress(int value) = 0; // 0 to 20,000
     virtual void busy(bool busy) = 0;     // hourglass pointer
+    // How much of the memory has come and how long the rest takes, beside progressText; empty to take it
+    // away.
+    virtual void remaining(const std::string&) {}
     // What to look at while nothing comes, in a line of its own; empty to take it away.
     virtual void hint(const std::string& text) = 0;
     virtual void mainStatus(const std::string& text) = 0; // status line of the main window

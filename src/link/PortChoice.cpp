@@ -41,6 +41,20 @@ void assignDevice(int commPort, const std::string& path, Settings& settings) {
     settings.set(section, deviceKey(commPort), path == defaultDevice(commPort) ? std::string() : path);
 }
 
+int takePort(const std::string& path, const PortCatalogue& catalogue, Settings& settings) {
+    int port = 1;
+    while (port <= portCount && devicePath(port, settings) != path)
+        ++port;
+    if (port > portCount) {
+        for (port = 1; port < portCount; ++port)
+            if (catalogue.presence(devicePath(port, settings)) == PortPresence::notThere)
+                break;
+        assignDevice(port, path, settings);
+    }
+    settings.set(section, portKey, std::to_string(port));
+    return port;
+}
+
 std::string_view presenceText(PortPresence presence) {
     switch (presence) {
     case PortPresence::free:

@@ -20,6 +20,8 @@ struct PortDevice {
     std::string path;        // by its lasting name where it has one (UTF-8)
     std::string description; // of the adapter; may be empty
     bool byName = false;     // the description is all that a person needs
+    bool simulated = false;  // the instrument that comes with the program
+    bool adapter = false;    // one that instruments are plugged into, not a line of the machine itself
 
     // What it is called, UTF-8.
     std::string text() const;
@@ -42,6 +44,10 @@ std::string defaultDevice(int commPort);
 std::string devicePath(int commPort, const Settings& settings);
 // Assigns a device to a COM port; the empty path, or the default one, takes an assignment back.
 void assignDevice(int commPort, const std::string& path, Settings& settings);
+
+// The COM port for a device: the one that it stands behind, else the first whose own device is not there
+// (the last when all are), to which it is assigned. It is stored as the port in force.
+int takePort(const std::string& path, const PortCatalogue& catalogue, Settings& settings);
 
 // What one of the eight ports is, for a person: the device, its adapter, whether it can be used.
 struct PortState {

@@ -58,7 +58,8 @@ bool mayBegin(std::string_view text, bool automatic) {
            (!automatic || scan.token() == HeaderScan::Token::valid);
 }
 
-// What came, the initial as it was sent.
+} // namespace
+
 std::string asSent(const Received& received) {
     std::string text = received.text;
     if (received.lowBattery())
@@ -66,8 +67,6 @@ std::string asSent(const Received& received) {
     return text;
 }
 
-// The header that can be read in what came: it begins at the first initial, or else at a later one. `cut`
-// takes one whose line has not ended, too.
 std::optional<HeaderScan> readableHeader(std::string_view text, bool automatic, bool cut) {
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (!mayBegin(text.substr(at), automatic))
@@ -80,8 +79,6 @@ std::optional<HeaderScan> readableHeader(std::string_view text, bool automatic, 
     }
     return {};
 }
-
-} // namespace
 
 void ReportError(Prompt& prompt, const Fault& fault, int gErrorCallPoint) {
     prompt.tell("In status.StatusCheck: gErrorCallPoint = " + std::to_string(gErrorCallPoint) + "\r\n" +

@@ -7,6 +7,9 @@
 #include "link/StatusHeader.h"
 
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace tally {
 
@@ -34,6 +37,13 @@ private:
     Session& session_;
     std::int64_t waitFor_;
 };
+
+// What came (bytes), the initial as it was sent.
+std::string asSent(const Received& received);
+
+// The header that can be read in what came: it begins at the first initial, or else at a later one; with
+// automatic selection only the token begins one. `cut` takes one whose line has not ended, too.
+std::optional<HeaderScan> readableHeader(std::string_view text, bool automatic, bool cut);
 
 // Shows a run-time fault of the status check with its call point.
 void ReportError(Prompt& prompt, const Fault& fault, int gErrorCallPoint);

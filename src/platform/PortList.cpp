@@ -95,9 +95,10 @@ std::string simulatedInstrument() {
 std::vector<PortDevice> PortList::devices() const {
     std::vector<PortDevice> all;
     for (const QSerialPortInfo& info : QSerialPortInfo::availablePorts())
-        all.push_back({lastingName(info.systemLocation()), descriptionOf(info), false});
+        all.push_back({lastingName(info.systemLocation()), descriptionOf(info), false, false,
+                       info.hasVendorIdentifier()});
     if (SimulatedInstrument::available() || QFileInfo::exists(QString::fromStdString(simulatedInstrument())))
-        all.push_back({simulatedInstrument(), "simulated instrument", true});
+        all.push_back({simulatedInstrument(), "simulated instrument", true, true, true});
     return all;
 }
 

@@ -59,6 +59,7 @@ constexpr Entry tree[] = {
     {1, "mnuItemInitialize", "&Initialize"},
     {1, "mnuItemRecover", "&Recover"},
     {1, "mnuItemStatusCheck", "&Status Check"},
+    {1, "mnuItemFind", "&Find Instrument"},
     {0, "mnuOptions", "&Options"},
     {1, "SpecialTest", "Special Test"},
     {1, "mnuItemDefaultDir", "&Default Dir"},

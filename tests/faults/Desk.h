@@ -49,12 +49,14 @@ private:
 
 // The kinds of trial.
 void tryWriters(Desk& desk);
+void tryArchives(Desk& desk);
 void tryKills(Desk& desk);
 void tryUnplugging(Desk& desk);
 void trySlowDisk(Desk& desk);
 void tryParallelStarts(Desk& desk);
 
-// What a trial starts as a process of its own: "settings FILE", "starts FOLDER COUNT", "pause FOLDER".
+// What a trial starts as a process of its own: "settings FILE", "chart FILE",
+// "starts FOLDER COUNT", "pause FOLDER".
 int runInside(const std::vector<std::string>& arguments);
 
 } // namespace tally::faults

@@ -2,6 +2,7 @@
 // What runs as a process of its own, so that a fault strikes it alone.
 #include "Desk.h"
 
+#include "core/Fault.h"
 #include "link/DownloadSession.h"
 #include "platform/JournalFolder.h"
 #include "platform/QtWaiter.h"
@@ -11,6 +12,7 @@
 #include "sim/Pty.h"
 #include "support/QueuedPrompt.h"
 #include "support/RecordingPanel.h"
+#include "view/forms/ChartFile.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -31,6 +33,20 @@ int writeSettings(const std::string& path) {
     const auto time = std::chrono::system_clock::now().time_since_epoch().count();
     settings.set("Settings", "Name", std::to_string(time));
     settings.flush();
+    return 0;
+}
+
+// Saves a chart as the window does.
+int writeChart(const std::string& path) {
+    SafeFile files;
+    Plot plot;
+    plot.points = 2;
+    try {
+        files.write(path, ChartFile::write(plot, {}));
+    } catch (const tally::Fault& fault) {
+        std::fprintf(stderr, "%s\n", fault.what());
+        return 1;
+    }
     return 0;
 }
 
@@ -105,6 +121,8 @@ int runInside(const std::vector<std::string>& arguments) {
     const QCoreApplication application(count, names);
     if (arguments.size() == 2 && arguments[0] == "settings")
         return writeSettings(arguments[1]);
+    if (arguments.size() == 2 && arguments[0] == "chart")
+        return writeChart(arguments[1]);
     if (arguments.size() == 3 && arguments[0] == "starts")
         return begin(arguments[1], std::stoi(arguments[2]));
     if (arguments.size() == 2 && arguments[0] == "pause")

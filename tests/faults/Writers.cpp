@@ -2,10 +2,12 @@
 // Every writer of files against every stage at which a disk can fail or the program can be killed.
 #include "Desk.h"
 
+#include "support/Background.h"
 #include "support/Places.h"
 
 #include <cerrno>
 #include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <set>
@@ -48,7 +50,44 @@ struct Writer {
     std::string old = "the old file\n"; // nothing: what the writer wrote the time before
     std::string program = "tallyline-cli";
     bool tellsByStatus = true; // the settings only say it
+    std::string below = {};    // the folder of its file, below the one of all
 };
+
+// An instrument with a short recording, sent as fast as it is read.
+class Instrument {
+public:
+    explicit Instrument(const std::vector<std::string>& more)
+        : program_(::testing::binDir() + "/tallyline-sim", options(more)),
+          device_(program_.line().substr(std::string("READY ").size())) {}
+    const std::string& device() const { return device_; }
+
+private:
+    static std::vector<std::string> options(const std::vector<std::string>& more) {
+        std::vector<std::string> all = {"--type",         "7",         "--count",      "30", "--clock",
+                                        "03-15-24 14:05", "--stopped", "--speed",      "0",  "--plug",
+                                        "0.05",           "--quiet",   "--with-parent"};
+        all.insert(all.end(), more.begin(), more.end());
+        return all;
+    }
+
+    testing::Background program_;
+    std::string device_;
+};
+
+// What is received and saved; the recover keeps its text in a file of its own besides.
+void addReceivers(std::vector<Writer>& all, const std::string& in, const Instrument& sound,
+                  const Instrument& failed) {
+    const auto receive = [](const std::string& command, const Instrument& from, const std::string& to) {
+        return std::vector<std::string>{command,  "--port", from.device(), "--type", "7",
+                                        "--wait", "5",      "-o",          to};
+    };
+    all.push_back({"download", "received.dat", receive("download", sound, in + "/received.dat")});
+    all.push_back({"recover", "received.dat", receive("recover", failed, in + "/received.dat")});
+    Writer temporary = {"the file that a recover reads back", "temp.dat",
+                        receive("recover", failed, in + "/received.dat")};
+    temporary.below = "/cache/Tallyline";
+    all.push_back(temporary);
+}
 
 std::vector<Writer> writers(const std::string& in) {
     const std::string data = in + "/feeder.dat";
@@ -68,6 +107,16 @@ std::vector<Writer> writers(const std::string& in) {
         {"survey report",
          "out.pdf",
          {"survey", "--station", "N", "--feeder", feeder, "--print", in + "/out.pdf"}},
+        {"table export, CSV", "out.csv", {"export", "table", data, "-o", in + "/out.csv"}},
+        {"table export, XLSX", "out.xlsx", {"export", "table", data, "-o", in + "/out.xlsx"}},
+        {"GridLAB-D export", "out.player", {"export", "gridlabd", data, "-o", in + "/out.player"}},
+        {"load study, PDF", "out.pdf", {"study", data, "-o", in + "/out.pdf"}},
+        {"load study, XLSX", "out.xlsx", {"study", data, "-o", in + "/out.xlsx"}},
+        {"chart file",
+         "out.chd",
+         {"--inside", "chart", in + "/out.chd"},
+         "the old file\n",
+         "tallyline_faults"},
         {"checked text", "out.txt", {"check", in + "/received.txt", "-o", in + "/out.txt"}},
         {"settings", "out.ini", {"--inside", "settings", in + "/out.ini"}, "", "tallyline_faults", false},
     };
@@ -177,11 +226,19 @@ private:
 } // namespace
 
 void tryWriters(Desk& desk) {
-    const std::string folder = desk.folder.path("writers");
+    const std::string all = desk.folder.path("writers");
+    setenv("XDG_DATA_HOME", desk.folder.path("data").c_str(), 1);
+    setenv("XDG_CACHE_HOME", (all + "/cache").c_str(), 1);
+    const Instrument sound({});
+    const Instrument failed({"--battery-failed"});
+    std::vector<Writer> list = writers(all);
+    addReceivers(list, all, sound, failed);
     int trials = 0;
     const int before = desk.bad;
-    for (const Writer& writer : writers(folder)) {
-        putInputs(folder);
+    for (const Writer& writer : list) {
+        putInputs(all);
+        const std::string folder = all + writer.below;
+        fs::create_directories(folder);
         const std::string output = outputOf(desk, writer, folder);
         if (output.empty())
             continue;

@@ -14,11 +14,10 @@ struct Kind {
     std::function<void(tally::faults::Desk&)> run;
 };
 
-const std::vector<Kind> kinds = {{"writers", tally::faults::tryWriters},
-                                 {"kills", tally::faults::tryKills},
-                                 {"unplugging", tally::faults::tryUnplugging},
-                                 {"slow", tally::faults::trySlowDisk},
-                                 {"starts", tally::faults::tryParallelStarts}};
+const std::vector<Kind> kinds = {
+    {"writers", tally::faults::tryWriters}, {"archive", tally::faults::tryArchives},
+    {"kills", tally::faults::tryKills},     {"unplugging", tally::faults::tryUnplugging},
+    {"slow", tally::faults::trySlowDisk},   {"starts", tally::faults::tryParallelStarts}};
 
 } // namespace
 

@@ -98,6 +98,27 @@ TEST(SimProgram, WhatWasRecordedCanBePlayedBack) {
     EXPECT_EQ(program.status(), 0);
 }
 
+TEST(SimProgram, ReplacesARecordOnlyWhenAskedTo) {
+    const QTemporaryDir folder;
+    const QString record = folder.filePath(QStringLiteral("record.txt"));
+    QFile file(record);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("an old record\n");
+    file.close();
+    Program unasked({QStringLiteral("--record"), record});
+    EXPECT_EQ(unasked.status(), 1);
+    EXPECT_TRUE(unasked.process.readAllStandardError().contains("--overwrite"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), QByteArray("an old record\n"));
+    file.close();
+    Program asked({QStringLiteral("--record"), record, QStringLiteral("--overwrite"),
+                   QStringLiteral("--once"), QStringLiteral("--speed"), QStringLiteral("0")});
+    receive(asked.ready());
+    EXPECT_EQ(asked.status(), 0);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("# What happened on a serial line"));
+}
+
 TEST(SimProgram, FollowsAScript) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("script.txt"));

@@ -124,5 +124,19 @@ TEST_F(PortChoice, APortThatCannotBeOpenedLeavesTheStoredOneInForce) {
     EXPECT_EQ(prompt.shown[0].buttons, Buttons::Ok);
 }
 
+#ifndef _WIN32
+TEST_F(PortChoice, AFoundDeviceTakesItsOwnPortOrOneWhoseDeviceIsNotThere) {
+    Catalogue catalogue;
+    EXPECT_EQ(takePort("/dev/ttyS4", catalogue, settings), 5);
+    EXPECT_EQ(storedCommPort(settings), 5);
+    EXPECT_EQ(takePort("/dev/ttyUSB0", catalogue, settings), 8);
+    EXPECT_EQ(devicePath(8, settings), "/dev/ttyUSB0");
+    EXPECT_EQ(takePort("/dev/ttyUSB0", catalogue, settings), 8);
+    catalogue.state = PortPresence::notThere;
+    EXPECT_EQ(takePort("/dev/ttyUSB1", catalogue, settings), 1);
+    EXPECT_EQ(devicePath(1, settings), "/dev/ttyUSB1");
+}
+#endif
+
 } // namespace
 } // namespace tally

@@ -3,6 +3,7 @@
 
 #include "app/TLY_Edit.h"
 #include "app/TLY_Paper.h"
+#include "control/MemoryLasts.h"
 #include "control/forms/InitInst.h"
 #include "link/forms/Dwnloaditem.h"
 #include "link/forms/InstSel.h"
@@ -120,7 +121,12 @@ void link(Bench& bench) {
     InstSel types(bench.instrument, false, &bench.window);
     bench.grab(types, "instrument-selection");
     types.hide();
-    InitInst initialize({}, &bench.window);
+    InitInst initialize(
+        {},
+        [](const ModeChoice& choice) {
+            return memoryLasts(choice, 10710, toReadingTime({2024, 3, 15, 14, 5}));
+        },
+        &bench.window);
     bench.grab(initialize, "initialize");
     initialize.hide();
     bench.whenOpen([&bench](QWidget& dialog) {

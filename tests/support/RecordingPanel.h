@@ -16,6 +16,7 @@ public:
     std::vector<std::string> progressTexts;
     std::vector<std::string> mainStatuses;
     std::vector<std::string> hints;
+    std::vector<std::string> remainders;
     std::vector<int> values; // of the progress bar
     std::string log;
     bool visible = false;
@@ -27,6 +28,7 @@ public:
     void appendLog(const std::string& text) override { log += text; }
     void progressVisible(bool on) override { visible = on; }
     void progress(int value) override { values.push_back(value); }
+    void remaining(const std::string& text) override { remainders.push_back(text); }
     void hint(const std::string& text) override { hints.push_back(text); }
     void busy(bool on) override { isBusy = on; }
     void mainStatus(const std::string& text) override { mainStatuses.push_back(text); }

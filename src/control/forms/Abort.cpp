@@ -3,6 +3,7 @@
 
 #include "control/Initialize.h"
 #include "control/KnownDownloads.h"
+#include "control/MemoryLasts.h"
 #include "control/ModeLetter.h"
 #include "control/forms/InitInst.h"
 #include "core/forms/Words.h"
@@ -42,7 +43,10 @@ void runInitialize(QWidget* parent, const SessionServices& services) {
         return;
     ModeChoice choice;
     {
-        InitInst options(knownDownloads(services.journal.list()), parent);
+        const auto lasts = [&services](const ModeChoice& asked) {
+            return memoryLasts(asked, services.instrument.maxSamples, services.waiter.localTime());
+        };
+        InitInst options(knownDownloads(services.journal.list()), lasts, parent);
         if (options.exec() != QDialog::Accepted)
             return;
         choice = options.choice();

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace tally {
 
@@ -18,7 +19,9 @@ constexpr int charactersWide = 80; // of the line about downloads
 
 } // namespace
 
-InitInst::InitInst(const std::string& known, QWidget* parent) : QDialog(parent) {
+InitInst::InitInst(const std::string& known, std::function<std::string(const ModeChoice&)> lasts,
+                   QWidget* parent)
+    : QDialog(parent), lasts_(std::move(lasts)) {
     setObjectName(QStringLiteral("InitInst"));
     setWindowTitle(QStringLiteral("Initialization Options"));
     new QVBoxLayout(this);
@@ -32,6 +35,13 @@ InitInst::InitInst(const std::string& known, QWidget* parent) : QDialog(parent) 
     frame = addFrame(QStringLiteral("Frame3"), QStringLiteral("Continuous or Stop"));
     addOption(*frame, 6, QStringLiteral("Continuous Loop"))->setChecked(true);
     stopWhenFull_ = addOption(*frame, 7, QStringLiteral("Stop when memory full"));
+
+    howLong_ = namedLabel(QStringLiteral("MemoryLasts"));
+    howLong_->setAccessibleName(tr("How long the memory lasts"));
+    layout()->addWidget(howLong_);
+    for (auto* option : findChildren<QRadioButton*>())
+        connect(option, &QRadioButton::toggled, this, &InitInst::showHowLong);
+    showHowLong();
 
     QLabel* downloads = namedLabel(QStringLiteral("KnownDownloads"));
     downloads->setText(lines(known));
@@ -67,6 +77,10 @@ QRadioButton* InitInst::addOption(QGroupBox& frame, int number, const QString& c
     option->setObjectName(QStringLiteral("Option%1").arg(number));
     frame.layout()->addWidget(option);
     return option;
+}
+
+void InitInst::showHowLong() {
+    howLong_->setText(shown(lasts_(choice())));
 }
 
 ModeChoice InitInst::choice() const {

@@ -16,7 +16,8 @@ Dwnloaditem::Dwnloaditem(const SessionServices& context, QWidget* parent)
     : SessionDialog(context, QStringLiteral("Dwnloaditem"), tr("DownLoad"), parent),
       prompt_(addFixedText(QStringLiteral("PromptLabel"), widestText)),
       label1_(addText(QStringLiteral("Label1"))),
-      label2_(addText(QStringLiteral("Label2"))) {
+      label2_(addText(QStringLiteral("Label2"))),
+      remaining_(addText(QStringLiteral("RemainingLabel"))) {
     addHint();
     addProgressBar();
     addLog();
@@ -34,6 +35,10 @@ void Dwnloaditem::status(const std::string& text) {
 
 void Dwnloaditem::progressText(const std::string& text) {
     label2_->setText(lines(text));
+}
+
+void Dwnloaditem::remaining(const std::string& text) {
+    remaining_->setText(shown(text));
 }
 
 SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionServices& context,

@@ -16,11 +16,13 @@ public:
     void prompt(const std::string& text) override;
     void status(const std::string& text) override;
     void progressText(const std::string& text) override;
+    void remaining(const std::string& text) override;
 
 private:
     QLabel* prompt_;
     QLabel* label1_;
     QLabel* label2_;
+    QLabel* remaining_;
 };
 
 // The whole download command of the main window `parent` (a type is chosen already). Gives the accepted text:

@@ -61,6 +61,10 @@ QLabel* SessionDialog::addFixedText(const QString& name, int columns) {
     return label;
 }
 
+void SessionDialog::addWidget(QWidget* widget) {
+    down_->addWidget(widget);
+}
+
 void SessionDialog::addProgressBar() {
     bar_ = new QProgressBar;
     bar_->setObjectName(QStringLiteral("ProgressBar1"));

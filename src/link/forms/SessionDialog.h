@@ -32,6 +32,8 @@ public:
     bool waitForOk();
     // From here on the session runs; OK is gone.
     void start();
+    // The session is over; closing the dialog closes it.
+    void finish() { running_ = false; }
 
     void appendLog(const std::string& text) override;
     void progressVisible(bool visible) override;
@@ -48,6 +50,7 @@ protected:
     QLabel* addText(const QString& name);
     // A text that is laid out with blanks, at most so many columns wide.
     QLabel* addFixedText(const QString& name, int columns);
+    void addWidget(QWidget* widget);
     // What to check while nothing comes.
     void addHint();
     void addProgressBar();

@@ -5,14 +5,29 @@
 #include "link/forms/LinkSupport.h"
 
 #include <QGroupBox>
+#include <QLabel>
 
 namespace tally {
 namespace {
 
 using namespace testing;
 
+// What stands in for the length of time.
+std::string lasts(const ModeChoice& choice) {
+    return std::to_string(choice.minutes) + (choice.minMaxAvg ? " mma" : " avg");
+}
+
+TEST(InitInstForm, SaysHowLongTheMemoryLastsAtEachChoice) {
+    const InitInst form("", lasts, nullptr);
+    const auto* label = form.findChild<QLabel*>(QStringLiteral("MemoryLasts"));
+    EXPECT_EQ(label->text(), QStringLiteral("15 avg"));
+    named(form, "Option3")->click();
+    named(form, "Option5")->click();
+    EXPECT_EQ(label->text(), QStringLiteral("1 mma"));
+}
+
 TEST(InitInstForm, HasItsFramesOptionsAndButtons) {
-    const InitInst form("", nullptr);
+    const InitInst form("", lasts, nullptr);
     EXPECT_EQ(form.windowTitle(), QStringLiteral("Initialization Options"));
     const std::pair<const char*, const char*> frames[] = {
         {"Frame1", "Select Time"}, {"Frame2", "Average or Min/Max/Avg"}, {"Frame3", "Continuous or Stop"}};
@@ -39,7 +54,7 @@ TEST(InitInstForm, EveryFrameHasOneChoice) {
     for (const char* end : ends)
         for (const char* kind : kinds)
             for (const char* time : times) {
-                const InitInst form("", nullptr);
+                const InitInst form("", lasts, nullptr);
                 click(form, time);
                 click(form, kind);
                 click(form, end);
