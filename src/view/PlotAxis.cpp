@@ -29,4 +29,18 @@ void scaleAxis(Plot& plot, std::int16_t smallest, std::int16_t largest) {
     plot.yMax = std::max(largest / 10.0 * 1.1, 10.0);
 }
 
+double onFirstAxis(const Plot& plot, double value, int axis) {
+    if (axis == 0 || plot.axes.size() < 2)
+        return value;
+    const UnitAxis& left = plot.axes[0];
+    const UnitAxis& right = plot.axes[1];
+    return left.min + (value - right.min) / (right.max - right.min) * (left.max - left.min);
+}
+
+double onSecondAxis(const Plot& plot, double value) {
+    const UnitAxis& left = plot.axes.at(0);
+    const UnitAxis& right = plot.axes.at(1);
+    return right.min + (value - left.min) / (left.max - left.min) * (right.max - right.min);
+}
+
 } // namespace tally

@@ -19,4 +19,9 @@ void labelAxis(Plot& plot, const FileFacts& info);
 // tenths.
 void scaleAxis(Plot& plot, std::int16_t smallest, std::int16_t largest);
 
+// Where a value of the second axis stands on the scale of the first; a value of the first stays.
+double onFirstAxis(const Plot& plot, double value, int axis);
+// What the second axis says at a value of the first.
+double onSecondAxis(const Plot& plot, double value);
+
 } // namespace tally

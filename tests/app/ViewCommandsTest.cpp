@@ -151,7 +151,7 @@ TEST_F(ViewCommands, KeysMoveThePictureButNotTheRange) {
     QTest::keyClick(&chart, Qt::Key_Plus);
     EXPECT_LT(width(), whole);
     const double left = chart.visiblePoints().first;
-    QTest::keyClick(&chart, Qt::Key_Right);
+    QTest::keyClick(&chart, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_GT(chart.visiblePoints().first, left);
     QTest::keyClick(&chart, Qt::Key_Minus);
     EXPECT_EQ(display.gDatastart(), 0);

@@ -20,6 +20,13 @@ namespace {
 constexpr double zoomStep = 0.8;
 constexpr int smallestLetters = 12; // pixels
 
+std::vector<std::string> legendsOf(const Plot& plot) {
+    std::vector<std::string> legends;
+    for (const PlotSeries& series : plot.series)
+        legends.push_back(series.legend);
+    return legends;
+}
+
 } // namespace
 
 Chart::Chart(QWidget* parent) : QWidget(parent), scene_(std::make_unique<PlotScene>()) {
@@ -44,10 +51,16 @@ Chart::Chart(QWidget* parent) : QWidget(parent), scene_(std::make_unique<PlotSce
 
 Chart::~Chart() = default;
 
+// The picture itself has changed, not only what moves over it.
+void Chart::refresh() {
+    backing_ = {};
+    update();
+}
+
 void Chart::lookAgain() {
     const int pixels = std::max(QFontInfo(font()).pixelSize(), smallestLetters);
     scene_->setLook(ChartLook::onScreen(palette(), pixels));
-    update();
+    refresh();
 }
 
 void Chart::changeEvent(QEvent* event) {
@@ -65,15 +78,23 @@ void Chart::showPlot(const Plot& plot) {
     const bool same = marking_ && plot.points == scene_->plot().points;
     const auto across = scene_->across();
     const auto up = scene_->up();
+    const LinesShown shown = scene_->lines;
+    const bool sameLines = legendsOf(plot) == legendsOf(scene_->plot());
     scene_->setPlot(plot);
+    if (sameLines)
+        scene_->lines.hidden = shown.hidden;
     if (same)
         scene_->setView(across, up);
     else
         scene_->span.reset();
     shown_ = true;
     drag_ = Drag::none;
+    if (!same)
+        moveCursor(std::nullopt);
     setAccessibleDescription(QString::fromStdString(plot.displaying));
-    update();
+    refresh();
+    Q_EMIT spanDrawn();
+    Q_EMIT linesChanged();
 }
 
 void Chart::clear() {
@@ -81,14 +102,20 @@ void Chart::clear() {
     scene_->clear();
     shown_ = false;
     drag_ = Drag::none;
+    cursor_.reset();
+    setBoxMode(false);
     setOnePage(false);
     setAccessibleDescription({});
-    update();
+    refresh();
 }
 
 void Chart::setTimeOf(std::function<std::string(int)> timeOf) {
     scene_->setTimeOf(std::move(timeOf));
-    update();
+    refresh();
+}
+
+void Chart::setPointTime(std::function<std::string(int)> pointTime) {
+    pointTime_ = std::move(pointTime);
 }
 
 void Chart::setOnePage(bool on) {
@@ -108,23 +135,26 @@ std::optional<std::pair<int, int>> Chart::span() const {
 
 void Chart::markSpan(int first, int last) {
     scene_->span = std::minmax(first, last);
-    update();
+    refresh();
+    Q_EMIT spanDrawn();
 }
 
 void Chart::clearSpan() {
     scene_->span.reset();
-    update();
+    refresh();
+    Q_EMIT spanDrawn();
 }
 
 std::optional<Sight> Chart::sight() const {
-    if (scene_->isWhole())
+    if (scene_->isWhole() && scene_->lines.hidden.empty())
         return std::nullopt;
-    return Sight{scene_->across(), scene_->up(), scene_->timeOf()};
+    return Sight{scene_->across(), scene_->up(), scene_->timeOf(), scene_->lines.hidden};
 }
 
 QImage Chart::picture() const {
     const ChartLook look = scene_->look();
     const int selected = std::exchange(scene_->selectedNote, -1);
+    const int lifted = std::exchange(scene_->lines.lifted, -1);
     scene_->setLook(ChartLook::onPaper(look.font.pixelSize()));
     const double ratio = devicePixelRatioF();
     QImage image(size() * ratio, QImage::Format_RGB32);
@@ -135,6 +165,7 @@ QImage Chart::picture() const {
     }
     scene_->setLook(look);
     scene_->selectedNote = selected;
+    scene_->lines.lifted = lifted;
     return image;
 }
 
@@ -144,22 +175,26 @@ void Chart::copyPicture() const {
 
 void Chart::zoomIn() {
     scene_->zoomAcross(zoomStep, (scene_->across().first + scene_->across().second) / 2);
-    update();
+    refresh();
+    pointAgain();
 }
 
 void Chart::zoomOut() {
     scene_->zoomAcross(1 / zoomStep, (scene_->across().first + scene_->across().second) / 2);
-    update();
+    refresh();
+    pointAgain();
 }
 
 void Chart::resetView() {
     scene_->resetView();
-    update();
+    refresh();
+    pointAgain();
 }
 
 void Chart::pan(double across, double up) {
     scene_->pan(across, up);
-    update();
+    refresh();
+    pointAgain();
 }
 
 std::pair<double, double> Chart::visiblePoints() const {
@@ -175,17 +210,44 @@ QSize Chart::sizeHint() const {
     return {1000, 620};
 }
 
-void Chart::paintEvent(QPaintEvent*) {
-    QCPPainter painter(this);
+void Chart::paintScene(QPainter& painter) {
     if (shown_)
-        scene_->paint(painter, size(), false);
+        scene_->paint(static_cast<QCPPainter&>(painter), size(), false);
     else
         painter.fillRect(rect(), scene_->look().paper);
+}
+
+// A picture without a cursor is painted as it is; under a cursor it is kept, so that moving the pointer costs
+// the same for any number of readings.
+void Chart::paintEvent(QPaintEvent*) {
+    QCPPainter painter(this);
+    if (!cursor_ && drag_ != Drag::box)
+        return paintScene(painter);
+    if (backing_.isNull()) {
+        backing_ = QPixmap(size() * devicePixelRatioF());
+        backing_.setDevicePixelRatio(devicePixelRatioF());
+        QCPPainter keep(&backing_);
+        paintScene(keep);
+    }
+    painter.drawPixmap(0, 0, backing_);
+    paintOverlay(painter);
+}
+
+void Chart::paintOverlay(QPainter& painter) {
+    if (drag_ == Drag::box) {
+        painter.setPen(QPen(scene_->look().frame, 1, Qt::DashLine));
+        painter.setBrush(scene_->look().span);
+        painter.drawRect(box_.normalized().intersected(scene_->frame()));
+        return;
+    }
+    const std::string time = pointTime_ ? pointTime_(cursor_->point) : std::string();
+    paintCursor(painter, *scene_, *cursor_, QString::fromStdString(time));
 }
 
 void Chart::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     endEdit(true);
+    backing_ = {};
     scene_->layOut(size());
     placeOnePage();
 }

@@ -3,7 +3,9 @@
 
 #include "view/Plot.h"
 #include "view/forms/ChartNote.h"
+#include "view/forms/CursorPaint.h"
 
+#include <QPixmap>
 #include <QRectF>
 #include <QWidget>
 
@@ -20,6 +22,7 @@ class QPlainTextEdit;
 namespace tally {
 
 class PlotScene;
+struct LinesShown;
 
 // The chart of the main window, "ChartFX1": paints a Plot, lets a span be marked, zooms and pans the picture,
 // carries the notes. It changes no range: what a mark means is for the one who listens.
@@ -41,6 +44,8 @@ public:
     // Gives the label texts ("MMM dd hh:mm") for points while the picture is zoomed; the nine labels of the
     // plot stand when there is none.
     void setTimeOf(std::function<std::string(int point)> timeOf);
+    // Gives the time of a point as the cursor's box says it; empty where the plot has none.
+    void setPointTime(std::function<std::string(int point)> pointTime);
     // The label over the chart that says that the one-page plot is on.
     void setOnePage(bool on);
 
@@ -48,6 +53,22 @@ public:
     std::optional<std::pair<int, int>> span() const;
     void markSpan(int first, int last);
     void clearSpan();
+
+    // What the pointer or the keys point at.
+    const std::optional<Cursor>& cursor() const { return cursor_; }
+    // Moves the cursor by readings; without one it begins where the span ends, else in the middle of what is
+    // in sight. `marking` draws the span along.
+    void stepCursor(int steps, bool marking);
+    // Takes one thing away: a drag, the box, cursor and span, the enlarged picture; else tells leaveWanted.
+    void leave();
+
+    // While on, the next drag draws a box that is then looked at closely.
+    void setBoxMode(bool on);
+    bool boxMode() const { return boxMode_; }
+
+    // Hides a line or shows it again.
+    void toggleLine(int series);
+    const LinesShown& lines() const;
 
     const std::vector<ChartNote>& notes() const;
     void setNotes(std::vector<ChartNote> notes);
@@ -76,9 +97,16 @@ public:
     QSize sizeHint() const override;
 
 Q_SIGNALS:
-    void spanStarted(int point);  // 0 to points - 1
-    void spanEnded(int point);    // the same; before the start when drawn leftwards
-    void pointerMoved(int point); // -1 off the data
+    void spanStarted(int point); // 0 to points - 1
+    void spanEnded(int point);   // the same; before the start when drawn leftwards
+    // The reading seen nearest to the pointer, or that of the keys' cursor; point -1 off the data.
+    void pointerMoved(int point, int series = 0);
+    void spanDrawn();   // the span has changed, also while it is being drawn
+    void spanLeft();    // the mark was given up
+    void zoomWanted();  // Enter
+    void leaveWanted(); // Escape with nothing left to take away
+    void boxModeChanged(bool on);
+    void linesChanged();
     void notesChanged();
 
 protected:
@@ -95,9 +123,18 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    enum class Drag { none, span, pan, note };
+    enum class Drag { none, span, pan, note, box };
 
     void lookAgain();
+    void refresh();
+    void paintScene(QPainter& painter);
+    void paintOverlay(QPainter& painter);
+    void pointAgain();
+    void moveCursor(std::optional<Cursor> cursor);
+    void endBox();
+    void liftLine(int series);
+    bool arrowKey(const QKeyEvent& event);
+    bool pictureKey(const QKeyEvent& event);
     int pointAt(const QPointF& place) const;
     int nearestPoint(const QPointF& place) const;
     void pressNote(const QPointF& place);
@@ -118,6 +155,14 @@ private:
     Drag drag_ = Drag::none;
     int spanFrom_ = -1;
     QPointF last_;
+    std::function<std::string(int)> pointTime_;
+    std::optional<Cursor> cursor_;
+    bool byKeys_ = false; // the cursor
+    int anchor_ = -1;     // where the keys began to mark
+    bool inside_ = false; // the pointer is over the chart
+    bool boxMode_ = false;
+    QRectF box_;
+    QPixmap backing_; // the picture under a moving cursor
 };
 
 } // namespace tally

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace tally {
 
@@ -17,11 +18,13 @@ struct ChartNote {
     bool operator==(const ChartNote&) const = default;
 };
 
-// The part of a plot that is in sight: points and values, and what the x axis says at a point.
+// The part of a plot that is in sight: points and values, what the x axis says at a point, and the lines that
+// were hidden.
 struct Sight {
     std::pair<double, double> across;
     std::pair<double, double> up;
     std::function<std::string(int point)> timeOf;
+    std::vector<int> hidden = {};
 };
 
 } // namespace tally

@@ -44,7 +44,7 @@ void Chart::clearNotes() {
 
 void Chart::selectNote(int index) {
     scene_->selectedNote = index;
-    update();
+    refresh();
 }
 
 // Selects the uppermost note at a place, or none.
@@ -68,7 +68,7 @@ void Chart::moveNote(const QPointF& place) {
     const QPointF corner = notePlace(note, frame, scene_->look().font).topLeft() + place - last_;
     note.x = std::clamp((corner.x() - frame.left()) / std::max(frame.width(), 1.0), 0.0, 1.0);
     note.y = std::clamp((corner.y() - frame.top()) / std::max(frame.height(), 1.0), 0.0, 1.0);
-    update();
+    refresh();
 }
 
 void Chart::removeNote() {
@@ -181,7 +181,7 @@ void Chart::endEdit(bool keep) {
         return;
     }
     scene_->notes[std::size_t(index)].text = text;
-    update();
+    refresh();
     Q_EMIT notesChanged();
 }
 

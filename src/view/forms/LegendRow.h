@@ -3,6 +3,7 @@
 
 #include "view/Plot.h"
 #include "view/forms/ChartLook.h"
+#include "view/forms/SeriesPlottable.h"
 
 #include <QRect>
 #include <QString>
@@ -20,12 +21,15 @@ public:
     void setPlot(const Plot& plot);
     // Finds a place for every entry within the width; gives the height that it takes, 0 without entries.
     int layOut(int width, const QFont& font);
-    void paint(QPainter& painter, int left, int top, const ChartLook& look) const;
+    void paint(QPainter& painter, const QPoint& corner, const ChartLook& look, const LinesShown& lines) const;
+    // The series whose entry stands at a place, counted from the row's corner; -1 for none.
+    int seriesAt(const QPointF& place) const;
 
 private:
     struct Entry {
         int series; // -1 for forced readings
         QString text;
+        Phase phase;
         QRect place;
     };
 

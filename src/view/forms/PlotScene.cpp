@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/PlotScene.h"
 
+#include "view/PlotAxis.h"
 #include "view/forms/NotePaint.h"
-#include "view/forms/SeriesPlottable.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,7 +10,7 @@
 namespace tally {
 namespace {
 
-constexpr int margin = 10;          // pixels around the picture
+constexpr int margin = sceneMargin;
 constexpr int labelCount = 9;       // along the x axis
 constexpr double fewestPoints = 4;  // that a zoomed picture spans
 constexpr double deepestZoom = 1e4; // of the y axis
@@ -38,19 +38,19 @@ PlotScene::PlotScene() : plotter_(std::make_unique<QCustomPlot>()), look_(ChartL
     plotter_->setNotAntialiasedElements(QCP::aeAll);
     plotter_->setLocale(QLocale::c());
     plotter_->setBackground(QBrush(Qt::NoBrush));
-    for (QCPAxis* axis : {plotter_->xAxis2, plotter_->yAxis2}) { // the other two sides of the frame
+    plotter_->xAxis->setSubTicks(false);
+    plotter_->xAxis2->setTicks(false);
+    plotter_->xAxis2->setTickLabels(false);
+    for (QCPAxis* axis : {plotter_->xAxis2, plotter_->yAxis2}) // the other two sides of the frame
         axis->setVisible(true);
-        axis->setTicks(false);
-        axis->setTickLabels(false);
-    }
-    for (QCPAxis* axis : {plotter_->xAxis, plotter_->yAxis}) { // ticks outside hide no readings
+    for (QCPAxis* axis :
+         {plotter_->xAxis, plotter_->yAxis, plotter_->yAxis2}) { // ticks outside hide no readings
         axis->setTickLength(0, 5);
         axis->setSubTickLength(0, 3);
+        axis->setNumberFormat(QStringLiteral("g"));
+        axis->setNumberPrecision(9);
     }
-    plotter_->xAxis->setSubTicks(false);
-    plotter_->yAxis->setNumberFormat(QStringLiteral("g"));
-    plotter_->yAxis->setNumberPrecision(9);
-    plotter_->yAxis->ticker()->setTickCount(7);
+    setUpAxes();
     applyLook();
 }
 
@@ -61,8 +61,18 @@ void PlotScene::setPlot(const Plot& plot) {
     series_->plot = &plot_;
     title_.setText(QString::fromStdString(plot.title));
     legend_.setPlot(plot);
-    plotter_->yAxis->setLabel(QString::fromStdString(plot.yTitle));
+    lines = {};
+    setUpAxes();
     resetView();
+}
+
+// The right side says numbers only where it has a scale of its own.
+void PlotScene::setUpAxes() {
+    const bool two = plot_.axes.size() > 1;
+    plotter_->yAxis->setLabel(QString::fromStdString(two ? plot_.axes[0].title : plot_.yTitle));
+    plotter_->yAxis2->setLabel(two ? QString::fromStdString(plot_.axes[1].title) : QString());
+    plotter_->yAxis2->setTicks(two);
+    plotter_->yAxis2->setTickLabels(two);
 }
 
 void PlotScene::clear() {
@@ -91,6 +101,8 @@ void PlotScene::applyLook() {
         axis->grid()->setPen(QPen(look_.grid, 1));
         axis->grid()->setZeroLinePen(QPen(look_.grid, 1));
     }
+    // The lowest number of the y axis reaches below the frame by half its height.
+    plotter_->xAxis->setTickLabelPadding(std::max(5, QFontMetrics(look_.font).height() / 2));
 }
 
 std::pair<double, double> PlotScene::wholeAcross() const {
@@ -99,12 +111,14 @@ std::pair<double, double> PlotScene::wholeAcross() const {
 }
 
 std::pair<double, double> PlotScene::wholeUp() const {
-    const bool usable = std::isfinite(plot_.yMin) && std::isfinite(plot_.yMax);
-    if (!usable || std::abs(plot_.yMin) > 1e30 || std::abs(plot_.yMax) > 1e30)
+    const bool two = plot_.axes.size() > 1;
+    const double least = two ? plot_.axes[0].min : plot_.yMin;
+    const double greatest = two ? plot_.axes[0].max : plot_.yMax;
+    const bool usable = std::isfinite(least) && std::isfinite(greatest);
+    if (!usable || std::abs(least) > 1e30 || std::abs(greatest) > 1e30)
         return {0, 10};
     // A scale that begins above the readings is shown all the same.
-    return plot_.yMin < plot_.yMax ? std::pair(plot_.yMin, plot_.yMax)
-                                   : std::pair(plot_.yMin, plot_.yMin + 10);
+    return least < greatest ? std::pair(least, greatest) : std::pair(least, least + 10);
 }
 
 void PlotScene::resetView() {
@@ -137,6 +151,7 @@ void PlotScene::setSight(const std::optional<Sight>& sight) {
     if (!sight)
         return resetView();
     timeOf_ = sight->timeOf;
+    lines.hidden = sight->hidden;
     setView(sight->across, sight->up);
 }
 
@@ -144,32 +159,59 @@ bool PlotScene::isWhole() const {
     return across_ == wholeAcross() && up_ == wholeUp();
 }
 
-void PlotScene::placeLabels(int width) {
-    const bool whole = across_ == wholeAcross();
+std::vector<std::pair<int, QString>> PlotScene::labels() const {
     std::vector<std::pair<int, QString>> labels;
-    if (whole || !timeOf_) {
+    if (across_ == wholeAcross() || !timeOf_) {
         for (int i = 0; i < labelCount; ++i)
             labels.emplace_back(i * plot_.labelStep, QString::fromStdString(plot_.labels[std::size_t(i)]));
-    } else {
-        const int step = std::max(int(std::ceil((across_.second - across_.first) / (labelCount - 1))), 1);
-        const int last = std::min(int(across_.second), plot_.points - 1);
-        for (int at = int(std::ceil(across_.first / step)) * step; at <= last; at += step)
-            labels.emplace_back(at, QString::fromStdString(timeOf_(at)));
+        return labels;
     }
-    int widest = 0;
-    const QFontMetrics metrics(look_.font);
+    const int step = std::max(int(std::ceil((across_.second - across_.first) / (labelCount - 1))), 1);
+    const int last = std::min(int(across_.second), plot_.points - 1);
+    for (int at = int(std::ceil(across_.first / step)) * step; at <= last; at += step)
+        labels.emplace_back(at, QString::fromStdString(timeOf_(at)));
+    return labels;
+}
+
+LabelPlan PlotScene::planLabels(const std::vector<std::pair<int, QString>>& labels) const {
+    std::vector<QString> texts;
     for (const auto& label : labels)
-        widest = std::max(widest, metrics.horizontalAdvance(label.second));
-    const bool tight = widest + metrics.averageCharWidth() * 2 > width / labelCount;
+        texts.push_back(label.second);
+    const int apart = labels.size() > 1 ? labels[1].first - labels[0].first : 1;
+    const double perPoint = plotter_->axisRect()->width() / (across_.second - across_.first);
+    return planOf(texts, apart * perPoint, QFontMetrics(look_.font));
+}
+
+void PlotScene::setLabels(std::vector<std::pair<int, QString>> labels, const LabelPlan& plan) {
     QSharedPointer<QCPAxisTickerText> ticker(new QCPAxisTickerText);
-    for (auto& [point, text] : labels) {
-        if (tight && text.contains(u' '))
-            text[text.lastIndexOf(u' ')] = u'\n'; // the hour below the day
+    for (std::size_t i = 0; i < labels.size(); i += std::size_t(plan.every)) {
+        auto& [point, text] = labels[i];
+        if (plan.twoLines)
+            breakLabel(text);
         if (!text.isEmpty())
             ticker->addTick(point, text);
     }
     plotter_->xAxis->setTicker(ticker);
-    plotter_->axisRect()->setMinimumMargins(QMargins(0, 0, tight ? widest / 4 + 4 : widest / 2 + 4, 0));
+    // Labels stand in the middle under their tick: the first and the last need room beside the frame.
+    const int beside = plan.width / 2 + 4;
+    plotter_->axisRect()->setMinimumMargins(QMargins(beside, 0, beside, 0));
+}
+
+// How the labels stand depends on the width of the frame, which depends on how they stand.
+void PlotScene::layOutAxes() {
+    const auto all = labels();
+    for (int turn = 0; turn < 3; ++turn) {
+        const LabelPlan plan = planLabels(all);
+        setLabels(all, plan);
+        for (const auto phase :
+             {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins, QCPLayoutElement::upLayout})
+            plotter_->plotLayout()->update(phase);
+        if (planLabels(all) == plan)
+            break;
+    }
+    const double fit = plotter_->axisRect()->height() / (1.7 * QFontMetrics(look_.font).height());
+    for (QCPAxis* axis : {plotter_->yAxis, plotter_->yAxis2})
+        axis->ticker()->setTickCount(std::clamp(int(fit), 1, 7));
 }
 
 void PlotScene::layOut(QSize size) {
@@ -180,37 +222,27 @@ void PlotScene::layOut(QSize size) {
     const int top = legendTop_ + legendHeight + (legendHeight > 0 ? 4 : 0);
     plotter_->xAxis->setRange(across_.first, across_.second);
     plotter_->yAxis->setRange(up_.first, up_.second);
-    placeLabels(width);
+    if (plot_.axes.size() > 1)
+        plotter_->yAxis2->setRange(onSecondAxis(plot_, up_.first), onSecondAxis(plot_, up_.second));
     plotter_->setViewport(QRect(QPoint(0, 0), size));
     plotter_->plotLayout()->setMargins(QMargins(margin / 2, top, margin / 2, margin / 2));
-    for (const auto phase :
-         {QCPLayoutElement::upPreparation, QCPLayoutElement::upMargins, QCPLayoutElement::upLayout})
-        plotter_->plotLayout()->update(phase);
+    layOutAxes();
     frame_ = plotter_->axisRect()->rect();
 }
 
 void PlotScene::paint(QCPPainter& painter, QSize size, bool vectors) {
     layOut(size);
     series_->span = span;
+    series_->lines = lines;
     painter.setMode(QCPPainter::pmVectorized, vectors);
     painter.setMode(QCPPainter::pmNonCosmetic, vectors);
     painter.fillRect(QRect(QPoint(0, 0), size), look_.paper);
     painter.setPen(look_.text);
     title_.paint(painter, margin, margin);
-    legend_.paint(painter, margin, legendTop_, look_);
+    legend_.paint(painter, {margin, legendTop_}, look_, lines);
     plotter_->toPainter(&painter, size.width(), size.height());
     for (int index = 0; index < int(notes.size()); ++index)
         paintNote(painter, notes[std::size_t(index)], frame_, look_, index == selectedNote);
-}
-
-double PlotScene::pointAtPixel(double x) const {
-    const double width = std::max(frame_.width(), 1.0);
-    return across_.first + (x - frame_.left()) / width * (across_.second - across_.first);
-}
-
-double PlotScene::valueAtPixel(double y) const {
-    const double height = std::max(frame_.height(), 1.0);
-    return up_.first + (frame_.bottom() - y) / height * (up_.second - up_.first);
 }
 
 } // namespace tally

@@ -4,7 +4,9 @@
 #include "view/Plot.h"
 #include "view/forms/ChartLook.h"
 #include "view/forms/ChartNote.h"
+#include "view/forms/LabelPlan.h"
 #include "view/forms/LegendRow.h"
+#include "view/forms/SeriesPlottable.h"
 #include "view/forms/TitleBlock.h"
 
 #include <QRectF>
@@ -21,7 +23,13 @@ class QCustomPlot;
 
 namespace tally {
 
-class SeriesPlottable;
+inline constexpr int sceneMargin = 10; // pixels around the picture
+
+// A point of one series.
+struct PlotHit {
+    int point = 0;
+    int series = 0;
+};
 
 // A plot as a picture: title block, legend, frame, axes, lines, notes. The same for the screen, files and
 // paper.
@@ -43,6 +51,7 @@ public:
     std::vector<ChartNote> notes;
     int selectedNote = -1;
     std::optional<std::pair<int, int>> span;
+    LinesShown lines;
 
     // The part of the plot in sight. Zooming stops at a few points and at the whole.
     void resetView();
@@ -50,6 +59,8 @@ public:
     void zoomAcross(double factor, double around);
     void zoomUp(double factor, double around);
     void pan(double across, double up);
+    // Moves the picture as little as it takes to have a point in sight.
+    void reveal(int point);
     std::pair<double, double> across() const { return across_; }
     std::pair<double, double> up() const { return up_; }
     bool isWhole() const;
@@ -63,12 +74,22 @@ public:
     QRectF frame() const { return frame_; }
     double pointAtPixel(double x) const;
     double valueAtPixel(double y) const;
+    // Where a point of a series stands.
+    QPointF placeOf(int point, int series) const;
+    // The reading that is seen nearest to a place in the frame, of all lines shown; nothing off the data.
+    std::optional<PlotHit> hit(const QPointF& place) const;
+    // The series whose legend entry stands at a place; -1 for none.
+    int legendAt(const QPointF& place) const;
 
 private:
     std::pair<double, double> wholeAcross() const;
     std::pair<double, double> wholeUp() const;
     void applyLook();
-    void placeLabels(int width);
+    std::vector<std::pair<int, QString>> labels() const;
+    LabelPlan planLabels(const std::vector<std::pair<int, QString>>& labels) const;
+    void setLabels(std::vector<std::pair<int, QString>> labels, const LabelPlan& plan);
+    void setUpAxes();
+    void layOutAxes();
 
     std::unique_ptr<QCustomPlot> plotter_;
     SeriesPlottable* series_;

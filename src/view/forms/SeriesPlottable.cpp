@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/forms/SeriesPlottable.h"
 
+#include "view/PlotAxis.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,6 +10,9 @@ namespace tally {
 namespace {
 
 constexpr double signDistance = 130; // pixels between the signs of one series
+constexpr double pointMark = 3.5;      // radius of a point that stands alone
+constexpr double forcedMark = 4;
+constexpr double shortRun = 6; // pixels below which a forced run gets a mark
 
 // The corners of a column's way as a line: in, down, up, out.
 void addWay(QPolygonF& line, double x, const Column& column, const auto& pixelOf) {
@@ -37,9 +42,14 @@ Along SeriesPlottable::along() const {
     return {origin, keyAxis()->coordToPixel(1) - origin};
 }
 
-double SeriesPlottable::pixelOf(float value) const {
+bool LinesShown::isHidden(int series) const {
+    return std::find(hidden.begin(), hidden.end(), series) != hidden.end();
+}
+
+double SeriesPlottable::pixelOf(float value, int axis) const {
     const QRect frame = clipRect();
-    return std::clamp(valueAxis()->coordToPixel(double(value)), frame.top() - 8.0, frame.bottom() + 8.0);
+    const double height = valueAxis()->coordToPixel(onFirstAxis(*plot, double(value), axis));
+    return std::clamp(height, frame.top() - 8.0, frame.bottom() + 8.0);
 }
 
 std::pair<int, int> SeriesPlottable::inSight(const PlotSeries& series) const {
@@ -53,16 +63,71 @@ void SeriesPlottable::draw(QCPPainter* painter) {
     if (!plot)
         return;
     drawSpan(*painter);
-    for (int index = 0; index < int(plot->series.size()); ++index) {
-        const PlotSeries& series = plot->series[std::size_t(index)];
-        const auto [first, last] = inSight(series);
-        drawRun(*painter, series, {first, last, look.line(index), 1});
-        for (const auto& [from, to] : series.forced)
-            drawRun(*painter, series, {std::max(from, first), std::min(to, last), look.forced, 3});
+    drawLimits(*painter);
+    const int count = int(plot->series.size());
+    for (int index = 0; index < count; ++index)
+        if (index != lines.lifted)
+            drawSeries(*painter, index);
+    if (lines.lifted >= 0 && lines.lifted < count)
+        drawSeries(*painter, lines.lifted);
+    if (count > 1)
+        for (int index = 0; index < count; ++index)
+            if (!lines.isHidden(index))
+                drawSigns(*painter, index);
+}
+
+void SeriesPlottable::drawSeries(QCPPainter& painter, int index) const {
+    if (lines.isHidden(index))
+        return;
+    const PlotSeries& series = plot->series[std::size_t(index)];
+    const auto [first, last] = inSight(series);
+    const double width = index == lines.lifted ? 3 : 1;
+    drawRun(painter, series,
+            {first, last, look.line(series.phase, index), width, ChartLook::dashes(series.phase)});
+    const Along places = along();
+    for (const auto& [from, to] : series.forced) {
+        const Run run{std::max(from, first), std::min(to, last), look.forced, 3};
+        drawRun(painter, series, run);
+        if (run.first <= run.last && (run.last - run.first) * places.step < shortRun)
+            drawMark(painter,
+                     {places.origin + run.first * places.step,
+                      pixelOf(series.values[std::size_t(run.first)], series.axis)},
+                     look.forced, forcedMark);
     }
-    if (plot->series.size() > 1)
-        for (int index = 0; index < int(plot->series.size()); ++index)
-            drawSigns(*painter, index);
+}
+
+void SeriesPlottable::drawMark(QCPPainter& painter, QPointF centre, const QColor& colour,
+                               double radius) const {
+    painter.save();
+    const int more = int(radius) + 1;
+    painter.setClipRect(clipRect().adjusted(-more, -more, more, more));
+    painter.setAntialiasing(true);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colour);
+    painter.drawEllipse(centre, radius, radius);
+    painter.restore();
+}
+
+// The words stand on the line, at the right end.
+void SeriesPlottable::drawLimits(QCPPainter& painter) const {
+    const QRect frame = clipRect();
+    painter.setFont(look.font);
+    const QFontMetrics metrics(look.font);
+    for (const LimitLine& limit : plot->limits) {
+        const double y = pixelOf(float(limit.value), limit.axis);
+        if (y < frame.top() || y > frame.bottom())
+            continue;
+        painter.setPen(QPen(look.limit, 1.5, Qt::DashLine));
+        painter.drawLine(QPointF(frame.left(), y), QPointF(frame.right(), y));
+        const QString words = QString::fromStdString(limit.label);
+        const int wide = std::min(metrics.horizontalAdvance(words) + 2, frame.width() / 2);
+        const bool above = y - metrics.height() - 2 >= frame.top();
+        const QRectF room(frame.right() - wide - 4, above ? y - metrics.height() - 1 : y + 2, wide,
+                          metrics.height());
+        painter.setPen(look.limit);
+        painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine,
+                         metrics.elidedText(words, Qt::ElideRight, wide));
+    }
 }
 
 void SeriesPlottable::drawSpan(QCPPainter& painter) const {
@@ -101,8 +166,8 @@ void SeriesPlottable::drawBars(QCPPainter& painter, const PlotSeries& series, co
         const bool joins = before && before->index + 1 == column.index;
         const float high = joins ? std::max(column.high, before->last) : column.high;
         const float low = joins ? std::min(column.low, before->last) : column.low;
-        const int top = int(std::lround(pixelOf(high)));
-        const int bottom = int(std::lround(pixelOf(low)));
+        const int top = int(std::lround(pixelOf(high, series.axis)));
+        const int bottom = int(std::lround(pixelOf(low, series.axis)));
         bars << QRect(column.index - width / 2, top - width / 2, width, bottom - top + width);
         before = &column;
     }
@@ -122,16 +187,22 @@ void SeriesPlottable::drawLine(QCPPainter& painter, const PlotSeries& series, co
         pen.setJoinStyle(Qt::RoundJoin);
         pen.setCapStyle(Qt::RoundCap);
     }
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
     const double grain = 0.5; // of a pixel, for paper
     const bool dense = vectors && places.step < grain;
-    const auto pixel = [this](float value) { return pixelOf(value); };
+    // Where points stand close dashes would hide some; there the signs tell the lines apart.
+    if (smooth && places.step > 2 && !run.dashes.isEmpty()) {
+        pen.setCapStyle(Qt::FlatCap);
+        pen.setDashPattern(run.dashes);
+    }
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const auto pixel = [&](float value) { return pixelOf(value, series.axis); };
     QPolygonF line;
     const auto finish = [&] {
         if (line.size() == 1)
-            line << line.front() + QPointF(0.01, 0); // a lone point shows as a dot
-        painter.drawPolyline(line);
+            drawMark(painter, line.front(), run.colour, pointMark);
+        else
+            painter.drawPolyline(line);
         line.clear();
     };
     if (dense) {
@@ -146,7 +217,7 @@ void SeriesPlottable::drawLine(QCPPainter& painter, const PlotSeries& series, co
         for (int point = run.first; point <= run.last; ++point) {
             const float value = series.values[std::size_t(point)];
             if (std::isfinite(value))
-                line << QPointF(places.origin + point * places.step, pixelOf(value));
+                line << QPointF(places.origin + point * places.step, pixel(value));
             else if (!line.isEmpty())
                 finish();
         }
@@ -156,12 +227,13 @@ void SeriesPlottable::drawLine(QCPPainter& painter, const PlotSeries& series, co
     painter.setAntialiasing(false);
 }
 
-void SeriesPlottable::drawSign(QPainter& painter, const QPointF& centre, int series, const ChartLook& look) {
+void SeriesPlottable::drawSign(QPainter& painter, const QPointF& centre, int series, const QColor& colour,
+                               const QColor& paper) {
     constexpr double r = 4;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(look.paper, 1));
-    painter.setBrush(look.line(series));
+    painter.setPen(QPen(paper, 1));
+    painter.setBrush(colour);
     painter.translate(centre);
     switch (series % 4) {
     case 0:
@@ -190,8 +262,9 @@ void SeriesPlottable::drawSigns(QCPPainter& painter, int index) const {
         if (point < 0 || point >= int(series.values.size()) ||
             !std::isfinite(series.values[std::size_t(point)]))
             continue;
-        const QPointF centre(places.origin + point * places.step, pixelOf(series.values[std::size_t(point)]));
-        drawSign(painter, centre, index, look);
+        const QPointF centre(places.origin + point * places.step,
+                             pixelOf(series.values[std::size_t(point)], series.axis));
+        drawSign(painter, centre, index, look.line(series.phase, index), look.paper);
     }
 }
 

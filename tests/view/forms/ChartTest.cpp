@@ -173,9 +173,9 @@ TEST_F(ChartTest, KeysZoomAndMoveThePicture) {
     QTest::keyClick(&chart, Qt::Key_Plus);
     const auto zoomed = chart.visiblePoints();
     EXPECT_NEAR(zoomed.second - zoomed.first, 1000 * 0.8, 0.1);
-    QTest::keyClick(&chart, Qt::Key_Right);
+    QTest::keyClick(&chart, Qt::Key_Right, Qt::ControlModifier);
     EXPECT_GT(chart.visiblePoints().first, zoomed.first);
-    QTest::keyClick(&chart, Qt::Key_Left);
+    QTest::keyClick(&chart, Qt::Key_Left, Qt::ControlModifier);
     EXPECT_NEAR(chart.visiblePoints().first, zoomed.first, 0.01);
     QTest::keyClick(&chart, Qt::Key_Minus);
     EXPECT_EQ(chart.visiblePoints(), std::pair(0.0, 1000.0));
