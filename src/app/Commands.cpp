@@ -18,6 +18,7 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
                       panes.namesChanged}),
       view(services, views, panes.menus, &panes.window),
       chart(services, dispatcher, views, panes.screen, panes.status, folder, printing),
+      navigate(services, dispatcher, views, chart, panes.screen, panes.menus, panes.status),
       power(services, views, voltage, panes.status),
       edit(services, dispatcher, views, forced, panes.menus, &panes.window),
       paper(services, views, voltage, printing),

@@ -12,6 +12,7 @@
 #include "app/TLY_File.h"
 #include "app/TLY_Help.h"
 #include "app/TLY_Instrument.h"
+#include "app/TLY_Navigate.h"
 #include "app/TLY_Options.h"
 #include "app/TLY_Paper.h"
 #include "app/TLY_Power.h"
@@ -53,6 +54,7 @@ struct Commands {
     TLY_File file;
     TLY_View view;
     TLY_Chart chart;
+    TLY_Navigate navigate;
     TLY_Power power;
     TLY_Edit edit;
     TLY_Paper paper;

@@ -26,9 +26,13 @@ private:
 bool Dispatcher::runDone(const std::function<Done()>& command) {
     if (running_)
         return false;
-    const Flag flag(running_);
-    gErrorCallPoint_ = 0;
-    return attemptDone(command);
+    const bool done = [&] {
+        const Flag flag(running_);
+        gErrorCallPoint_ = 0;
+        return attemptDone(command);
+    }();
+    after();
+    return done;
 }
 
 bool Dispatcher::attemptDone(const std::function<Done()>& step) {

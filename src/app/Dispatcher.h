@@ -37,6 +37,9 @@ public:
     }
     bool running() const { return running_; }
 
+    // Runs after each command, done or not: what follows the display is brought up to it.
+    std::function<void()> after = [] {};
+
 private:
     template <class Command>
     static std::function<Done()> asDone(Command&& command) {

@@ -3,7 +3,7 @@
 
 #include "app/Screen.h"
 #include "core/ModeTable.h"
-#include "view/FilesTogether.h"
+#include "view/FilesShown.h"
 #include "view/forms/Chart.h"
 #include "view/forms/TextView.h"
 
@@ -25,7 +25,10 @@ TextReport Printing::report(const std::string& title, const std::string& heading
 // What must be known about the files together, where what is shown comes from all of them.
 std::string Printing::remark() const {
     const View view = services_.display.view();
-    return isPlot(view) || isPowerView(view) ? togetherLine(services_.recordings) : "";
+    if (!isPlot(view) && !isPowerView(view))
+        return {};
+    const auto files = FilesShown::of(services_.recordings, services_.display);
+    return files ? files->remark() : std::string();
 }
 
 void Printing::print(const std::string& title, const std::string& heading, const std::string& text,

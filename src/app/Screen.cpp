@@ -6,10 +6,12 @@
 #include "core/forms/Words.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"
+#include "view/forms/SpanPanel.h"
 #include "view/forms/TextView.h"
 
 #include <QAction>
 #include <QLabel>
+#include <QSplitter>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -17,8 +19,9 @@ namespace tally {
 
 namespace {
 
-// One line of buttons with the name of what is shown at its right end, and the view below.
-QLabel* layOut(QWidget* page, QToolBar* bar, QWidget* view, const QString& labelName) {
+// Lines of buttons, with the name of what is shown at the right end of the first, and the view below.
+QLabel* layOut(QWidget* page, const QList<QToolBar*>& bars, QWidget* view, const QString& labelName) {
+    QToolBar* bar = bars.front();
     auto* down = new QVBoxLayout(page);
     down->setContentsMargins(0, 0, 0, 0);
     down->setSpacing(0);
@@ -28,7 +31,8 @@ QLabel* layOut(QWidget* page, QToolBar* bar, QWidget* view, const QString& label
     label->setObjectName(labelName);
     label->setContentsMargins(8, 0, 8, 0);
     bar->addWidget(label);
-    down->addWidget(bar);
+    for (QToolBar* each : bars)
+        down->addWidget(each);
     down->addWidget(view, 1);
     return label;
 }
@@ -51,6 +55,11 @@ ChartToolBar& Screen::chartBar() {
     return *chartBar_;
 }
 
+SpanPanel& Screen::spanPanel() {
+    chart();
+    return *spanPanel_;
+}
+
 TextView& Screen::text() {
     if (!text_)
         makeText();
@@ -62,9 +71,17 @@ void Screen::makeChart() {
     chart_ = new Chart(chartPage_);
     chart_->setObjectName(QStringLiteral("ChartFX1"));
     chartBar_ = new ChartToolBar(chartPage_);
-    addStudy(chartBar_, "chartStudy");
-    addPart(chartBar_, "chartShowAll");
-    chartLabel_ = layOut(chartPage_, chartBar_, chart_, QStringLiteral("displayingChart"));
+    QToolBar* views = viewBar();
+    addPart(views, "chartShowAll");
+    auto* beside = new QSplitter(chartPage_);
+    beside->setObjectName(QStringLiteral("chartAndSpan"));
+    beside->setChildrenCollapsible(false);
+    beside->addWidget(chart_);
+    spanPanel_ = new SpanPanel(beside);
+    spanPanel_->hide();
+    beside->addWidget(spanPanel_);
+    beside->setStretchFactor(0, 1);
+    chartLabel_ = layOut(chartPage_, {views, chartBar_}, beside, QStringLiteral("displayingChart"));
     addWidget(chartPage_);
     Q_EMIT chartMade();
 }
@@ -84,9 +101,9 @@ void Screen::makeText() {
             text_, [this] { text_->copy(); });
     connect(addTextButton(bar, "textFind", "Find", "Search this text (Ctrl+F)"), &QAction::triggered, text_,
             [this] { text_->showFindBar(); });
-    addStudy(bar, "textStudy");
+    addViews(bar, QStringLiteral("text"));
     addPart(bar, "textShowAll");
-    textLabel_ = layOut(textPage_, bar, text_, QStringLiteral("displayingText"));
+    textLabel_ = layOut(textPage_, {bar}, text_, QStringLiteral("displayingText"));
     addWidget(textPage_);
 }
 
@@ -101,10 +118,26 @@ void Screen::addPart(QToolBar* bar, const char* name) {
     setPart(part_);
 }
 
-void Screen::addStudy(QToolBar* bar, const char* name) {
-    QAction* study =
-        addTextButton(bar, name, "Study", "Demand, duration, phases and capacity of the open files");
-    connect(study, &QAction::triggered, this, &Screen::studyWanted);
+QToolBar* Screen::viewBar() {
+    auto* bar = new QToolBar(chartPage_);
+    bar->setObjectName(QStringLiteral("ViewToolBar"));
+    bar->setAccessibleName(QStringLiteral("Views"));
+    addViews(bar, QStringLiteral("chart"));
+    return bar;
+}
+
+void Screen::addViews(QToolBar* bar, const QString& page) {
+    bar->addSeparator();
+    for (const auto& [view, tip] : {std::pair{"Plot", "Plot all readings of the open files"},
+                                    {"Table", "The readings of a file"},
+                                    {"Summary", "The facts of a file"},
+                                    {"Power", "Kilowatts of the open files"},
+                                    {"Study", "Demand, duration, phases and capacity of the open files"}}) {
+        const QString name = QString::fromLatin1(view);
+        QAction* action = addTextButton(bar, (page + name).toLatin1().constData(), view, tip);
+        connect(action, &QAction::triggered, this, [this, name] { Q_EMIT viewWanted(name); });
+    }
+    bar->addSeparator();
 }
 
 void Screen::setPart(const QString& part) {

@@ -14,6 +14,7 @@ namespace tally {
 
 class Chart;
 class ChartToolBar;
+class SpanPanel;
 class StartPage;
 class TextView;
 
@@ -29,6 +30,7 @@ public:
     Chart& chart();
     ChartToolBar& chartBar();
     TextView& text();
+    SpanPanel& spanPanel();
 
     enum class Page { start, chart, text, other };
     Page page() const;
@@ -49,7 +51,8 @@ Q_SIGNALS:
     void printText();
     void previewText();
     void showAllWanted();
-    void studyWanted();
+    // A button of a view: "Plot", "Table", "Summary", "Power" or "Study".
+    void viewWanted(const QString& view);
     void wasReset(); // nothing is open any more
     void changed();  // something else is shown
 
@@ -58,7 +61,8 @@ private:
     void makeText();
     void setDisplaying(QLabel* label, const std::string& name);
     void addPart(QToolBar* bar, const char* name);
-    void addStudy(QToolBar* bar, const char* name);
+    void addViews(QToolBar* bar, const QString& page);
+    QToolBar* viewBar();
     QAction* addTextButton(QToolBar* bar, const char* name, const char* caption, const char* tip);
 
     StartPage* start_;
@@ -66,6 +70,7 @@ private:
     QWidget* textPage_ = nullptr;
     Chart* chart_ = nullptr;
     ChartToolBar* chartBar_ = nullptr;
+    SpanPanel* spanPanel_ = nullptr;
     TextView* text_ = nullptr;
     QLabel* chartLabel_ = nullptr;
     QLabel* textLabel_ = nullptr;

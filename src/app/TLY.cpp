@@ -12,6 +12,8 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <map>
+
 namespace tally {
 
 TLY::TLY(const Services& services, QWidget* parent)
@@ -114,6 +116,8 @@ void TLY::connectMoreMenus() {
     on("mnuItemFind", c.instrument, &TLY_Instrument::mnuItemFind_Click);
     on("mnuItemPortSelect", c.instrument, &TLY_Instrument::mnuItemPortSelect_Click);
     on("mnuItemInstSelect", c.instrument, &TLY_Instrument::mnuItemInstSelect_Click);
+    c.navigate.connectMenus(
+        [this](const std::function<Done()>& step) { command([step] { return step(); })(); });
     on("SpecialTest", c.options, &TLY_Options::SpecialTest_Click);
     on("mnuItemDefaultDir", c.options, &TLY_Options::mnuItemDefaultDir_Click);
     on("mnuItemUserID", c.options, &TLY_Options::mnuItemUserID_Click);
@@ -128,7 +132,14 @@ void TLY::connectTexts() {
     Commands& c = *commands_;
     connect(screen_, &Screen::printText, this, command([&c] { c.printing.printShown(); }));
     connect(screen_, &Screen::previewText, this, command([&c] { c.printing.previewShown(); }));
-    connect(screen_, &Screen::studyWanted, this, command([&c] { return c.study.mnuItemViewStudy_Click(); }));
+    connect(screen_, &Screen::viewWanted, this, [this](const QString& view) {
+        const std::map<QString, const char*> items = {{QStringLiteral("Plot"), "mnuItemViewPlot"},
+                                                      {QStringLiteral("Table"), "mnuItemViewTable"},
+                                                      {QStringLiteral("Summary"), "mnuItemViewsummary"},
+                                                      {QStringLiteral("Power"), "mnuItemViewPower"},
+                                                      {QStringLiteral("Study"), "mnuItemViewStudy"}};
+        menus_->item(items.at(view)).trigger();
+    });
     connect(screen_, &Screen::showAllWanted, this, command([&c] { return c.view.showAll(); }));
 }
 

@@ -37,6 +37,7 @@ TLY_Chart::TLY_Chart(const Services& services, Dispatcher& dispatcher, Views& vi
 
 void TLY_Chart::chartMade() {
     screen_.chart().setTimeOf([this](int point) { return labelAt(point); });
+    screen_.chart().setPointTime([this](int point) { return timeAt(point); });
     connectButtons();
     connectMarks();
 }
@@ -77,7 +78,8 @@ void TLY_Chart::connectMarks() {
         if (isPlot(services_.display.view()))
             dispatcher_.run([&] { return spanEnded(point); });
     });
-    QObject::connect(&chart, &Chart::pointerMoved, &screen_, [this](int point) { pointerMoved(point); });
+    QObject::connect(&chart, &Chart::pointerMoved, &screen_,
+                     [this](int point, int series) { pointerMoved(point, series); });
 }
 
 Done TLY_Chart::spanEnded(int point) {
@@ -88,13 +90,27 @@ Done TLY_Chart::spanEnded(int point) {
     return drawn;
 }
 
-void TLY_Chart::pointerMoved(int point) {
-    if (point < 0 || !isPlot(services_.display.view())) {
+// The nearest reading; where there are several lines with the name of its own.
+void TLY_Chart::pointerMoved(int point, int series) {
+    if (!isPlot(services_.display.view())) {
         status_.pointer({}, {});
         return;
     }
-    const ReadOut read = readOut(services_.recordings, screen_.chart().plot(), point);
-    status_.pointer(words(read.time), words(read.value));
+    const Plot& plot = screen_.chart().plot();
+    const ReadOut read = readOut(services_.recordings, plot, point, series);
+    const bool several = !read.value.empty() && plot.series.size() > 1;
+    const std::string name = several ? plot.series[std::size_t(series)].legend + "  " : "";
+    status_.pointer(words(read.time), words(name + read.value));
+}
+
+std::string TLY_Chart::timeAt(int point) const {
+    if (!isPlot(services_.display.view()))
+        return {};
+    return readOut(services_.recordings, screen_.chart().plot(), point).time;
+}
+
+void TLY_Chart::previewShown() {
+    printing_.previewShown();
 }
 
 // The axis of an enlarged picture reads like the nine labels of the whole one.

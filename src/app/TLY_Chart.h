@@ -32,6 +32,9 @@ public:
     Done mnuItemImport_Click();
     Done mnuItemadd_Click();
     Done mnuItemClearNote_Click();
+    void saveChart();
+    Done savePicture();
+    void previewShown();
     // The chart's picture or the text on the screen, to the clipboard.
     void copyShown();
 
@@ -41,11 +44,10 @@ private:
     void connectMarks();
     template <class Command>
     void on(QAction* action, Command command);
-    void saveChart();
-    Done savePicture();
     Done spanEnded(int point);
-    void pointerMoved(int point);
+    void pointerMoved(int point, int series);
     std::string labelAt(int point) const;
+    std::string timeAt(int point) const;
     // Draws the plot of the open files when no chart is shown.
     Done needChart();
 

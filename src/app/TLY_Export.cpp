@@ -62,8 +62,11 @@ Done TLY_Export::mnuitemexprep_Click() {
     const Recordings& recordings = services_.recordings;
     if (!recordings.isOpen(0))
         return refuse(std::string(noFileToExport));
-    const auto plan = planMetering(recordings, services_.display.displayed(recordings),
-                                   services_.display.powerFactor(), {services_.files, folder_.stored()});
+    const auto files = views_.files();
+    if (!files)
+        return tl::make_unexpected(files.error());
+    const auto plan = planMetering(files->recordings(), files->range(), services_.display.powerFactor(),
+                                   {services_.files, folder_.stored()});
     if (!plan)
         return tl::make_unexpected(plan.error());
     const bool known = services_.display.powerKnown();
@@ -72,7 +75,7 @@ Done TLY_Export::mnuitemexprep_Click() {
     // A summary that is shown has an energy line from now on.
     if (!known)
         views_.renewPower();
-    const auto power = views_.power();
+    const auto power = views_.power(*files);
     if (!power)
         return tl::make_unexpected(power.error());
     const auto answer =

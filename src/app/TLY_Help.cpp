@@ -41,6 +41,7 @@ void TLY_Help::showMenu(const QString& menu) {
         {QStringLiteral("mnusurvey"), QStringLiteral("survey.html")},
         {QStringLiteral("mnuEdit"), QStringLiteral("edit.html")},
         {QStringLiteral("mnuView"), QStringLiteral("view.html")},
+        {QStringLiteral("mnuChart"), QStringLiteral("chart.html")},
         {QStringLiteral("mnuInstrument"), QStringLiteral("instrument.html")},
         {QStringLiteral("mnuOptions"), QStringLiteral("options.html")},
         {QStringLiteral("mnuHelp"), QStringLiteral("helpmenu.html")}};

@@ -4,7 +4,6 @@
 #include "app/Printing.h"
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
-#include "view/FilesTogether.h"
 #include "view/Print.h"
 #include "view/Printinfo.h"
 #include "view/Printpwr.h"
@@ -47,12 +46,14 @@ Done TLY_Paper::mnuItemPrintpwrSum_Click() {
         return file;
     if (!voltage_.ensureKnown())
         return {};
-    const auto power = views_.power();
+    const auto files = views_.files();
+    if (!files)
+        return tl::make_unexpected(files.error());
+    const auto power = views_.power(*files);
     if (!power)
         return tl::make_unexpected(power.error());
     printing_.print("Power summary", {},
-                    Printpwrinfo(services_.recordings, *power, services_.display.zoomed()),
-                    togetherLine(services_.recordings));
+                    Printpwrinfo(files->recordings(), *power, services_.display.zoomed()), files->remark());
     return {};
 }
 
@@ -61,11 +62,14 @@ Done TLY_Paper::mnuItemPrintPwrTable_Click() {
         return file;
     if (!voltage_.ensureKnown())
         return {};
-    const auto power = views_.power();
+    const auto files = views_.files();
+    if (!files)
+        return tl::make_unexpected(files.error());
+    const auto power = views_.power(*files);
     if (!power)
         return tl::make_unexpected(power.error());
-    const Table table = Printpwr(services_.recordings, *power);
-    printing_.print("Power table", table.heading, table.text, togetherLine(services_.recordings));
+    const Table table = Printpwr(files->recordings(), *power);
+    printing_.print("Power table", table.heading, table.text, files->remark());
     return {};
 }
 

@@ -30,47 +30,78 @@ PowerBasis Views::basis() const {
     return {vlineOf(services_.settings), services_.display.powerFactor()};
 }
 
-Expected<Power> Views::power() {
-    auto power = powerOf(services_.recordings, services_.display.displayed(services_.recordings), basis());
+Expected<Power> Views::power(const FilesShown& files) {
+    auto power = powerOf(files.recordings(), files.range(), basis());
     if (power)
         for (const char* name : {"mnuItemViewPwrTable", "mnuItemPrintPwrTable", "mnuitemexprep"})
             menus_.set(name, true);
     return power;
 }
 
-std::string Views::summary(int slot) const {
-    const Recordings& recordings = services_.recordings;
+Expected<SpanFigures> Views::figures(const Range& range) const {
     const Display& display = services_.display;
-    const std::string energy =
-        display.powerKnown() ? energyOf(recordings, display.displayed(recordings), basis()) : "";
-    return Printinfo(recordings, slot, display.selection(recordings), energy);
+    const auto files = FilesShown::of(services_.recordings, display.byTime(), range);
+    if (!files)
+        return tl::make_unexpected(files.error());
+    if (!display.powerView())
+        return spanFigures(files->recordings(), files->range(), display.statistic());
+    const auto power = powerOf(files->recordings(), files->range(), basis());
+    if (!power)
+        return tl::make_unexpected(power.error());
+    return spanFigures(files->recordings(), *power);
+}
+
+// The energy of the displayed range, once a line voltage was asked for.
+std::string Views::energy() const {
+    if (!services_.display.powerKnown())
+        return {};
+    const auto shown = files();
+    return shown ? energyOf(shown->recordings(), shown->range(), basis()) : std::string();
+}
+
+std::optional<SelectedSpan> Views::selected(int slot) const {
+    const auto part = services_.display.part(services_.recordings, slot);
+    const auto shown = files();
+    if (!services_.display.zoomed() || !part || !shown)
+        return std::nullopt;
+    return SelectedSpan{*part, extremesOf(shown->recordings(), shown->range())};
+}
+
+std::string Views::summary(int slot) const {
+    return summaryText(services_.recordings, slot, selected(slot), energy());
 }
 
 Done Views::redraw() {
     const PlotRequest request = services_.display.plotRequest(services_.recordings);
+    const auto files = FilesShown::of(services_.recordings, services_.display.byTime(), request.range);
+    if (!files)
+        return tl::make_unexpected(files.error());
     if (services_.display.powerView())
-        return redrawPower(request);
-    const Plot plot = DisplPlot(services_.recordings, request, services_.clock);
-    services_.display.plotShown(request, View::dataPlot);
-    screen_.showPlot(plot, services_.display.onePage());
-    showPart(0);
+        return redrawPower(request, *files);
+    const Plot plot = files->plot(DisplPlot(files->recordings(), files->request(request), services_.clock));
+    showPlot(plot, View::dataPlot, request);
     status_.remark(words(plot.remark));
     menus_.apply(MenuEvent::plotted);
     return {};
 }
 
-Done Views::redrawPower(const PlotRequest& request) {
-    const auto power = powerOf(services_.recordings, request.range, basis());
+void Views::showPlot(const Plot& plot, View view, const PlotRequest& request) {
+    services_.display.plotShown(request, view);
+    screen_.showPlot(plot, services_.display.onePage());
+    showPart(0);
+}
+
+Done Views::redrawPower(const PlotRequest& request, const FilesShown& files) {
+    const auto power = powerOf(files.recordings(), files.range(), basis());
     if (!power) {
         if (isMinMaxAvg(services_.recordings.info(0).modeLetter))
             menus_.set("mnuItemViewPower", false);
         return tl::make_unexpected(power.error());
     }
-    const Plot plot = DisplPlotPwr(services_.recordings, request, *power, services_.clock);
-    services_.display.plotShown(request, View::powerPlot);
-    screen_.showPlot(plot, services_.display.onePage());
-    showPart(0);
-    const std::string source = powerSource(services_.recordings, *power);
+    const Plot plot =
+        files.plot(DisplPlotPwr(files.recordings(), files.request(request), *power, services_.clock));
+    showPlot(plot, View::powerPlot, request);
+    const std::string source = powerSource(files.recordings(), *power);
     status_.remark(words(plot.remark.empty() ? source : source + "; " + plot.remark));
     menus_.apply(MenuEvent::powerPlotted);
     return {};
@@ -108,27 +139,33 @@ Done Views::showSummary(int slot) {
 }
 
 Done Views::showPowerTable() {
-    const auto made = power();
+    const auto shown = files();
+    if (!shown)
+        return tl::make_unexpected(shown.error());
+    const auto made = power(*shown);
     if (!made)
         return tl::make_unexpected(made.error());
-    services_.display.tableShown(View::powerTable, 0, Printpwr(services_.recordings, *made));
+    services_.display.tableShown(View::powerTable, 0, Printpwr(shown->recordings(), *made));
     const Table& table = services_.display.table();
     screen_.showText(table.heading, table.text, "power table");
     showPart(0);
-    status_.remark(words(powerSource(services_.recordings, *made)));
+    status_.remark(words(powerSource(shown->recordings(), *made)));
     menus_.apply(MenuEvent::tableShown);
     return {};
 }
 
 Done Views::showPowerSummary() {
-    const auto made = power();
+    const auto shown = files();
+    if (!shown)
+        return tl::make_unexpected(shown.error());
+    const auto made = power(*shown);
     if (!made)
         return tl::make_unexpected(made.error());
     services_.display.textShown(View::powerSummary, 0);
-    screen_.showText({}, Printpwrinfo(services_.recordings, *made, services_.display.zoomed()),
+    screen_.showText({}, Printpwrinfo(shown->recordings(), *made, services_.display.zoomed()),
                      "power summary");
     showPart(0);
-    status_.remark(words(powerSource(services_.recordings, *made)));
+    status_.remark(words(powerSource(shown->recordings(), *made)));
     menus_.apply(MenuEvent::textShown);
     return {};
 }
@@ -190,12 +227,22 @@ void Views::renewPower() {
 
 void Views::showTogether() {
     QStringList texts;
-    for (const std::string& warning : togetherWarnings(services_.recordings))
-        texts.append(words(warning) + QLatin1Char('.'));
-    if (texts.isEmpty())
-        notices_.remove(togetherKey);
+    const bool byTime = services_.display.byTime();
+    const auto shown = files();
+    if (byTime && shown)
+        texts.append(words(shown->remark()) + QLatin1Char('.'));
     else
-        notices_.put(togetherKey, texts.join(QLatin1Char(' ')));
+        for (const std::string& warning : togetherWarnings(services_.recordings))
+            texts.append(words(warning) + QLatin1Char('.'));
+    if (texts.isEmpty()) {
+        notices_.remove(togetherKey);
+        return;
+    }
+    std::vector<NoticeAction> actions;
+    if (byTime || startsDiffer(services_.recordings))
+        actions.push_back({byTime ? QStringLiteral("Combine by number") : QStringLiteral("Align by time"),
+                           [this] { menus_.item("mnuItemAlign").trigger(); }});
+    notices_.put(togetherKey, texts.join(QLatin1Char(' ')), actions);
 }
 
 // While a part is shown the line of buttons says which.

@@ -3,7 +3,10 @@
 
 #include "app/Dispatcher.h"
 #include "app/Services.h"
+#include "view/FilesShown.h"
 #include "view/Power.h"
+#include "view/Printinfo.h"
+#include "view/SpanFigures.h"
 
 #include <functional>
 #include <string>
@@ -63,13 +66,20 @@ public:
     std::function<void()> renewPage = [] {};
 
     PowerBasis basis() const;
-    // The power of the displayed range; what can be shown or written of it is enabled then.
-    Expected<Power> power();
+    // The files as they are shown, over the displayed range.
+    Expected<FilesShown> files() const { return FilesShown::of(services_.recordings, services_.display); }
+    // Their power; what can be shown or written of it is enabled then.
+    Expected<Power> power(const FilesShown& files);
+    // The figures of a range of the first file, of the lines that the plot on the screen shows.
+    Expected<SpanFigures> figures(const Range& range) const;
     // The summary of a file as it now is.
     std::string summary(int slot) const;
 
 private:
-    Done redrawPower(const PlotRequest& request);
+    Done redrawPower(const PlotRequest& request, const FilesShown& files);
+    std::optional<SelectedSpan> selected(int slot) const;
+    std::string energy() const;
+    void showPlot(const Plot& plot, View view, const PlotRequest& request);
     void showPart(int slot);
 
     const Services& services_;

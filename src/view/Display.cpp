@@ -2,6 +2,7 @@
 #include "view/Display.h"
 
 #include "core/Numbers.h"
+#include "core/TimeAxis.h"
 #include "view/Range.h"
 
 #include <algorithm>
@@ -48,14 +49,23 @@ void Display::closed() {
     fresh.end_ = end_;
     fresh.statistic_ = statistic_;
     fresh.powerFactor_ = powerFactor_;
+    fresh.axes_ = axes_;
     *this = std::move(fresh);
 }
 
-Range Display::displayed(const Recordings& recordings) const {
+Range Display::reach(const Recordings& recordings) const {
     const Range whole = wholeFile(recordings, 0);
+    if (!byTime_)
+        return whole;
+    const auto axis = timeAxis(recordings);
+    return axis ? Range{axis->reading(0, 0), axis->reading(0, axis->points - 1, axis->stride - 1)} : whole;
+}
+
+Range Display::displayed(const Recordings& recordings) const {
+    const Range whole = reach(recordings);
     if (!spanApplied_)
         return whole;
-    return wholeTriples(recordings, 0, std::max(start_, 0), std::min(end_, whole.last))
+    return wholeTriples(recordings, 0, std::max(start_, whole.first), std::min(end_, whole.last))
         .value_or(Range{start_, start_ - 1});
 }
 
@@ -68,6 +78,12 @@ Expected<Range> Display::part(const Recordings& recordings, int slot) const {
     if (!spanApplied_)
         return whole;
     const Range shown = displayed(recordings);
+    if (byTime_) {
+        const auto axis = timeAxis(recordings, IndexRange{shown.first, shown.last});
+        if (!axis)
+            return tl::make_unexpected(axis.error());
+        return Range{axis->reading(slot, 0), axis->reading(slot, axis->points - 1, axis->stride - 1)};
+    }
     Range range = sameIntervals(recordings, shown, slot);
     range.last = std::min(range.last, whole.last);
     if (range.entries() == 0)
@@ -88,6 +104,7 @@ void Display::wholeRange(const Recordings& recordings) {
     zoomRequest_ = false;
     // A zoom without a new mark shows the whole file.
     span_ = wholeFile(recordings, 0);
+    trail_.visit(std::nullopt);
 }
 
 void Display::startPlot(const Recordings& recordings) {
@@ -111,6 +128,41 @@ void Display::showAll(const Recordings& recordings) {
     wholeRange(recordings);
 }
 
+void Display::show(const Recordings& recordings, const ZoomTrail::Place& place) {
+    if (place)
+        applyRange(recordings, place->first, place->last);
+    else
+        wholeRange(recordings);
+}
+
+// What is shown now is where the trail already stands.
+void Display::goBack(const Recordings& recordings) {
+    show(recordings, trail_.back());
+}
+
+void Display::goForward(const Recordings& recordings) {
+    show(recordings, trail_.forward());
+}
+
+Expected<void> Display::showByTime(const Recordings& recordings, bool byTime) {
+    if (byTime) {
+        const Range shown = displayed(recordings);
+        if (const auto axis = timeAxis(recordings, IndexRange{shown.first, shown.last}); !axis)
+            return tl::make_unexpected(axis.error());
+    }
+    byTime_ = byTime;
+    unmark(recordings);
+    return {};
+}
+
+void Display::setFixedAxis(AxisUnit unit, const std::optional<FixedAxis>& fixed) {
+    axes_.at(static_cast<std::size_t>(unit)).fixed = fixed;
+}
+
+void Display::setLimits(AxisUnit unit, std::vector<LimitLine> limits) {
+    axes_.at(static_cast<std::size_t>(unit)).limits = std::move(limits);
+}
+
 void Display::markStart(const Plot& plot, int point) {
     const int first = entryOf(plot, point);
     span_ = {first, first + plot.entriesPerPoint - 1};
@@ -121,6 +173,11 @@ void Display::markEnd(const Plot& plot, int point) {
     const int pressed = span_.first;
     span_ = {std::min(pressed, released), std::max(pressed, released) + plot.entriesPerPoint - 1};
     spanSelected_ = true;
+}
+
+void Display::unmark(const Recordings& recordings) {
+    span_ = displayed(recordings);
+    spanSelected_ = false;
 }
 
 void Display::requestZoom() {
@@ -142,6 +199,7 @@ bool Display::applyRange(const Recordings& recordings, int from, int to) {
     start_ = range->first;
     end_ = range->last;
     zoomFlag_ = true;
+    trail_.visit(*range);
     return true;
 }
 
@@ -149,6 +207,7 @@ PlotRequest Display::plotRequest(const Recordings& recordings) const {
     PlotRequest request;
     request.statistic = statistic_;
     request.yMinimum = yMinimum_;
+    request.axes = axes_;
     request.zoom = zoomRequest_;
     request.range = displayed(recordings);
     if (zoomRequest_)
@@ -162,8 +221,11 @@ void Display::plotShown(const PlotRequest& request, View view) {
     if (request.zoom) {
         start_ = request.range.first;
         spanApplied_ = true;
+        trail_.visit(request.range);
     }
-    end_ = request.range.last;
+    // By time a plot may show less of a zoomed range than reading by reading; the range stays.
+    if (request.zoom || !spanApplied_)
+        end_ = request.range.last;
     spanSelected_ = false;
     zoomRequest_ = false;
     yMinimum_.reset();

@@ -3,7 +3,9 @@
 
 #include "core/Recordings.h"
 #include "core/Refusal.h"
+#include "view/AxisChoice.h"
 #include "view/Plot.h"
+#include "view/ZoomTrail.h"
 
 #include <cstdint>
 #include <optional>
@@ -38,6 +40,7 @@ struct PlotRequest {
     Statistic statistic = Statistic::average;
     std::optional<Range> selected;        // the marked span, which the title block names
     std::optional<std::int16_t> yMinimum; // of the data plot's axis
+    AxisChoices axes;                     // fixed ends and limit lines of each unit
     bool zoom = false;                    // the range is a span that was asked to be zoomed to
 };
 
@@ -85,14 +88,33 @@ public:
     void startOnePage(const Recordings& recordings);
     void showAll(const Recordings& recordings);
 
+    // Through the ranges that were shown before; only when there is one.
+    bool canGoBack() const { return trail_.canGoBack(); }
+    bool canGoForward() const { return trail_.canGoForward(); }
+    void goBack(const Recordings& recordings);
+    void goForward(const Recordings& recordings);
+
+    // Files side by side by time instead of reading by reading, until files are opened or closed. Refused
+    // when they have no common time in the displayed range.
+    bool byTime() const { return byTime_; }
+    Expected<void> showByTime(const Recordings& recordings, bool byTime);
+    // Every reading of the first file that can be shown: by time what all files have.
+    Range reach(const Recordings& recordings) const;
+
     // Marking a span on a plot: the button is pressed on a point and released on another, in either
     // direction. Points outside the plot are clamped.
     void markStart(const Plot& plot, int point);
     void markEnd(const Plot& plot, int point);
+    // The mark is given up.
+    void unmark(const Recordings& recordings);
     // The next plot narrows the range to the marked span.
     void requestZoom();
     // The y axis of the next data plot begins at this whole number. Throws Type mismatch or Overflow.
     void setScale(std::string_view answer);
+    // What holds for the axis of a unit until it is chosen otherwise; open files or not.
+    const AxisChoice& axis(AxisUnit unit) const { return axes_.at(static_cast<std::size_t>(unit)); }
+    void setFixedAxis(AxisUnit unit, const std::optional<FixedAxis>& fixed);
+    void setLimits(AxisUnit unit, std::vector<LimitLine> limits);
     void setStatistic(Statistic statistic) { statistic_ = statistic; }
     // A reading range given as such: marked and applied at once, as whole triples of the first file. False,
     // and nothing changed, when it is turned round or outside the file.
@@ -126,6 +148,7 @@ public:
 
 private:
     void wholeRange(const Recordings& recordings);
+    void show(const Recordings& recordings, const ZoomTrail::Place& place);
 
     int start_ = 1;
     int end_ = 0;
@@ -144,6 +167,9 @@ private:
     Table table_;
     float powerFactor_ = 1.0F;
     bool powerKnown_ = false;
+    ZoomTrail trail_;
+    bool byTime_ = false;
+    AxisChoices axes_;
 };
 
 inline constexpr std::string_view scalePrompt = "Enter min value for Y Scale";

@@ -38,6 +38,16 @@ std::string shorterFiles(const Recordings& recordings) {
     return text;
 }
 
+bool startsDiffer(const Recordings& recordings) {
+    const FileFacts& first = recordings.info(0);
+    for (int slot = 1; slot < recordings.openCount(); ++slot) {
+        const FileFacts& info = recordings.info(slot);
+        if (timeOf(info, firstWhole(info)) != timeOf(first, firstWhole(first)))
+            return true;
+    }
+    return false;
+}
+
 std::vector<std::string> togetherWarnings(const Recordings& recordings) {
     std::vector<std::string> warnings;
     const FileFacts& first = recordings.info(0);

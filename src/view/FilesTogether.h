@@ -19,6 +19,9 @@ std::string shorterFiles(const Recordings& recordings);
 // another unit. Empty for one file.
 std::vector<std::string> togetherWarnings(const Recordings& recordings);
 
+// Whether open files start at different times, by their first whole intervals.
+bool startsDiffer(const Recordings& recordings);
+
 // The warnings on one line, parted by "; ".
 std::string togetherLine(const Recordings& recordings);
 

@@ -53,6 +53,14 @@ void scalePowerAxis(Plot& plot, const Recordings& recordings, const Power& power
     plot.yMax = axisEnd(power.extremeMax, 110, power.basis);
 }
 
+void applyPowerChoice(Plot& plot, const PlotRequest& request) {
+    UnitAxis axis{plot.yTitle, plot.yMin, plot.yMax};
+    const AxisUnit unit = AxisUnit::kilowatts;
+    applyChoice(plot, axis, 0, unit, request.axes.at(static_cast<std::size_t>(unit)));
+    plot.yMin = axis.min;
+    plot.yMax = axis.max;
+}
+
 } // namespace
 
 Expected<void> checkPower(const Recordings& recordings) {
@@ -126,6 +134,7 @@ Plot DisplPlotPwr(const Recordings& recordings, const PlotRequest& request, cons
     plot.remark = togetherRemark(recordings);
     labelAxis(plot, recordings.info(0));
     scalePowerAxis(plot, recordings, power);
+    applyPowerChoice(plot, request);
     plot.extremeMin = power.extremeMin;
     plot.extremeMax = power.extremeMax;
     return plot;

@@ -4,7 +4,6 @@
 #include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "core/Numbers.h"
-#include "view/Range.h"
 #include "view/Summary.h"
 
 #include <algorithm>
@@ -16,23 +15,30 @@ namespace {
 constexpr std::size_t modeField = 15;
 constexpr std::size_t valuesField = 29;
 
-// The extremes are those of the displayed range over all files, as the plot shows them.
-std::string selectedLines(const Recordings& recordings, const Range& selected, int slot) {
-    const FileFacts& info = recordings.info(slot);
-    Range range = sameIntervals(recordings, selected, slot);
-    range.last = std::min(range.last, info.count - 1);
-    const Extremes extremes = extremesOf(recordings, selected);
-    return "           Selected:       Start  " + screenTime(timeOf(info, range.first)) +
-           "                   Finish  " + screenTime(timeOf(info, range.last)) + "\r\n" +
-           "                                   Min      " + Format(extremes.smallest / 10.0, "###0.0") +
-           "           " + "                                 max       " +
-           Format(extremes.largest / 10.0, "###0.0") + "\r\n";
+std::string selectedLines(const FileFacts& info, const SelectedSpan& selected) {
+    return "           Selected:       Start  " + screenTime(timeOf(info, selected.range.first)) +
+           "                   Finish  " + screenTime(timeOf(info, selected.range.last)) + "\r\n" +
+           "                                   Min      " +
+           Format(selected.extremes.smallest / 10.0, "###0.0") + "           " +
+           "                                 max       " +
+           Format(selected.extremes.largest / 10.0, "###0.0") + "\r\n";
 }
 
 } // namespace
 
+// The extremes are those of the displayed range over all files, as the plot shows them.
 std::string Printinfo(const Recordings& recordings, int slot, const std::optional<Range>& selected,
                       const std::string& energy) {
+    std::optional<SelectedSpan> span;
+    if (selected && slot >= 0 && slot < Recordings::slotCount && recordings.isOpen(slot)) {
+        span = {sameIntervals(recordings, *selected, slot), extremesOf(recordings, *selected)};
+        span->range.last = std::min(span->range.last, recordings.info(slot).count - 1);
+    }
+    return summaryText(recordings, slot, span, energy);
+}
+
+std::string summaryText(const Recordings& recordings, int slot, const std::optional<SelectedSpan>& selected,
+                        const std::string& energy) {
     if (slot < 0 || slot >= Recordings::slotCount || !recordings.isOpen(slot))
         throw fault::subscript();
     const FileFacts& info = recordings.info(slot);
@@ -47,7 +53,7 @@ std::string Printinfo(const Recordings& recordings, int slot, const std::optiona
     if (!energy.empty())
         text += "                   Total Energy In Displayed Area  " + energy + "\r\n";
     if (selected)
-        text += selectedLines(recordings, *selected, slot);
+        text += selectedLines(info, *selected);
     return text + noteLines(recordings, slot);
 }
 

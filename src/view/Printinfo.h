@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Recordings.h"
+#include "view/Range.h"
 
 #include <optional>
 #include <string>
@@ -14,6 +14,15 @@ namespace tally {
 // range when no file is open in the slot.
 std::string Printinfo(const Recordings& recordings, int slot, const std::optional<Range>& selected = {},
                       const std::string& energy = {});
+
+// The applied span of a file: its readings, and the extremes of all files shown over it.
+struct SelectedSpan {
+    Range range;
+    Extremes extremes;
+};
+// The same summary with the span worked out elsewhere.
+std::string summaryText(const Recordings& recordings, int slot, const std::optional<SelectedSpan>& selected,
+                        const std::string& energy);
 
 inline constexpr std::string_view noFileForSummary = "Error - No file available. Need to open a file.";
 inline constexpr std::string_view noFileForPrintSummary = "Error - No file available.  Need to open a file.";

@@ -51,27 +51,47 @@ std::span<const std::int16_t> present(const Recordings& recordings, int slot, co
     return all.subspan(from, std::min(static_cast<std::size_t>(range.entries()), all.size() - from));
 }
 
-Extremes extremesOf(const Recordings& recordings, const Range& ofFirstFile) {
+namespace {
+
+Extremes extremesIn(const Recordings& recordings, const Range& ofFirstFile, int slot) {
+    const Range range = sameIntervals(recordings, ofFirstFile, slot);
+    const auto readings = present(recordings, slot, range);
     Extremes extremes;
-    bool first = true;
-    for (int slot = 0; slot < recordings.openCount(); ++slot) {
-        const Range range = sameIntervals(recordings, ofFirstFile, slot);
-        const auto readings = present(recordings, slot, range);
-        std::int16_t smallest = readings.empty() ? std::int16_t{0} : readings.front();
-        std::int16_t largest = smallest;
-        for (const std::int16_t reading : readings) {
-            smallest = std::min(smallest, reading);
-            largest = std::max(largest, reading);
-        }
-        if (static_cast<int>(readings.size()) < range.entries()) {
-            smallest = std::min(smallest, std::int16_t{0});
-            largest = std::max(largest, std::int16_t{0});
-        }
-        extremes.smallest = first ? smallest : std::min(extremes.smallest, smallest);
-        extremes.largest = first ? largest : std::max(extremes.largest, largest);
-        first = false;
+    if (!readings.empty())
+        extremes = {readings.front(), readings.front()};
+    for (const std::int16_t reading : readings) {
+        extremes.smallest = std::min(extremes.smallest, reading);
+        extremes.largest = std::max(extremes.largest, reading);
+    }
+    if (static_cast<int>(readings.size()) < range.entries()) {
+        extremes.smallest = std::min(extremes.smallest, std::int16_t{0});
+        extremes.largest = std::max(extremes.largest, std::int16_t{0});
     }
     return extremes;
+}
+
+template <typename Counts>
+Extremes extremesWhere(const Recordings& recordings, const Range& ofFirstFile, Counts counts) {
+    std::optional<Extremes> all;
+    for (int slot = 0; slot < recordings.openCount(); ++slot) {
+        if (!counts(recordings.info(slot)))
+            continue;
+        const Extremes one = extremesIn(recordings, ofFirstFile, slot);
+        all =
+            !all ? one : Extremes{std::min(all->smallest, one.smallest), std::max(all->largest, one.largest)};
+    }
+    return all.value_or(Extremes());
+}
+
+} // namespace
+
+Extremes extremesOf(const Recordings& recordings, const Range& ofFirstFile) {
+    return extremesWhere(recordings, ofFirstFile, [](const FileFacts&) { return true; });
+}
+
+Extremes extremesOf(const Recordings& recordings, const Range& ofFirstFile, char unit) {
+    return extremesWhere(recordings, ofFirstFile,
+                         [unit](const FileFacts& info) { return info.unit() == unit; });
 }
 
 } // namespace tally

@@ -35,5 +35,7 @@ struct Extremes {
 // Over a range of the first file and the same intervals of the others; a reading that a file does not have
 // counts as 0.
 Extremes extremesOf(const Recordings& recordings, const Range& ofFirstFile);
+// The same of the open files of one unit ('A' or 'V').
+Extremes extremesOf(const Recordings& recordings, const Range& ofFirstFile, char unit);
 
 } // namespace tally

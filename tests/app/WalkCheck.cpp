@@ -45,6 +45,10 @@ std::string WalkDesk::differences() {
         return "a question was not asked";
     if (std::string other = differentFiles(); !other.empty())
         return other;
+    if (item("mnuItemBack").isEnabled() != (model_.shown != Shown::start && model_.place > 0))
+        return "Back is wrong";
+    if (item("mnuItemAlign").isChecked() != model_.byTime)
+        return "the files are combined otherwise";
     if (model_.shown == Shown::start)
         return window.screen().page() == Screen::Page::start ? "" : "something is shown";
     if (model_.shown == Shown::plot || model_.shown == Shown::powerPlot)
@@ -87,9 +91,10 @@ std::string WalkDesk::differentPlot() {
         return "the plot has " + std::to_string(plot.series.size()) + " series";
     for (std::size_t s = 0; s < series; ++s) {
         const OpenFile& file = model_.open[power || three ? 0 : s];
+        const int later = power || three ? 0 : model_.offset(int(s));
         const int part = three ? int(s) : stride == 3 ? model_.statistic - 1 : 0;
         for (int i = range.first; i <= range.last; ++i) {
-            const double expected = power ? model_.kilowatts(i) : file.at(i, part) / 10.0;
+            const double expected = power ? model_.kilowatts(i) : file.at(i - later, part) / 10.0;
             const double drawn = double(plot.series[s].values[std::size_t(i - range.first)]);
             if (!near(drawn, expected))
                 return "series " + std::to_string(s) + " point " + std::to_string(i - range.first) + " is " +
@@ -174,7 +179,7 @@ std::string WalkDesk::differentSummary(const std::string& text) {
     if (!model_.zoom)
         return {};
     const Span part = *model_.part(model_.slot);
-    const auto [smallest, largest] = model_.extremes(*model_.zoom);
+    const auto [smallest, largest] = model_.extremes(model_.displayed());
     if (!has(text, "Start  " + screenTime(file.time(part.first)) + "                   Finish  " +
                        screenTime(file.time(part.last))))
         return "the summary's selection is another one";

@@ -15,9 +15,10 @@ namespace tally::testing {
 namespace {
 
 constexpr std::array<const char*, acts> names = {
-    "open",    "close", "plot",      "power",   "refresh",    "mark",         "zoom",     "showAll",
-    "onePage", "scale", "table",     "summary", "powerTable", "powerSummary", "factor",   "force",
-    "undo",    "save",  "saveWhole", "csv",     "textExport", "perLine",      "metering", "cancel"};
+    "open",    "close",      "plot",         "power",    "refresh", "mark",    "zoom",  "showAll",
+    "back",    "forward",    "day",          "align",    "unmark",  "onePage", "scale", "table",
+    "summary", "powerTable", "powerSummary", "factor",   "force",   "undo",    "save",  "saveWhole",
+    "csv",     "textExport", "perLine",      "metering", "cancel"};
 
 DiskFile made(char mode, bool volts, int count, int seed, const CivilTime& newest) {
     DiskFile file{mode, volts, true, toReadingTime(newest), {}};
@@ -76,6 +77,12 @@ void WalkDesk::run(const Step& step) {
     case Act::table:
     case Act::summary:
         return runView(step);
+    case Act::back:
+    case Act::forward:
+    case Act::day:
+    case Act::align:
+    case Act::unmark:
+        return runRange(step);
     case Act::power:
     case Act::powerTable:
     case Act::powerSummary:
@@ -139,6 +146,7 @@ void WalkDesk::runView(const Step& step) {
             return;
         click("mnuZoom");
         model_.zoom = model_.span;
+        model_.visit(model_.zoom);
         return drawn(plotShown);
     case Act::showAll: {
         const bool chart = window.screen().page() == Screen::Page::chart;
@@ -178,6 +186,74 @@ void WalkDesk::runView(const Step& step) {
         model_.exported = false;
     }
     }
+}
+
+void WalkDesk::runRange(const Step& step) {
+    if (model_.open.empty() || model_.shown == Shown::start)
+        return;
+    switch (step.act) {
+    case Act::back:
+    case Act::forward:
+        return goTo(step.act == Act::forward);
+    case Act::day:
+        return goToDay(step.choice);
+    case Act::align:
+        return align();
+    default:
+        if (model_.shown != Shown::plot && model_.shown != Shown::powerPlot)
+            return;
+        Q_EMIT window.screen().chart().spanLeft();
+        model_.span = model_.displayed();
+        model_.exported = false;
+        selected_ = false;
+    }
+}
+
+bool WalkDesk::shownAgain(const WalkModel& before) {
+    const bool ofOneFile = model_.shown == Shown::table || model_.shown == Shown::summary;
+    if (ofOneFile && !model_.part(model_.slot)) {
+        model_ = before;
+        refused();
+        return false;
+    }
+    model_.exported = false;
+    selected_ = false;
+    return true;
+}
+
+void WalkDesk::goTo(bool forward) {
+    const WalkModel before = model_;
+    if (forward ? model_.place + 1 >= model_.trail.size() : model_.place == 0)
+        return;
+    click(forward ? "mnuItemForward" : "mnuItemBack");
+    model_.place += forward ? 1 : std::size_t(-1);
+    const auto range = model_.trail[model_.place];
+    model_.zoom = range;
+    model_.span = range.value_or(Span{0, model_.open[0].now.intervals() - 1});
+    shownAgain(before);
+}
+
+void WalkDesk::goToDay(unsigned choice) {
+    const WalkModel before = model_;
+    const auto day = model_.dayBeside(choice % 2 == 0 ? 1 : -1);
+    click(choice % 2 == 0 ? "mnuItemNextDay" : "mnuItemPreviousDay");
+    if (!day)
+        return;
+    model_.zoom = model_.span = *day;
+    model_.visit(day);
+    shownAgain(before);
+}
+
+void WalkDesk::align() {
+    if (!canClick("mnuItemAlign"))
+        return;
+    const WalkModel before = model_;
+    click("mnuItemAlign");
+    if (!model_.byTime && !model_.canAlign())
+        return refused();
+    model_.byTime = !model_.byTime;
+    if (shownAgain(before))
+        model_.span = model_.displayed();
 }
 
 void WalkDesk::markPoints(unsigned choice) {
@@ -313,6 +389,9 @@ void WalkDesk::runFile(const Step& step) {
     model_.open.clear();
     model_.forcings.clear();
     model_.zoom.reset();
+    model_.trail = {std::nullopt};
+    model_.place = 0;
+    model_.byTime = false;
     model_.powerKnown = model_.powerView = false;
     model_.vline = "0";
     model_.current = -1;

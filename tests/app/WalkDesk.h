@@ -20,6 +20,11 @@ enum class Act {
     mark,
     zoom,
     showAll,
+    back,
+    forward,
+    day,
+    align,
+    unmark,
     onePage,
     scale,
     table,
@@ -58,6 +63,12 @@ private:
     bool canClick(const char* name) { return item(name).isEnabled(); }
     void run(const Step& step);
     void runView(const Step& step);
+    void runRange(const Step& step);
+    void goTo(bool forward);
+    void goToDay(unsigned choice);
+    void align();
+    // After a step that shows the same view of another range: whether it could.
+    bool shownAgain(const WalkModel& before);
     void runPower(const Step& step);
     void runEdit(const Step& step);
     void runFile(const Step& step);

@@ -33,16 +33,64 @@ double WalkModel::volts() const {
     return stored == 0 ? 13800 : stored;
 }
 
+int WalkModel::offset(int which) const {
+    if (!byTime)
+        return 0;
+    return int((open[std::size_t(which)].time(0).minutes - open[0].time(0).minutes) / open[0].now.minutes());
+}
+
+Span WalkModel::reach() const {
+    Span common{0, open[0].now.intervals() - 1};
+    for (int which = 1; byTime && which < int(open.size()); ++which) {
+        common.first = std::max(common.first, offset(which));
+        common.last = std::min(common.last, offset(which) + open[std::size_t(which)].now.intervals() - 1);
+    }
+    return common;
+}
+
 Span WalkModel::displayed() const {
-    return zoom ? *zoom : Span{0, open[0].now.intervals() - 1};
+    const Span all = reach();
+    return zoom ? Span{std::max(zoom->first, all.first), std::min(zoom->last, all.last)} : all;
 }
 
 std::optional<Span> WalkModel::part(int which) const {
     const int last = open[std::size_t(which)].now.intervals() - 1;
     if (!zoom)
         return Span{0, last};
-    const Span cut{zoom->first, std::min(zoom->last, last)};
+    const Span range = displayed();
+    const Span cut{range.first - offset(which), std::min(range.last - offset(which), last)};
     return cut.last < cut.first ? std::nullopt : std::optional(cut);
+}
+
+void WalkModel::visit(const std::optional<Span>& wanted) {
+    if (trail[place] == wanted)
+        return;
+    trail.resize(place + 1);
+    trail.push_back(wanted);
+    ++place;
+}
+
+std::optional<Span> WalkModel::dayBeside(int direction) const {
+    const auto dayOf = [&](int interval) { return open[0].time(interval).minutes / (24 * 60); };
+    const Span range = displayed();
+    const auto first = dayOf(range.first);
+    const auto last = dayOf(range.last);
+    const auto wanted = first == last ? first + direction : direction > 0 ? first : last;
+    std::optional<Span> day;
+    const Span all = reach();
+    for (int interval = all.first; interval <= all.last; ++interval)
+        if (dayOf(interval) == wanted)
+            day = Span{day ? day->first : interval, interval};
+    return day;
+}
+
+bool WalkModel::canAlign() const {
+    WalkModel other = *this;
+    other.byTime = true;
+    const Span common = other.displayed();
+    return common.first <= common.last && std::all_of(open.begin(), open.end(), [&](const OpenFile& file) {
+               return file.now.volts == open[0].now.volts;
+           });
 }
 
 bool WalkModel::powerAllowed() const {
@@ -52,8 +100,8 @@ bool WalkModel::powerAllowed() const {
 
 double WalkModel::kilowatts(int interval) const {
     double sum = 0;
-    for (const OpenFile& file : open)
-        sum += file.at(interval);
+    for (std::size_t which = 0; which < open.size(); ++which)
+        sum += open[which].at(interval - offset(int(which)));
     if (open.size() == 3)
         sum = sum / 3 * 1.732;
     return sum / 10 * volts() / 1000 * factor;
@@ -70,8 +118,8 @@ double WalkModel::smallestAmps(const Span& range) const {
     double smallest = 1e9;
     for (int i = range.first; i <= range.last; ++i) {
         double sum = 0;
-        for (const OpenFile& file : open)
-            sum += file.at(i);
+        for (std::size_t which = 0; which < open.size(); ++which)
+            sum += open[which].at(i - offset(int(which)));
         smallest = std::min(smallest, open.size() == 3 ? sum / 3 * 1.732 : sum);
     }
     return std::nearbyint(smallest) / 10;
@@ -81,8 +129,8 @@ double WalkModel::largestAmps(const Span& range) const {
     double largest = -1e9;
     for (int i = range.first; i <= range.last; ++i) {
         double sum = 0;
-        for (const OpenFile& file : open)
-            sum += file.at(i);
+        for (std::size_t which = 0; which < open.size(); ++which)
+            sum += open[which].at(i - offset(int(which)));
         largest = std::max(largest, sum);
     }
     return largest / 10;
@@ -91,11 +139,12 @@ double WalkModel::largestAmps(const Span& range) const {
 std::pair<int, int> WalkModel::extremes(const Span& range) const {
     int smallest = 99999;
     int largest = -99999;
-    for (const OpenFile& file : open)
+    for (std::size_t which = 0; which < open.size(); ++which)
         for (int i = range.first; i <= range.last; ++i)
-            for (int part = 0; part < file.now.stride(); ++part) {
-                smallest = std::min(smallest, file.at(i, part));
-                largest = std::max(largest, file.at(i, part));
+            for (int part = 0; part < open[which].now.stride(); ++part) {
+                const int value = open[which].at(i - offset(int(which)), part);
+                smallest = std::min(smallest, value);
+                largest = std::max(largest, value);
             }
     return {smallest, largest};
 }
@@ -103,6 +152,7 @@ std::pair<int, int> WalkModel::extremes(const Span& range) const {
 void WalkModel::wholeRange() {
     zoom.reset();
     span = {0, open[0].now.intervals() - 1};
+    visit(std::nullopt);
 }
 
 void orderTriples(DiskFile& file) {
@@ -119,6 +169,9 @@ void WalkModel::opened(const std::string& path) {
     orderTriples(file);
     open.push_back({path, file, file.tenths, {}});
     current = slot = int(open.size()) - 1;
+    trail = {std::nullopt};
+    place = 0;
+    byTime = false;
     wholeRange();
     powerKnown = powerView = false;
     shown = Shown::summary;

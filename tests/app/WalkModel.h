@@ -50,6 +50,7 @@ enum class Shown { start, summary, table, plot, powerPlot, powerTable, powerSumm
 struct Span {
     int first = 0;
     int last = -1;
+    bool operator==(const Span&) const = default;
 };
 
 struct WalkModel {
@@ -58,6 +59,9 @@ struct WalkModel {
     std::vector<int> forcings; // slots, newest last
     Span span;                 // of the first file
     std::optional<Span> zoom;
+    std::vector<std::optional<Span>> trail = {std::nullopt}; // ranges shown, the one shown now at `place`
+    std::size_t place = 0;
+    bool byTime = false;
     bool powerKnown = false;
     bool powerView = false;
     std::string vline;
@@ -69,7 +73,14 @@ struct WalkModel {
     bool exported = false;
 
     double volts() const;
+    // Intervals of the first file before interval 0 of another stands beside one of its.
+    int offset(int slot) const;
+    Span reach() const;     // what can be shown of the first file
     Span displayed() const; // of the first file
+    void visit(const std::optional<Span>& range);
+    // The day beside what is shown, if there is one.
+    std::optional<Span> dayBeside(int direction) const;
+    bool canAlign() const;
     // What a file has of the displayed range; nothing when it does not reach it.
     std::optional<Span> part(int slot) const;
     bool powerAllowed() const;

@@ -22,7 +22,6 @@ class QPlainTextEdit;
 namespace tally {
 
 class PlotScene;
-struct LinesShown;
 
 // The chart of the main window, "ChartFX1": paints a Plot, lets a span be marked, zooms and pans the picture,
 // carries the notes. It changes no range: what a mark means is for the one who listens.

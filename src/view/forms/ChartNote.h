@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <utility>
@@ -25,6 +26,17 @@ struct Sight {
     std::pair<double, double> up;
     std::function<std::string(int point)> timeOf;
     std::vector<int> hidden = {};
+};
+
+// Which lines of a plot are to be seen, and which one lies over the others.
+struct LinesShown {
+    std::vector<int> hidden; // series, in order
+    int lifted = -1;         // a series, or none
+
+    bool isHidden(int series) const {
+        return std::find(hidden.begin(), hidden.end(), series) != hidden.end();
+    }
+    bool operator==(const LinesShown&) const = default;
 };
 
 } // namespace tally

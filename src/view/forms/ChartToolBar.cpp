@@ -27,6 +27,8 @@ ChartToolBar::ChartToolBar(QWidget* parent) : QToolBar(parent) {
     zoomIn = add(QStringLiteral("chartZoomIn"), QStringLiteral("+"), tr("Enlarge the picture"));
     zoomOut = add(QStringLiteral("chartZoomOut"), QString(QChar(0x2212)), tr("Reduce the picture"));
     reset = add(QStringLiteral("chartReset"), tr("Whole"), tr("Show the whole plot"));
+    figures = add(QStringLiteral("chartFigures"), tr("Figures"), tr("Figures of the marked span"));
+    figures->setCheckable(true);
     setHasPlot(false);
 }
 
@@ -45,7 +47,8 @@ void ChartToolBar::setOnePage(bool on) {
 }
 
 void ChartToolBar::setHasPlot(bool has) {
-    for (QAction* action : {save, picture, copy, print, preview, addNote, clearNotes, zoomIn, zoomOut, reset})
+    for (QAction* action :
+         {save, picture, copy, print, preview, addNote, clearNotes, zoomIn, zoomOut, reset, figures})
         action->setEnabled(has);
 }
 

@@ -7,7 +7,7 @@ namespace tally {
 
 // The buttons of the chart, "ChartToolBar"; the window connects the actions. Object names: chartSave,
 // chartOpen, chartPicture, chartCopy, chartPrint, chartPreview, chartAddNote, chartClearNotes, chartZoomIn,
-// chartZoomOut, chartReset.
+// chartZoomOut, chartReset, chartFigures.
 class ChartToolBar : public QToolBar {
     Q_OBJECT
 
@@ -25,6 +25,7 @@ public:
     QAction* zoomIn;
     QAction* zoomOut;
     QAction* reset;
+    QAction* figures; // of the span, on and off
 
     void setOnePage(bool on);
     // Everything but open needs a plot.

@@ -10,7 +10,7 @@ namespace tally {
 namespace {
 
 constexpr double signDistance = 130; // pixels between the signs of one series
-constexpr double pointMark = 3.5;      // radius of a point that stands alone
+constexpr double pointMark = 3.5;    // radius of a point that stands alone
 constexpr double forcedMark = 4;
 constexpr double shortRun = 6; // pixels below which a forced run gets a mark
 
@@ -40,10 +40,6 @@ QCPRange SeriesPlottable::getValueRange(bool& found, QCP::SignDomain, const QCPR
 Along SeriesPlottable::along() const {
     const double origin = keyAxis()->coordToPixel(0);
     return {origin, keyAxis()->coordToPixel(1) - origin};
-}
-
-bool LinesShown::isHidden(int series) const {
-    return std::find(hidden.begin(), hidden.end(), series) != hidden.end();
 }
 
 double SeriesPlottable::pixelOf(float value, int axis) const {

@@ -3,6 +3,7 @@
 
 #include "view/Plot.h"
 #include "view/forms/ChartLook.h"
+#include "view/forms/ChartNote.h"
 #include "view/forms/Columns.h"
 #include "view/forms/QcpInclude.h"
 
@@ -11,15 +12,6 @@
 #include <vector>
 
 namespace tally {
-
-// Which lines of a plot are to be seen, and which one lies over the others.
-struct LinesShown {
-    std::vector<int> hidden; // series, in order
-    int lifted = -1;         // a series, or none
-
-    bool isHidden(int series) const;
-    bool operator==(const LinesShown&) const = default;
-};
 
 // Draws all series of a plot and the shading of the marked span. A long series is drawn as one bar from
 // smallest to largest value for each column of pixels: nothing is skipped, and the cost follows the width of
