@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QStatusBar>
 #include <QTest>
+#include <QToolBar>
 
 namespace tally {
 namespace {
@@ -339,7 +340,8 @@ TEST_F(ViewCommands, WhileAPartIsShownTheButtonsSayWhichAndShowAllLeavesIt) {
     open("/d/a.dat", dataFile('a', ramp(20)));
     click("mnuItemViewPlot");
     auto* all = window.findChild<QAction*>(QStringLiteral("chartShowAll"));
-    auto* part = window.screen().chartBar().findChild<QLabel*>(QStringLiteral("partShown"));
+    auto* bar = window.findChild<QToolBar*>(QStringLiteral("ViewToolBar"));
+    auto* part = bar->findChild<QLabel*>(QStringLiteral("partShown"));
     EXPECT_FALSE(all->isVisible());
     mark(5, 9);
     click("mnuZoom");

@@ -134,7 +134,7 @@ std::string WalkDesk::differentTable(const std::string& heading, const std::stri
     if (has(heading, "power in KW") != power)
         return "the heading is that of another table: " + heading;
     const OpenFile& file = model_.open[std::size_t(model_.slot)];
-    const Span part = *model_.part(model_.slot);
+    const Span part = power ? model_.displayed() : *model_.part(model_.slot);
     const int stride = file.now.stride();
     int interval = part.first;
     int value = 0; // of the interval
