@@ -5,8 +5,8 @@
 #include "app/TLY_File.h"
 #include "app/TLY_Study.h"
 #include "app/forms/NoticeBar.h"
-#include "core/forms/Words.h"
 #include "archive/forms/ArchiveForm.h"
+#include "core/forms/Words.h"
 
 #include <algorithm>
 

@@ -6,7 +6,7 @@
 #include "app/TLY_Chart.h"
 #include "app/Views.h"
 #include "app/forms/StatusPanels.h"
-#include "app/forms/Words.h"
+#include "core/forms/Words.h"
 #include "view/FilesTogether.h"
 #include "view/forms/Chart.h"
 #include "view/forms/ChartToolBar.h"

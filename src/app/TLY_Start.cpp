@@ -2,12 +2,12 @@
 #include "app/TLY_Start.h"
 
 #include "app/forms/StartPage.h"
-#include "core/forms/Words.h"
 #include "core/DataText.h"
 #include "core/Fault.h"
 #include "core/Header.h"
 #include "core/RecentFiles.h"
 #include "core/Text1252.h"
+#include "core/forms/Words.h"
 #include "link/Rescue.h"
 
 #include <set>

@@ -87,8 +87,8 @@ int main(int argc, char** argv) {
     const tally::QtArchives archives;
     tally::SafeFile archiveFiles;
     const tally::ArchiveServices archive{archives, archiveFiles, tally::chooseFolder, tally::chooseDataFiles};
-    tally::TLY window({recordings, display, settings, files, clock, prompt, chooser, link.session,
-                       link.places, &archive});
+    tally::TLY window(
+        {recordings, display, settings, files, clock, prompt, chooser, link.session, link.places, &archive});
     prompt.setWindow(&window);
     chooser.setWindow(&window);
     settings.onProblem([&window](const std::string& text) { window.reportSettings(text); });

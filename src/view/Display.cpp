@@ -79,7 +79,7 @@ Expected<Range> Display::part(const Recordings& recordings, int slot) const {
         return whole;
     const Range shown = displayed(recordings);
     if (byTime_) {
-        const auto axis = timeAxis(recordings, IndexRange{shown.first, shown.last});
+        const auto axis = timeAxis(recordings, shown);
         if (!axis)
             return tl::make_unexpected(axis.error());
         return Range{axis->reading(slot, 0), axis->reading(slot, axis->points - 1, axis->stride - 1)};
@@ -147,7 +147,7 @@ void Display::goForward(const Recordings& recordings) {
 Expected<void> Display::showByTime(const Recordings& recordings, bool byTime) {
     if (byTime) {
         const Range shown = displayed(recordings);
-        if (const auto axis = timeAxis(recordings, IndexRange{shown.first, shown.last}); !axis)
+        if (const auto axis = timeAxis(recordings, shown); !axis)
             return tl::make_unexpected(axis.error());
     }
     byTime_ = byTime;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "view/FilesShown.h"
 
-#include "core/Aligned.h"
+#include "core/TimeAxis.h"
 #include "view/FilesTogether.h"
 
 #include <utility>
@@ -18,7 +18,7 @@ Expected<FilesShown> FilesShown::of(const Recordings& recordings, bool byTime, c
     shown.range_ = ofFirstFile;
     if (!byTime)
         return shown;
-    const auto axis = timeAxis(recordings, IndexRange{ofFirstFile.first, ofFirstFile.last});
+    const auto axis = timeAxis(recordings, ofFirstFile);
     if (!axis)
         return tl::make_unexpected(axis.error());
     shown.cut_ = aligned(recordings, *axis);

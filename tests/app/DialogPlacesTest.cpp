@@ -83,7 +83,8 @@ TEST_F(DialogPlaces, DialogsOfInstrumentsFitTheScreenAndTheirButtonsStandApart) 
         known += "\r\n  " + longPath;
     instrument.instSelection = 9;
     Abort abort(session, nullptr);
-    InitInst init(known, nullptr);
+    InitInst init(
+        known, [](const ModeChoice&) { return std::string(30, 'W'); }, nullptr);
     Recover recover(session, nullptr);
     Dwnloaditem download(session, nullptr);
     Status status(session, nullptr);

@@ -87,7 +87,8 @@ protected:
                                 return chosenPaths.empty() ? std::nullopt : std::optional(chosenPaths[0]);
                             },
                             [this](const std::string&) { return chosenPaths; }};
-    Services services{recordings, display, settings, files, clock, prompt, chooser, session, places, &archive};
+    Services services{recordings, display, settings, files,  clock,
+                      prompt,     chooser, session,  places, &archive};
     TLY window{services};
 
     // Puts a file in memory and opens it by the menu.

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "archive/forms/AddBar.h"
 
-#include "core/forms/Words.h"
 #include "archive/forms/Adder.h"
+#include "core/forms/Words.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

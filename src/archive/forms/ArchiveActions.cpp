@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the archive's window does with recordings.
 #include "app/forms/NoticeBar.h"
-#include "core/forms/Words.h"
 #include "archive/forms/AddBar.h"
 #include "archive/forms/Adder.h"
 #include "archive/forms/ArchiveForm.h"
 #include "archive/forms/AssignForm.h"
 #include "archive/forms/RecordingTable.h"
+#include "core/forms/Words.h"
 
 #include <QLabel>
 

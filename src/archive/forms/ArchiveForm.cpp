@@ -2,13 +2,13 @@
 #include "archive/forms/ArchiveForm.h"
 
 #include "app/forms/NoticeBar.h"
-#include "core/forms/Words.h"
 #include "archive/forms/AddBar.h"
 #include "archive/forms/Adder.h"
 #include "archive/forms/CalendarView.h"
 #include "archive/forms/GrowthView.h"
 #include "archive/forms/RecordingTable.h"
 #include "archive/forms/SearchBar.h"
+#include "core/forms/Words.h"
 
 #include <QCheckBox>
 #include <QCloseEvent>

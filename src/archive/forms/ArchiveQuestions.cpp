@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the archive's window asks: each question on a thread of its own, answered on the window's.
 #include "app/forms/NoticeBar.h"
-#include "core/forms/Words.h"
 #include "archive/CircuitGrowth.h"
 #include "archive/Day.h"
 #include "archive/SearchFields.h"
@@ -10,6 +9,7 @@
 #include "archive/forms/GrowthView.h"
 #include "archive/forms/RecordingTable.h"
 #include "archive/forms/SearchBar.h"
+#include "core/forms/Words.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -71,7 +71,7 @@ void ArchiveForm::search() {
         state_->setText(lines(selection.error().message()).replace(QLatin1Char('\n'), QLatin1String(". ")));
         return;
     }
-    selection->most = shownRows + 1;
+    selection->maximum = shownRows + 1;
     reader_.ask("search", [this, wanted = *std::move(selection)](ArchiveStore& store) {
         auto entries = std::make_shared<std::vector<Entry>>(store.find(wanted));
         return [this, entries] { found(std::move(*entries)); };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "archive/forms/StoreThread.h"
 
-#include "core/forms/Words.h"
 #include "archive/StoreFault.h"
+#include "core/forms/Words.h"
 
 #include <algorithm>
 #include <exception>

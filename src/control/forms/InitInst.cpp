@@ -80,7 +80,7 @@ QRadioButton* InitInst::addOption(QGroupBox& frame, int number, const QString& c
 }
 
 void InitInst::showHowLong() {
-    howLong_->setText(shown(lasts_(choice())));
+    howLong_->setText(lines(lasts_(choice())));
 }
 
 ModeChoice InitInst::choice() const {

@@ -38,7 +38,7 @@ void Dwnloaditem::progressText(const std::string& text) {
 }
 
 void Dwnloaditem::remaining(const std::string& text) {
-    remaining_->setText(shown(text));
+    remaining_->setText(lines(text));
 }
 
 SessionResult<PendingDownload> runDownload(QWidget* parent, const SessionServices& context,

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/forms/FindForm.h"
 
+#include "core/forms/Words.h"
 #include "link/forms/DialogText.h"
 
 #include <QListWidget>
@@ -49,16 +50,16 @@ FindForm::FindForm(const SessionServices& services, QWidget* parent)
 }
 
 void FindForm::prompt(const std::string& text) {
-    prompt_->setText(shown(text));
+    prompt_->setText(lines(text));
 }
 
 void FindForm::status(const std::string& text) {
-    status_->setText(shown(text));
+    status_->setText(lines(text));
 }
 
 std::optional<FoundInstrument> FindForm::choose(const std::vector<FoundInstrument>& found) {
     for (const FoundInstrument& one : found)
-        list_->addItem(shown(one.text()));
+        list_->addItem(lines(one.text()));
     list_->setCurrentRow(0);
     prompt("");
     status(heardText(found.size()));

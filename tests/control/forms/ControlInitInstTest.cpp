@@ -64,11 +64,11 @@ TEST(InitInstForm, EveryFrameHasOneChoice) {
 }
 
 TEST(InitInstForm, StartsWithTheFirstChoiceOfEachFrame) {
-    EXPECT_EQ(modeLetter(InitInst("", nullptr).choice()), 'a');
+    EXPECT_EQ(modeLetter(InitInst("", lasts, nullptr).choice()), 'a');
 }
 
 TEST(InitInstForm, ShowsWhatIsKnownOfDownloads) {
-    EXPECT_EQ(labelText(InitInst("Last downloads:  0417: NOT SAVED YET", nullptr), "KnownDownloads"),
+    EXPECT_EQ(labelText(InitInst("Last downloads:  0417: NOT SAVED YET", lasts, nullptr), "KnownDownloads"),
               "Last downloads:  0417: NOT SAVED YET");
 }
 
