@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/BatchRun.h"
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 
 #include <algorithm>
 #include <map>
@@ -109,8 +110,10 @@ void overMany(CLI::App& command, Actions& actions, AddCommand add, const std::ve
             .add_option("-j,--jobs", options->workers, "how many work at once (else one for each processor)")
             ->check(CLI::Range(1, 10000)));
     if (writes || form.ownName) {
-        own.push_back(command.add_option("-o,--output", options->folder,
-                                         "the folder for the results; made when missing"));
+        own.push_back(
+            command
+                .add_option("-o,--output", options->folder, "the folder for the results; made when missing")
+                ->check(whyEmpty));
         // Without a folder every export would have the same name.
         if (words.front() == "export")
             command.get_option("--output")->required();

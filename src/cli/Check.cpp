@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/InstrumentLink.h"
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
@@ -82,8 +83,10 @@ void addCheck(CLI::App& program, Context& shared) {
     CLI::App& command = addCommand(program, shared, "check", "validate a received text as a download is",
                                    [options](Context& context) { return check(context, *options); });
     command.add_option("TEXTFILE", options->file, "the received text")->required();
-    command.add_option("--runspec", options->runspec, "a run specification, whose faults are planted first");
-    command.add_option("-o,--output", options->output, "writes the text as it stands after the check");
+    command.add_option("--runspec", options->runspec, "a run specification, whose faults are planted first")
+        ->check(whyEmpty);
+    command.add_option("-o,--output", options->output, "writes the text as it stands after the check")
+        ->check(whyEmpty);
     options->json = addJson(command);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Command.h"
 
+#include "cli/Endings.h"
 #include "core/Fault.h"
 
 #include <memory>
@@ -34,7 +35,7 @@ CLI::App& addCommand(CLI::App& program, Context& context, const std::string& nam
                      const std::string& description, Action action) {
     CLI::App* command = program.add_subcommand(name, description);
     auto at = std::make_shared<std::string>();
-    command->add_option("--at", *at, "the time to take for the clock's, \"mm-dd-yy hh:mm\"");
+    command->add_option("--at", *at, "the time to take for the clock's, \"mm-dd-yy hh:mm\"")->check(whyEmpty);
     command->callback([&context, at, action = std::move(action)] {
         if (!at->empty() && !context.setTime(*at))
             throw CLI::ValidationError("--at", "'" + *at + "' is no time; write it as \"mm-dd-yy hh:mm\"");

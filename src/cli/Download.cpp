@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/InstrumentLink.h"
 #include "link/DownloadSession.h"
 
@@ -38,7 +39,7 @@ void addDownload(CLI::App& program, Context& shared) {
                    [options](Context& context) { return download(context, *options); });
     options->link = addLink(command);
     options->wait = addWait(command);
-    command.add_option("-o,--output", options->output, "the data file to write")->required();
+    command.add_option("-o,--output", options->output, "the data file to write")->check(whyEmpty)->required();
     options->header = addHeaderOptions(command);
     CLI::Option* yes = command.add_flag("--yes", options->yes, "keep a download with errors");
     command.add_flag("--no", options->no, "drop a download with errors (as without it)")->excludes(yes);

@@ -8,7 +8,12 @@
 
 namespace tally::cli {
 
-std::string endingOf(const std::string& path, const std::vector<std::string>& endings) {
+std::string whyEmpty(const std::string& typed) {
+    return typed.empty() ? "'' names nothing; leave the option out, or give it a value" : std::string();
+}
+
+std::string endingOf(const std::string& path, const std::vector<std::string>& endings,
+                     const std::string& option) {
     std::string lower = path;
     std::transform(lower.begin(), lower.end(), lower.begin(), lowerCase);
     std::string allowed;
@@ -17,7 +22,7 @@ std::string endingOf(const std::string& path, const std::vector<std::string>& en
             return ending;
         allowed += (allowed.empty() ? "." : ending == endings.back() ? " or ." : ", .") + ending;
     }
-    throw WrongUsage("-o: '" + path + "' must end in " + allowed);
+    throw WrongUsage(option + ": '" + path + "' must end in " + allowed);
 }
 
 std::string withoutEnding(const std::string& path, const std::string& ending) {

@@ -2,6 +2,7 @@
 #include "export/Export.h"
 
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/PowerOptions.h"
 #include "export/CsvData.h"
 #include "export/expmv90.h"
@@ -55,8 +56,10 @@ int exportMetering(Context& context, const Options& options) {
 }
 
 void addDirectory(CLI::App& command, Options& options) {
-    command.add_option("--dir", options.directory,
-                       "folder to write to (else the default directory, else that of the data file)");
+    command
+        .add_option("--dir", options.directory,
+                    "folder to write to (else the default directory, else that of the data file)")
+        ->check(whyEmpty);
 }
 
 void addCsv(CLI::App& exports, Context& shared) {

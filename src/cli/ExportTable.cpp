@@ -96,7 +96,9 @@ void addTableExport(CLI::App& exports, Context& shared) {
                                    [options](Context& context) { return exportTable(context, *options); });
     options->files = addFiles(command);
     options->range = addRange(command);
-    command.add_option("-o,--output", options->to, "the file to write, .csv or .xlsx")->required();
+    command.add_option("-o,--output", options->to, "the file to write, .csv or .xlsx")
+        ->check(whyEmpty)
+        ->required();
     command
         .add_option("--separator", options->separator,
                     "between columns (comma; semicolon with --decimal comma)")
@@ -117,6 +119,7 @@ void addOpendss(CLI::App& exports, Context& shared) {
     command.add_option("FILE", *options->files, "data files, any number, or archive:ID")->required();
     addArchiveOption(command);
     command.add_option("-o,--output", options->to, "the script to write, .dss; the values stand beside it")
+        ->check(whyEmpty)
         ->required();
 }
 
@@ -125,7 +128,7 @@ void addGridlabd(CLI::App& exports, Context& shared) {
     CLI::App& command = addCommand(exports, shared, "gridlabd", "a player for GridLAB-D",
                                    [options](Context& context) { return exportGridlabd(context, *options); });
     options->file = addFile(command);
-    command.add_option("-o,--output", options->to, "the file to write, .player")->required();
+    command.add_option("-o,--output", options->to, "the file to write, .player")->check(whyEmpty)->required();
 }
 
 } // namespace

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Endings.h"
 #include "cli/OpenFiles.h"
 #include "core/ForceReadings.h"
 #include "core/Numbers.h"
@@ -39,7 +40,7 @@ void addForce(CLI::App& program, Context& shared) {
                    [options](Context& context) { return run(context, *options); });
     options->file = addFile(command);
     options->range = addRange(command);
-    command.add_option("-o,--output", options->to, "the data file to write")->required();
+    command.add_option("-o,--output", options->to, "the data file to write")->check(whyEmpty)->required();
     command.add_option("--value", options->value, "the new value, in units")->required();
     command.add_option("--which", options->which, "which readings of the range")
         ->check(CLI::IsMember({"all", "left", "right"}));

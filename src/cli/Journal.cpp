@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/InstrumentLink.h"
 #include "cli/Json.h"
 #include "control/Rescue.h"
@@ -122,7 +123,7 @@ void addSaving(CLI::App& journal, Context& shared) {
         addCommand(journal, shared, "save", "judge a reception as its command does, and write its data file",
                    [options](Context& context) { return save(context, *options); });
     addId(command, options->id);
-    command.add_option("-o,--output", options->output, "the data file to write")->required();
+    command.add_option("-o,--output", options->output, "the data file to write")->check(whyEmpty)->required();
     options->header = addHeaderOptions(command);
     command.add_flag("--yes", options->yes, "save also what was found bad");
 }

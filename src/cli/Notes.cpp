@@ -26,7 +26,7 @@ void save(Context& context, Recordings& recordings, const Notes& notes) {
         saveNotes(recordings, context.files(), 0, notes);
     } catch (const Fault& fault) {
         throw Refused(std::string(fault.what()) + "\n" + notesPath(recordings.info(0).path) +
-                      " was not written.");
+                      " was not written.\n" + faultAdvice(fault));
     }
 }
 

@@ -48,12 +48,13 @@ void warnOfFile(Context& context, const FileFacts& info) {
 // Of a range inside the file that holds none of its whole intervals.
 WrongUsage noWholeInterval(const Range& range, const FileFacts& info) {
     const int whole = info.count % valuesPerInterval(info.modeLetter);
+    const std::string oldest = std::to_string(whole);
     return WrongUsage("The range " + std::to_string(range.first) + " to " + std::to_string(range.last) +
                       " holds no whole interval: a Min/Max/Avg file is taken in threes, counted from the "
                       "newest reading, and the oldest " +
-                      std::to_string(whole) +
-                      " of this file are less than three. Take a range that reaches " + "reading " +
-                      std::to_string(whole));
+                      oldest + " of this file are less than three. " +
+                      (whole < info.count ? "Take a range that reaches reading " + oldest
+                                          : "It has no others; leave the range out"));
 }
 
 } // namespace

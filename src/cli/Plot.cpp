@@ -20,7 +20,7 @@ struct Options {
     std::shared_ptr<bool> align;
     std::string to;
     std::string show = "avg";
-    std::string yMin;
+    std::optional<std::string> yMin;
     std::string size = "1200x700";
     bool asPower = false;
 };
@@ -59,8 +59,8 @@ Json jsonOf(const Plot& plot) {
 }
 
 Plot draw(Context& context, OpenFiles& open, const Options& options) {
-    if (!options.yMin.empty())
-        open.display.setScale(options.yMin);
+    if (options.yMin)
+        open.display.setScale(*options.yMin);
     open.display.setStatistic(statisticOf(options.show));
     const PlotRequest request = open.display.plotRequest(open.recordings);
     if (!options.asPower)
@@ -71,9 +71,10 @@ Plot draw(Context& context, OpenFiles& open, const Options& options) {
 
 void writePicture(Context& context, const Plot& plot, const std::string& path, QSize size) {
     context.needPainting();
-    std::string why;
-    if (!exportPicture(plot, {}, path, size, context.results(), &why))
-        throw Refused(why);
+    const std::string bytes = pictureBytes(plot, {}, *pictureKind(path), size);
+    if (bytes.empty())
+        throw Refused("There is no memory for a picture of that size. Take a smaller --size.");
+    writeFile(context, path, bytes);
 }
 
 int run(Context& context, const Options& options) {
@@ -105,7 +106,8 @@ void addPlot(CLI::App& program, Context& shared) {
     options->power = addPowerOptions(command);
     options->json = addJson(command);
     options->align = addAlign(command);
-    command.add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg");
+    command.add_option("-o,--output", options->to, "the picture to write, .png, .pdf or .svg")
+        ->check(whyEmpty);
     command.add_option("--show", options->show, "what several Min/Max/Avg files show")
         ->check(CLI::IsMember({"avg", "max", "min"}));
     command.add_option("--ymin", options->yMin, "minimum of the y axis, a whole number");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "control/Recover.h"
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/InstrumentLink.h"
 #include "platform/Folders.h"
 
@@ -33,7 +34,7 @@ void addRecover(CLI::App& program, Context& shared) {
                    [options](Context& context) { return recover(context, *options); });
     options->link = addLink(command);
     options->wait = addWait(command);
-    command.add_option("-o,--output", options->output, "the data file to write")->required();
+    command.add_option("-o,--output", options->output, "the data file to write")->check(whyEmpty)->required();
 }
 
 } // namespace tally::cli

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "cli/Endings.h"
 #include "cli/OpenFiles.h"
 #include "core/SaveText.h"
 
@@ -20,7 +21,7 @@ void addSave(CLI::App& program, Context& shared) {
         });
     options->file = addFile(command);
     options->range = addRange(command);
-    command.add_option("-o,--output", options->to, "the data file to write")->required();
+    command.add_option("-o,--output", options->to, "the data file to write")->check(whyEmpty)->required();
 }
 
 } // namespace tally::cli

@@ -67,7 +67,7 @@ void addStudy(CLI::App& program, Context& shared) {
     options->range = addRange(command);
     options->study = addStudyOptions(command);
     options->json = addJson(command);
-    command.add_option("-o,--output", options->to, "the study as a file, .pdf or .xlsx");
+    command.add_option("-o,--output", options->to, "the study as a file, .pdf or .xlsx")->check(whyEmpty);
 }
 
 } // namespace tally::cli

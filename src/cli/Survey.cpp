@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cli/Commands.h"
+#include "cli/Endings.h"
 #include "cli/Json.h"
 #include "cli/OpenFiles.h"
 #include "platform/FilePath.h"
@@ -111,6 +112,8 @@ int run(Context& context, const Options& options) {
     const int count = static_cast<int>(feeders.size());
     if (count > feederCount)
         throw WrongUsage("A survey takes at most four feeders");
+    if (!options.pdf.empty())
+        endingOf(options.pdf, {"pdf"}, "--print");
     SurveyData survey;
     beginSurvey(survey, options.station);
     SurveyDesk desk(survey);
@@ -141,7 +144,7 @@ void addSurvey(CLI::App& program, Context& shared) {
         ->required()
         ->allow_extra_args(false);
     options->json = addJson(command);
-    command.add_option("--print", options->pdf, "write the printed report as PDF");
+    command.add_option("--print", options->pdf, "write the printed report as PDF")->check(whyEmpty);
 }
 
 } // namespace tally::cli

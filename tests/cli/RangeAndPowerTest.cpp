@@ -146,7 +146,8 @@ TEST_F(RangeAndPower, TheYScaleTakesAWholeNumber) {
 TEST_F(RangeAndPower, APictureThatCannotBeWrittenIsRefused) {
     const auto run = runProgram("tallyline-cli", {"plot", phases[0], "-o", folder.path("none/p.png")});
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "Path not found: " + folder.path("none/p.png") + "\n");
+    EXPECT_EQ(run.err, "Path not found\n" + folder.path("none/p.png") +
+                           " was not written.\nIts folder is not there. Make it, or choose another one.\n");
 }
 
 TEST_F(RangeAndPower, AFileOfAnotherModeIsRefused) {
