@@ -1,14 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
+#include "app/forms/StartPage.h"
 #include "control/forms/InitInst.h"
 #include "link/forms/Dwnloaditem.h"
+#include "link/forms/FindForm.h"
 #include "link/forms/InstSel.h"
 #include "link/forms/PortSel.h"
 #include "platform/JournalFolder.h"
 #include "platform/SafeFile.h"
 
 #include <QCloseEvent>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
@@ -433,6 +436,111 @@ TEST_F(InstrumentTest, AWaitSaysWhatToCheckAfterTenSecondsAndNoLongerToInsertThe
     EXPECT_THAT(before.toStdString(), HasSubstr("Insert the cable into the instrument."));
     EXPECT_THAT(hint.toStdString(), StartsWith("Nothing has come since "));
     EXPECT_EQ(during, QStringLiteral("The instrument is sending. Leave the cable in until the end."));
+}
+
+class FindTest : public InstrumentTest {
+protected:
+    void SetUp() override {
+        PortDevice adapter{"/dev/ttyUSB0", "adapter"};
+        adapter.adapter = true;
+        ports.listed = {adapter};
+    }
+};
+
+TEST_F(FindTest, AnInstrumentThatWasHeardIsDownloadedFrom) {
+    send(memory());
+    QString heard;
+    whenOpen<FindForm>([&](FindForm& form) {
+        heard = form.findChild<QListWidget*>()->item(0)->text();
+        whenOpen<Dwnloaditem>(
+            [](Dwnloaditem& next) { next.findChild<QPushButton*>(QStringLiteral("OK"))->click(); });
+        form.findChild<QPushButton*>(QStringLiteral("OK"))->click();
+    });
+    click("mnuItemFind");
+    EXPECT_EQ(heard, QStringLiteral("/dev/ttyUSB0 (adapter): PQX, serial number 1234, Vbatt = 3.806 volts"));
+    EXPECT_EQ(devicePath(instrument.gCommPort, settings), "/dev/ttyUSB0");
+    EXPECT_EQ(instrument.instSelection, 10);
+    EXPECT_FALSE(noticeOf("1").isEmpty());
+    EXPECT_TRUE(window.menuBar()->isEnabled());
+}
+
+TEST_F(FindTest, NothingHeardIsSaidAndChangesNothing) {
+    QString said;
+    whenOpen<FindForm>([&](FindForm& form) {
+        said = form.findChild<QLabel*>(QStringLiteral("Label1"))->text();
+        EXPECT_FALSE(form.findChild<QPushButton*>(QStringLiteral("OK"))->isVisible());
+        form.reject();
+    });
+    click("mnuItemFind");
+    EXPECT_THAT(said.toStdString(), StartsWith("No instrument was heard."));
+    EXPECT_EQ(instrument.instSelection, 0);
+    EXPECT_EQ(settings.get("Comm", "TLY.MSComm1.CommPort"), "");
+    EXPECT_EQ(line.written, "");
+}
+
+TEST_F(FindTest, PortsThatAreNoAdaptersAreOpenedOnlyWhenTheUserSaysSo) {
+    ports.listed = {{"/dev/ttyS0", ""}};
+    prompt.answers = {Answer::No};
+    whenOpen<FindForm>([](FindForm& form) { form.reject(); });
+    click("mnuItemFind");
+    EXPECT_THAT(prompt.shown.at(0).text, HasSubstr("/dev/ttyS0"));
+    EXPECT_EQ(prompt.shown.at(0).defaultAnswer, Answer::No);
+    EXPECT_EQ(line.count("PortOpen true"), 0);
+    prompt.answers = {Answer::Yes};
+    whenOpen<FindForm>([](FindForm& form) { form.reject(); });
+    click("mnuItemFind");
+    EXPECT_EQ(line.count("PortOpen true"), 2);
+}
+
+TEST_F(InstrumentTest, StartPageShowsRecentFilesAndWhatIsNotSaved) {
+    open("/d/feeder.dat", dataFile('a', {100, 200, 300}));
+    click("mnuItemClose");
+    journal.receptions.push_back({.parts = {memory()}, .state = JournalState::interrupted});
+    window.show();
+    window.journalChanged();
+    StartPage& start = window.screen().start();
+    auto* recent = start.findChild<QPushButton*>(QStringLiteral("startRecent"));
+    ASSERT_NE(recent, nullptr);
+    EXPECT_EQ(recent->text(), QStringLiteral("feeder.dat  -  1234, Mar 15, 24"));
+    EXPECT_THAT(start.findChild<QLabel*>(QStringLiteral("startUnsaved"))->text().toStdString(),
+                HasSubstr("PQX Ser. 1234"));
+    recent->click();
+    QApplication::processEvents();
+    EXPECT_EQ(recordings.info(0).path, "/d/feeder.dat");
+}
+
+TEST_F(InstrumentTest, SimulatedInstrumentIsTriedWithOneClick) {
+    PortDevice simulated{"/cache/simulated-instrument", "simulated instrument"};
+    simulated.simulated = true;
+    ports.listed = {simulated};
+    TLY other(services);
+    send(memory());
+    whenOpen<Dwnloaditem>(
+        [](Dwnloaditem& form) { form.findChild<QPushButton*>(QStringLiteral("OK"))->click(); });
+    other.screen().start().findChild<QPushButton*>(QStringLiteral("startSimulated"))->click();
+    EXPECT_EQ(devicePath(instrument.gCommPort, settings), "/cache/simulated-instrument");
+    EXPECT_EQ(instrument.instSelection, 7);
+    EXPECT_EQ(journal.receptions.size(), 1U);
+}
+
+TEST_F(InstrumentTest, DownloadSaysHowMuchIsLeft) {
+    QString left;
+    instrument.instSelection = 4;
+    // The first opening only tries the port.
+    int openings = 0;
+    line.onOpen = [&](const std::string&) {
+        if (++openings < 2)
+            return;
+        line.sendPaced(waiter.now() + 100, memory(), 10);
+        waiter.after(700, [&] {
+            left = QApplication::activeModalWidget()
+                       ->findChild<QLabel*>(QStringLiteral("RemainingLabel"))
+                       ->text();
+        });
+    };
+    download();
+    // The tick of 600 ms comes before the character of that moment: 50 in 500 ms, and 55,702 x 0.01 s left.
+    EXPECT_EQ(left.toStdString(), "50 of at most 55,752 characters, about 558 s left");
 }
 
 } // namespace

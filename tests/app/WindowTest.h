@@ -40,10 +40,11 @@ public:
     }
 };
 
-// A machine whose ports are all free and that lists no device.
-class NoPorts : public PortCatalogue {
+// A machine whose ports are all free; it lists the devices that a test gives it.
+class FreePorts : public PortCatalogue {
 public:
-    std::vector<PortDevice> devices() const override { return {}; }
+    std::vector<PortDevice> listed;
+    std::vector<PortDevice> devices() const override { return listed; }
     PortPresence presence(const std::string&) const override { return PortPresence::free; }
 };
 
@@ -74,7 +75,7 @@ protected:
     VirtualLine line{waiter};
     MemoryJournal journal;
     InstrumentState instrument;
-    NoPorts ports;
+    FreePorts ports;
     int callPoint = 0;
     SessionServices session{
         line, waiter, prompt, instrument, journal, callPoint, [this] { waiter.cancelNow(); }};
