@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Tables, load shapes, players and the types, run as a user's script runs them.
+// Tables, load shapes and players, run as a user's script runs them.
 #include "support/Process.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace tally {
@@ -120,29 +119,6 @@ TEST_F(ExportTable, APlayerHasSeconds) {
         runProgram("tallyline-cli", {"export", "gridlabd", later, "-o", folder.path("p.player")});
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(content("p.player").substr(0, 48), "2024-03-15 00:15:00,1.0\n2024-03-15 00:30:00,2.0\n");
-}
-
-TEST(Types, ListEveryInstrumentTypeWithItsSettings) {
-    const auto json = runProgram("tallyline-cli", {"types", "--json"});
-    EXPECT_EQ(json.status, 0);
-    for (const char* fact :
-         {R"("code": 1,)", R"("name": "HVN40/80",)", R"("name": "",)", R"("name": "PQX-K4-AutoDetect",)",
-          R"("settings": "115200,N,8,1",)", R"("samples": 2091)", R"("samples": 42966)", R"("code": 11,)"})
-        EXPECT_NE(json.out.find(fact), std::string::npos) << fact;
-    EXPECT_EQ(json.out.find(R"("code": 0)"), std::string::npos);
-    const auto text = runProgram("tallyline-cli", {"types"});
-    EXPECT_EQ(std::count(text.out.begin(), text.out.end(), '\n'), 11);
-    EXPECT_NE(text.out.find("8   PQX-K4-W            115200,N,8,1  42966\n"), std::string::npos) << text.out;
-}
-
-TEST(Help, NamesTheFilesThatACommandTakes) {
-    EXPECT_NE(runProgram("tallyline-cli", {"plot", "--help"}).out.find("FILE [FILE [FILE]]"),
-              std::string::npos);
-    EXPECT_NE(runProgram("tallyline-cli", {"export", "opendss", "--help"}).out.find("FILE..."),
-              std::string::npos);
-    EXPECT_NE(runProgram("tallyline-cli", {"power"})
-                  .err.find("Usage: tallyline-cli power FILE [FILE [FILE]] [--option VALUE]"),
-              std::string::npos);
 }
 
 } // namespace
