@@ -29,7 +29,8 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       study(services, dispatcher, views, panes.screen, panes.menus, panes.status),
       archive(services, {dispatcher, file, study, printing, panes.notices, panes.window}),
       help(services, panes.window),
-      start(services, panes.screen.start()) {
+      start(services, panes.screen.start()),
+      language(services, panes.menus) {
     forced.saveWhole = [this](int slot) { return file.saveWhole(slot); };
     forced.changed = [this] { views.renew(); };
     file.onSaved([this](const std::string& path) { archive.saved(path); });

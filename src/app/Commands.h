@@ -3,6 +3,7 @@
 
 #include "app/DefaultFolder.h"
 #include "app/ForcedReadings.h"
+#include "app/LanguageMenu.h"
 #include "app/Printing.h"
 #include "app/TLY_Archive.h"
 #include "app/TLY_Chart.h"
@@ -66,6 +67,7 @@ struct Commands {
     TLY_Archive archive;
     TLY_Help help;
     TLY_Start start;
+    LanguageMenu language;
 };
 
 } // namespace tally

@@ -2,6 +2,7 @@
 #include "app/TLY_Help.h"
 
 #include "app/forms/About.h"
+#include "app/forms/DialogHelp.h"
 #include "app/forms/HelpWindow.h"
 #include "app/forms/MenuHelp.h"
 #include "core/forms/Words.h"
@@ -16,11 +17,17 @@ namespace tally {
 
 namespace {
 
-// Beside the program where it was built, in the shared data where it was installed.
+// Beside the program where it was built, in the shared data where it was installed; in English where there is none
+// in the language of the window.
 QString helpFile() {
     const QString program = QCoreApplication::applicationDirPath();
-    const QString installed = program + QStringLiteral("/../share/tallyline/tallyhelp.hlp");
-    return QFileInfo::exists(installed) ? installed : program + QStringLiteral("/tallyhelp.hlp");
+    const QString english = QStringLiteral("tallyhelp.hlp");
+    const QString own = QCoreApplication::translate("Tallyline", "tallyhelp.hlp");
+    for (const QString& name : {own, english})
+        for (const QString& place : {QStringLiteral("/../share/tallyline/"), QStringLiteral("/")})
+            if (QFileInfo::exists(program + place + name))
+                return program + place + name;
+    return program + QLatin1Char('/') + english;
 }
 
 } // namespace
@@ -29,10 +36,11 @@ TLY_Help::TLY_Help(const Services& services, QMainWindow& window)
     : services_(services), window_(window), helpFile_(helpFile()) {
     new MenuHelp(
         *window.menuBar(), [this](const QString& menu) { showMenu(menu); }, &window);
+    new DialogHelp([this](QDialog& dialog, const QString& page) { show(dialog, page); }, &window);
 }
 
 void TLY_Help::mnuItemHelp_Click() {
-    show({});
+    show(window_, {});
 }
 
 void TLY_Help::showMenu(const QString& menu) {
@@ -45,12 +53,12 @@ void TLY_Help::showMenu(const QString& menu) {
         {QStringLiteral("mnuInstrument"), QStringLiteral("instrument.html")},
         {QStringLiteral("mnuOptions"), QStringLiteral("options.html")},
         {QStringLiteral("mnuHelp"), QStringLiteral("helpmenu.html")}};
-    show(pages.value(menu));
+    show(window_, pages.value(menu));
 }
 
-void TLY_Help::show(const QString& page) {
+void TLY_Help::show(QWidget& over, const QString& page) {
     QString why;
-    if (!WinHelpA(window_, helpFile_, &why, page))
+    if (!WinHelpA(over, helpFile_, &why, page))
         services_.prompt.tell(why.toStdString());
 }
 

@@ -6,6 +6,7 @@
 #include <QString>
 
 class QMainWindow;
+class QWidget;
 
 namespace tally {
 
@@ -23,7 +24,8 @@ public:
     void setHelpFile(const QString& path) { helpFile_ = path; }
 
 private:
-    void show(const QString& page);
+    // A dialog lets nobody work with other windows: its help belongs to it.
+    void show(QWidget& over, const QString& page);
 
     const Services& services_;
     QMainWindow& window_;

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/Arguments.h"
 #include "app/TLY.h"
+#include "app/forms/Access.h"
 #include "app/forms/ChoosePaths.h"
 #include "app/forms/DataSelect.h"
 #include "app/forms/QtPrompt.h"
 #include "app/forms/Splash.h"
+#include "app/language/Speech.h"
 #include "core/forms/Words.h"
 #include "platform/FilePath.h"
 #include "platform/Folders.h"
@@ -67,17 +69,19 @@ int main(int argc, char** argv) {
     if (const auto ended = tally::endedByArguments(argc, argv))
         return *ended;
     auto check = std::make_optional<tally::DisplayCheck>();
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
     check.reset();
+    tally::easeAccess(application);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tallyline.png")));
     const tally::Arguments arguments = tally::readArguments(QCoreApplication::arguments(), argv);
 
-    tally::Splash splash;
-    if (tally::Splash::wanted())
-        splash.show();
     tally::SafeFile disk;
     tally::PatientFiles files(disk);
     tally::UserSettings settings(files, tally::folders::settingsFile());
+    const tally::Speech speech(application, tally::languageInForce(settings, QLocale::system()));
+    tally::Splash splash;
+    if (tally::Splash::wanted())
+        splash.show();
     tally::QtClock clock;
     tally::Recordings recordings;
     tally::Display display;

@@ -30,6 +30,12 @@ StatusPanels::StatusPanels(QStatusBar& bar)
     bar.addPermanentWidget(value_);
 }
 
+// A screen reader tells the name of the panel, then what it shows.
+void StatusPanels::put(QLabel& panel, const QString& text) {
+    panel.setText(text);
+    panel.setAccessibleDescription(text);
+}
+
 void StatusPanels::remark(const QString& text) {
     text_ = text;
     showRemark();
@@ -42,13 +48,13 @@ void StatusPanels::say(const QString& word) {
 
 void StatusPanels::showRemark() {
     const QString& shown = word_.isEmpty() ? text_ : word_;
-    remark_->setText(shown);
+    put(*remark_, shown);
     remark_->setToolTip(shown);
 }
 
 void StatusPanels::pointer(const QString& time, const QString& value) {
-    time_->setText(time);
-    value_->setText(value);
+    put(*time_, time);
+    put(*value_, value);
 }
 
 } // namespace tally

@@ -22,6 +22,7 @@ public:
     void pointer(const QString& time, const QString& value);
 
 private:
+    static void put(QLabel& panel, const QString& text);
     void showRemark();
 
     QString text_;

@@ -85,6 +85,7 @@ void SessionDialog::addLog() {
     log_->setMargin(4);
     auto* area = new QScrollArea;
     area->setWidget(log_);
+    area->setAccessibleName(QStringLiteral("Debugging log"));
     area->setWidgetResizable(true);
     // The last line stays in sight.
     QScrollBar* scroll = area->verticalScrollBar();
