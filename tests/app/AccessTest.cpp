@@ -202,6 +202,43 @@ TEST_F(Access, KeysBesideTheCaptionWork) {
     EXPECT_EQ(item->text(), QStringLiteral("Import"));
 }
 
+// Pages that lie in a folder of the documents; the first is English.
+QStringList helpFolders() {
+    const QDir help(QString::fromStdString(::testing::sourceDir()) + QStringLiteral("/docs/help"));
+    QStringList folders = {help.path()};
+    for (const QString& name : help.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        folders.append(help.filePath(name));
+    return folders;
+}
+
+TEST_F(Access, EveryDialogHasAPageOfTheHelpInEveryLanguage) {
+    walk([](QDialog& dialog, const std::string& form) {
+        const QString page = helpPageOf(dialog.objectName());
+        ASSERT_FALSE(page.isEmpty()) << form;
+        for (const QString& folder : helpFolders()) {
+            QFile file(folder + QLatin1Char('/') + page.section(QLatin1Char('#'), 0, 0));
+            ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
+            const QString anchor = page.section(QLatin1Char('#'), 1);
+            EXPECT_TRUE(anchor.isEmpty() || QString::fromUtf8(file.readAll())
+                                                .contains(QStringLiteral("id=\"%1\"").arg(anchor)))
+                << file.fileName().toStdString() << " has no " << anchor.toStdString();
+        }
+    });
+}
+
+TEST_F(Access, F1InADialogAsksForItsPage) {
+    walk([](QDialog& dialog, const std::string& form) {
+        QStringList pages;
+        const DialogHelp help([&](QDialog& asked, const QString& page) {
+            EXPECT_EQ(&asked, &dialog);
+            pages.append(page);
+        }, nullptr);
+        QWidget* const at = dialog.focusWidget() ? dialog.focusWidget() : &dialog;
+        QTest::keyClick(at, Qt::Key_F1);
+        EXPECT_EQ(pages, QStringList(helpPageOf(dialog.objectName()))) << form;
+    });
+}
+
 // The sources name every dialog: one that is missing in the gallery would not be walked through.
 TEST_F(Access, TheGalleryHoldsEveryDialogOfTheSources) {
     std::set<std::string> shown = {"SessionDialog"};

@@ -24,6 +24,13 @@ namespace tally {
 
 namespace {
 
+// Pages name pictures as they lie in the source tree, beside all help files; each file holds them beside its pages.
+QUrl inHelpFile(QUrl url) {
+    if (url.path().startsWith(QStringLiteral("/img/")))
+        url.setPath(QStringLiteral("/doc") + url.path());
+    return url;
+}
+
 // Pages come out of the help file.
 class Pages : public QTextBrowser {
 public:
@@ -34,7 +41,7 @@ public:
 protected:
     QVariant loadResource(int type, const QUrl& name) override {
         if (name.scheme() == QStringLiteral("qthelp"))
-            return engine_.fileData(name);
+            return engine_.fileData(inHelpFile(name));
         return QTextBrowser::loadResource(type, name);
     }
 
