@@ -47,7 +47,8 @@ void LanguageMenu::choose(const std::string& code) {
     chooseLanguage(services_.settings, code);
     mark();
     if (another)
-        services_.prompt.tell("The window speaks the chosen language when Tallyline is started the next time.");
+        services_.prompt.tell(
+            "The window speaks the chosen language when Tallyline is started the next time.");
 }
 
 } // namespace tally

@@ -17,8 +17,8 @@ namespace tally {
 
 namespace {
 
-// Beside the program where it was built, in the shared data where it was installed; in English where there is none
-// in the language of the window.
+// Beside the program where it was built, in the shared data where it was installed; in English where there is
+// none in the language of the window.
 QString helpFile() {
     const QString program = QCoreApplication::applicationDirPath();
     const QString english = QStringLiteral("tallyhelp.hlp");

@@ -45,7 +45,8 @@ QList<QWidget*> controls(const QWidget& window) {
     for (QWidget* const widget : window.findChildren<QWidget*>()) {
         const bool part = widget->objectName().startsWith(QStringLiteral("qt_")) ||
                           qobject_cast<QComboBox*>(widget->parentWidget());
-        if (widget->window() == &window && widget->isVisible() && !part && widget->focusPolicy() != Qt::NoFocus)
+        if (widget->window() == &window && widget->isVisible() && !part &&
+            widget->focusPolicy() != Qt::NoFocus)
             all.append(widget);
     }
     return all;
@@ -96,7 +97,8 @@ TEST_F(Access, EveryControlOfEveryDialogHasANameForScreenReaders) {
         EXPECT_FALSE(dialog.windowTitle().isEmpty()) << form;
         for (QWidget* const control : controls(dialog))
             // A text that is not there yet has nothing to tell.
-            EXPECT_FALSE(!isEmptyText(*control) && accessibleText(*control, QAccessible::Name).isEmpty()) << form << ": " << told(*control);
+            EXPECT_FALSE(!isEmptyText(*control) && accessibleText(*control, QAccessible::Name).isEmpty())
+                << form << ": " << told(*control);
     });
 }
 
@@ -145,7 +147,7 @@ TEST_F(Access, TabFollowsTheEyeInEveryDialog) {
             EXPECT_FALSE(above && next.left() <= before.right())
                 << form << ": from " << told(*order[i - 1]) << " up to " << told(*order[i]);
             const bool beside = std::abs(next.center().y() - before.center().y()) <
-                              std::min(next.height(), before.height()) / 2;
+                                std::min(next.height(), before.height()) / 2;
             EXPECT_FALSE(beside && next.left() < before.left())
                 << form << ": from " << told(*order[i - 1]) << " back to " << told(*order[i]);
         }
@@ -155,7 +157,8 @@ TEST_F(Access, TabFollowsTheEyeInEveryDialog) {
 TEST_F(Access, EveryControlOfEveryPageOfTheWindowHasAName) {
     walkPages([this](const std::string& page) {
         for (QWidget* const control : controls(window))
-            EXPECT_FALSE(accessibleText(*control, QAccessible::Name).isEmpty()) << page << ": " << told(*control);
+            EXPECT_FALSE(accessibleText(*control, QAccessible::Name).isEmpty())
+                << page << ": " << told(*control);
     });
 }
 
@@ -219,8 +222,8 @@ TEST_F(Access, EveryDialogHasAPageOfTheHelpInEveryLanguage) {
             QFile file(folder + QLatin1Char('/') + page.section(QLatin1Char('#'), 0, 0));
             ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << file.fileName().toStdString();
             const QString anchor = page.section(QLatin1Char('#'), 1);
-            EXPECT_TRUE(anchor.isEmpty() || QString::fromUtf8(file.readAll())
-                                                .contains(QStringLiteral("id=\"%1\"").arg(anchor)))
+            EXPECT_TRUE(anchor.isEmpty() ||
+                        QString::fromUtf8(file.readAll()).contains(QStringLiteral("id=\"%1\"").arg(anchor)))
                 << file.fileName().toStdString() << " has no " << anchor.toStdString();
         }
     });
@@ -229,10 +232,12 @@ TEST_F(Access, EveryDialogHasAPageOfTheHelpInEveryLanguage) {
 TEST_F(Access, F1InADialogAsksForItsPage) {
     walk([](QDialog& dialog, const std::string& form) {
         QStringList pages;
-        const DialogHelp help([&](QDialog& asked, const QString& page) {
-            EXPECT_EQ(&asked, &dialog);
-            pages.append(page);
-        }, nullptr);
+        const DialogHelp help(
+            [&](QDialog& asked, const QString& page) {
+                EXPECT_EQ(&asked, &dialog);
+                pages.append(page);
+            },
+            nullptr);
         QWidget* const at = dialog.focusWidget() ? dialog.focusWidget() : &dialog;
         QTest::keyClick(at, Qt::Key_F1);
         EXPECT_EQ(pages, QStringList(helpPageOf(dialog.objectName()))) << form;

@@ -49,7 +49,9 @@ void Gallery::addBoxes() {
                     .buttons = Buttons::YesNo,
                     .exclamation = true});
     });
-    add("InputBox", [] { return std::make_unique<InputBox>(InputQuestion{.text = "Enter user name below\r", .preset = {}}); });
+    add("InputBox", [] {
+        return std::make_unique<InputBox>(InputQuestion{.text = "Enter user name below\r", .preset = {}});
+    });
     add("About", [] { return std::make_unique<About>(QStringLiteral("Ann")); });
 }
 
@@ -66,11 +68,12 @@ void Gallery::addInstrumentForms() {
     add("PortSel", [this] { return std::make_unique<PortSel>(1, ports, settings, nullptr); });
     add("InstSel", [this] { return std::make_unique<InstSel>(instrument, false, nullptr); });
     add("InstProperties", [this] { return std::make_unique<InstProperties>(instrument, nullptr); });
-    add("InitInst", [] { return std::make_unique<InitInst>("No downloads are known on this computer.", nullptr); });
-    add("Dwnloaditem", [this] { return std::make_unique<Dwnloaditem>(session_, nullptr); });
-    add("Status", [this] { return std::make_unique<Status>(session_, nullptr); });
-    add("Recover", [this] { return std::make_unique<Recover>(session_, nullptr); });
-    add("Abort", [this] { return std::make_unique<Abort>(session_, nullptr); });
+    add("InitInst",
+        [] { return std::make_unique<InitInst>("No downloads are known on this computer.", nullptr); });
+    add("Dwnloaditem", [this] { return std::make_unique<Dwnloaditem>(session, nullptr); });
+    add("Status", [this] { return std::make_unique<Status>(session, nullptr); });
+    add("Recover", [this] { return std::make_unique<Recover>(session, nullptr); });
+    add("Abort", [this] { return std::make_unique<Abort>(session, nullptr); });
 }
 
 void Gallery::addSurveyForms() {
@@ -81,7 +84,9 @@ void Gallery::addSurveyForms() {
     add("LoadSurv", [this]() -> std::unique_ptr<QDialog> {
         const auto nothing = [](const SurveyPaper&) {};
         return std::make_unique<LoadSurv>(
-            survey_, SurveyServices{files, prompt, clock, {}, nothing, nothing, [](const auto& step) { step(); }});
+            survey_, SurveyServices{files, prompt, clock, {}, nothing, nothing, [](const auto& step) {
+                                        static_cast<void>(step());
+                                    }});
     });
     add("SurveyShow", [this] { return std::make_unique<SurveyShow>(survey_, 0); });
     add("Station", [this] { return std::make_unique<Station>(survey_); });

@@ -3,7 +3,6 @@
 
 #include "WindowTest.h"
 
-#include "link/Session.h"
 #include "survey/SurveyDesk.h"
 
 #include <QDialog>
@@ -39,9 +38,6 @@ private:
     std::vector<Piece> pieces_;
     Recordings two_; // two open recordings
     SurveyData survey_;
-    int callPoint_ = 0;
-    SessionServices session_{line,    waiter,     prompt, instrument,
-                             journal, callPoint_, [] {},  [](const std::string&) {}};
 };
 
 } // namespace tally::testing

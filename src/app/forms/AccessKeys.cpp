@@ -82,8 +82,9 @@ bool isField(const QWidget& widget) {
         qobject_cast<QComboBox*>(widget.parentWidget()))
         return false;
     return qobject_cast<const QLineEdit*>(&widget) || qobject_cast<const QComboBox*>(&widget) ||
-           qobject_cast<const QAbstractSpinBox*>(&widget) || qobject_cast<const QAbstractItemView*>(&widget) ||
-           qobject_cast<const QPlainTextEdit*>(&widget) || qobject_cast<const QScrollBar*>(&widget) ||
+           qobject_cast<const QAbstractSpinBox*>(&widget) ||
+           qobject_cast<const QAbstractItemView*>(&widget) || qobject_cast<const QPlainTextEdit*>(&widget) ||
+           qobject_cast<const QScrollBar*>(&widget) ||
            (qobject_cast<const QAbstractScrollArea*>(&widget) && !widget.accessibleName().isEmpty());
 }
 
@@ -102,7 +103,8 @@ void assignField(QWidget& field, QLabel* label, QSet<QChar>& taken) {
         return;
     QObject& shown = label ? static_cast<QObject&>(*label) : field;
     shown.setProperty(keyName, key);
-    auto* shortcut = field.findChild<QShortcut*>(QString::fromLatin1(shortcutName), Qt::FindDirectChildrenOnly);
+    auto* shortcut =
+        field.findChild<QShortcut*>(QString::fromLatin1(shortcutName), Qt::FindDirectChildrenOnly);
     if (!shortcut) {
         shortcut = new QShortcut(&field);
         shortcut->setObjectName(QString::fromLatin1(shortcutName));

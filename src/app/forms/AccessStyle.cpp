@@ -51,9 +51,9 @@ void AccessStyle::drawControl(ControlElement element, const QStyleOption* option
 void AccessStyle::drawItemText(QPainter* painter, const QRect& place, int flags, const QPalette& palette,
                                bool enabled, const QString& text, QPalette::ColorRole role) const {
     QPaintDevice* const device = painter->device();
-    const auto* const label =
-        device && device->devType() == QInternal::Widget ? qobject_cast<QLabel*>(static_cast<QWidget*>(device))
-                                                         : nullptr;
+    const auto* const label = device && device->devType() == QInternal::Widget
+                                  ? qobject_cast<QLabel*>(static_cast<QWidget*>(device))
+                                  : nullptr;
     const QChar key = label && label->text() == text ? accessKeyOf(*label) : QChar();
     if (key.isNull())
         QProxyStyle::drawItemText(painter, place, flags, palette, enabled, text, role);

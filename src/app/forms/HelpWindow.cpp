@@ -24,9 +24,10 @@ namespace tally {
 
 namespace {
 
-// Pages name pictures as they lie in the source tree, beside all help files; each file holds them beside its pages.
+// Pages name pictures and style as they lie in the source tree, above the pages of a language; a help file
+// holds all in one folder.
 QUrl inHelpFile(QUrl url) {
-    if (url.path().startsWith(QStringLiteral("/img/")))
+    if (!url.path().startsWith(QStringLiteral("/doc/")))
         url.setPath(QStringLiteral("/doc") + url.path());
     return url;
 }

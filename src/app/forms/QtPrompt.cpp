@@ -25,6 +25,7 @@ QList<NameFilter> nameFilters(const QString& filter) {
         const QString patterns = parts[i + 1].trimmed().replace(QLatin1Char(';'), QLatin1Char(' '));
         QString label = parts[i].trimmed();
         label = label.left(label.indexOf(QLatin1Char('('))).trimmed();
+        label = QCoreApplication::translate("Tallyline", label.toUtf8().constData());
         const QString first = patterns.section(QLatin1Char(' '), 0, 0);
         const QString suffix = first.startsWith(QStringLiteral("*.")) ? first.mid(2) : QString();
         list.append({label + QStringLiteral(" (") + patterns + QLatin1Char(')'),

@@ -30,6 +30,11 @@ bool asWritten(const QObject& object) {
     return object.property("asWritten").toBool();
 }
 
+// Dialogs of the toolkit speak by themselves, and take their lists of names back as they were given.
+bool isToolkit(const QWidget& widget) {
+    return widget.window()->inherits("QFileDialog") || widget.window()->inherits("QAbstractPrintDialog");
+}
+
 } // namespace
 
 Interpreter::Interpreter(const Tongue& tongue, QObject* parent) : QObject(parent), tongue_(tongue) {}
@@ -47,7 +52,7 @@ bool Interpreter::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::LayoutRequest:
         // A part of it has another text than before.
-        for (QObject* child : widget.children())
+        for (QObject* child : isToolkit(widget) ? QObjectList() : widget.children())
             if (child->isWidgetType() && !asWritten(*child))
                 interpretOwn(static_cast<QWidget&>(*child));
         break;
@@ -65,7 +70,8 @@ void Interpreter::interpret(QWidget& widget) {
     put(
         tongue_, [&] { return widget.windowTitle(); },
         [&](const QString& said) { widget.setWindowTitle(said); });
-    interpretOwn(widget);
+    if (!isToolkit(widget))
+        interpretOwn(widget);
 }
 
 void Interpreter::interpretOwn(QWidget& widget) {

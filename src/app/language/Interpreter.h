@@ -11,8 +11,8 @@ class QWidget;
 namespace tally {
 
 // Stands at the border of the widgets: forms and rooms speak English, and what a widget shows is put into the
-// language in force when it is shown and when it changes. Entries, lists and documents are left alone: they are
-// data. A widget with the property "asWritten" is left alone too.
+// language in force when it is shown and when it changes. Entries, lists and documents are left alone: they
+// are data. A widget with the property "asWritten" is left alone too.
 class Interpreter : public QObject {
     Q_OBJECT
 

@@ -30,8 +30,8 @@ void chooseLanguage(Settings& settings, std::string_view code);
 // The language in force: the chosen one, else the first of the system's that the window knows, else English.
 std::string languageInForce(const Settings& settings, const QLocale& system);
 
-// Speaks a language as long as it lives: our words, those of Qt's dialogs, and what widgets show. English needs
-// nothing.
+// Speaks a language as long as it lives: our words, those of Qt's dialogs, and what widgets show. English
+// needs nothing.
 class Speech {
 public:
     Speech(QApplication& application, const std::string& language);

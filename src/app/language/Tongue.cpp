@@ -101,38 +101,41 @@ QString Tongue::whole(const QString& plain) const {
     return known.isEmpty() ? byPattern(plain) : known;
 }
 
-// A report is lines, of which several may be one sentence: the longest run that is known is said as a whole.
-QString Tongue::byLines(const QString& text) const {
-    const QStringList lines = text.split(QLatin1Char('\n'));
+// A report is lines and a notice is sentences, of which several may belong together: the longest run that is
+// known is said as a whole. What is not known is left for `rest`.
+QStringList Tongue::byRuns(const QStringList& parts, const QString& between, const Rest& rest) const {
     QStringList said;
-    for (qsizetype at = 0; at < lines.size();) {
-        qsizetype count = std::min(longestRun, lines.size() - at);
+    for (qsizetype at = 0; at < parts.size();) {
         QString known;
+        qsizetype count = std::min(longestRun, parts.size() - at);
         for (; count > 0; --count) {
-            known = whole(plainForm(lines.mid(at, count).join(QLatin1Char('\n'))));
-            // A run that ends with an empty line would lose it.
-            if (!known.isEmpty() && !lines[at].trimmed().isEmpty() &&
-                !lines[at + count - 1].trimmed().isEmpty())
+            // A run that begins or ends with an empty line would lose it.
+            if (parts[at].trimmed().isEmpty() || parts[at + count - 1].trimmed().isEmpty())
+                continue;
+            known = whole(plainForm(parts.mid(at, count).join(between)));
+            if (!known.isEmpty())
                 break;
         }
-        said.append(count > 0 ? known : bySentences(lines[at]));
+        said.append(count > 0 ? known : rest(parts[at]));
         at += std::max<qsizetype>(count, 1);
     }
-    return said.join(QLatin1Char('\n'));
+    return said;
 }
 
-// A notice is sentences and parts of such.
-QString Tongue::bySentences(const QString& text) const {
-    static const QRegularExpression end(QStringLiteral("(?<=[.!?:;]) +"));
-    QStringList parts = text.split(end, Qt::SkipEmptyParts);
-    if (parts.size() < 2)
-        return text;
-    for (QString& part : parts) {
-        const QString known = whole(plainForm(part));
-        if (!known.isEmpty())
-            part = known;
-    }
-    return parts.join(QLatin1Char(' '));
+QString Tongue::inParts(const QString& text, QStringList* unknown) const {
+    const QString lineEnd = QStringLiteral("\n");
+    const QString blank = QStringLiteral(" ");
+    static const QRegularExpression sentenceEnd(QStringLiteral("(?<=[.!?:;]) +"));
+    const Rest note = [unknown](const QString& part) {
+        if (unknown)
+            unknown->append(part);
+        return part;
+    };
+    const Rest sentences = [&](const QString& line) {
+        const QStringList parts = line.split(sentenceEnd, Qt::SkipEmptyParts);
+        return parts.size() < 2 ? note(line) : byRuns(parts, blank, note).join(blank);
+    };
+    return byRuns(text.split(QLatin1Char('\n')), lineEnd, sentences).join(lineEnd);
 }
 
 QString Tongue::say(const QString& english) const {
@@ -143,7 +146,7 @@ QString Tongue::say(const QString& english) const {
         return *before;
     const QString text = withBreaks(english);
     const QString known = whole(plainForm(text));
-    QString said = known.isEmpty() ? byLines(text)
+    QString said = known.isEmpty() ? inParts(text, nullptr)
                                    : QString(leadingBreaks(text), QLatin1Char('\n')) + known +
                                          QString(trailingBreaks(text), QLatin1Char('\n'));
     if (said_.size() >= remembered)
@@ -152,8 +155,12 @@ QString Tongue::say(const QString& english) const {
     return said;
 }
 
-bool Tongue::knows(const QString& english) const {
-    return !whole(plainForm(english)).isEmpty();
+QStringList Tongue::unknown(const QString& english) const {
+    const QString text = withBreaks(english);
+    QStringList parts;
+    if (whole(plainForm(text)).isEmpty())
+        inParts(text, &parts);
+    return parts;
 }
 
 // Qt asks for words of its own forms under their class names.

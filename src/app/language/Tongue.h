@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QTranslator>
+#include <functional>
 #include <vector>
 
 namespace tally {
@@ -11,8 +12,9 @@ namespace tally {
 // The form under which a text is looked up: line breaks as one character, no blanks that only lay it out.
 QString plainForm(const QString& text);
 
-// The words of one language. English is the source; a text that is composed of words and values is looked up by its
-// pattern ("%1 is not there."), else line by line and sentence by sentence. What is not known stays as it is.
+// The words of one language. English is the source; a text that is composed of words and values is looked up
+// by its pattern ("%1 is not there."), else line by line and sentence by sentence. What is not known stays as
+// it is.
 class Tongue : public QTranslator {
     Q_OBJECT
 
@@ -22,8 +24,8 @@ public:
 
     // What is shown for an English text. An access key ("&") is part of it.
     QString say(const QString& english) const;
-    // True when a text, or its pattern, has words of its own, also where they are the same as in English.
-    bool knows(const QString& english) const;
+    // The parts of a text that have no words, by lines and sentences.
+    QStringList unknown(const QString& english) const;
 
     QString translate(const char* context, const char* source, const char* disambiguation,
                       int count) const override;
@@ -38,10 +40,11 @@ private:
     QString entry(const QString& plain) const;
     QString byPattern(const QString& plain) const;
     QString whole(const QString& plain) const;
-    QString byLines(const QString& text) const;
-    QString bySentences(const QString& text) const;
+    using Rest = std::function<QString(const QString& part)>;
+    QStringList byRuns(const QStringList& parts, const QString& between, const Rest& rest) const;
+    QString inParts(const QString& text, QStringList* unknown) const;
 
-    std::vector<Pattern> patterns_;              // the most telling first
+    std::vector<Pattern> patterns_;        // the most telling first
     mutable QHash<QString, QString> said_; // what was looked up before
 };
 
