@@ -35,7 +35,7 @@ constexpr std::array tree = {
     MenuEntry{1, mruName, "", false, "", false, "Open this file again"},
     MenuEntry{1, mruName, "", false, "", false, "Open this file again"},
     MenuEntry{1, "mnuItemExit", "E&xit", false, "", line, "End the program"},
-    MenuEntry{1, "mnuItemArchive", "&Archive...", false, "", line,
+    MenuEntry{1, "mnuItemArchive", "Arc&hive...", false, "", line,
               "Search all recordings that were ever kept"},
     MenuEntry{0, "mnusurvey", "Load Survey", menu},
     MenuEntry{1, "mnuitemsurvfil", "Open File", false, "", false, "Peaks of a station and its feeders"},

@@ -6,11 +6,14 @@
 #include "app/forms/EditNotes.h"
 #include "app/forms/ForceRdgs.h"
 #include "app/forms/MessageBox.h"
+#include "archive/forms/AssignForm.h"
+#include "control/ModeLetter.h"
 #include "control/forms/Abort.h"
 #include "control/forms/InitInst.h"
 #include "control/forms/Recover.h"
 #include "core/Fileopen.h"
 #include "link/forms/Dwnloaditem.h"
+#include "link/forms/FindForm.h"
 #include "link/forms/InstProperties.h"
 #include "link/forms/InstSel.h"
 #include "link/forms/PortSel.h"
@@ -68,8 +71,15 @@ void Gallery::addInstrumentForms() {
     add("PortSel", [this] { return std::make_unique<PortSel>(1, ports, settings, nullptr); });
     add("InstSel", [this] { return std::make_unique<InstSel>(instrument, false, nullptr); });
     add("InstProperties", [this] { return std::make_unique<InstProperties>(instrument, nullptr); });
-    add("InitInst",
-        [] { return std::make_unique<InitInst>("No downloads are known on this computer.", nullptr); });
+    add("InitInst", [] {
+        const auto lasts = [](const ModeChoice&) {
+            return std::string(
+                "The memory lasts 5 days and 3 hours, until 12:00  Mar 20, 24; then the recording stops.");
+        };
+        return std::make_unique<InitInst>("No downloads are known on this computer.", lasts, nullptr);
+    });
+    add("FindForm", [this] { return std::make_unique<FindForm>(session, nullptr); });
+    add("AssignForm", [] { return std::make_unique<archive::AssignForm>(std::vector<archive::Entry>(2)); });
     add("Dwnloaditem", [this] { return std::make_unique<Dwnloaditem>(session, nullptr); });
     add("Status", [this] { return std::make_unique<Status>(session, nullptr); });
     add("Recover", [this] { return std::make_unique<Recover>(session, nullptr); });

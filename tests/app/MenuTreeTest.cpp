@@ -37,7 +37,7 @@ constexpr Entry tree[] = {
     {1, "mnuMRU", ""},
     {1, "mnuMRU", ""},
     {1, "mnuItemExit", "E&xit"},
-    {1, "mnuItemArchive", "&Archive..."},
+    {1, "mnuItemArchive", "Arc&hive..."},
     {0, "mnusurvey", "Load Survey"},
     {1, "mnuitemsurvfil", "Open File"},
     {0, "mnuEdit", "E&dit"},

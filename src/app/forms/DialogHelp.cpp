@@ -22,6 +22,8 @@ QString helpPageOf(const QString& dialog) {
         {QStringLiteral("InstProperties"), QStringLiteral("options.html#type")},
         {QStringLiteral("Dwnloaditem"), QStringLiteral("instrument.html#download")},
         {QStringLiteral("status"), QStringLiteral("instrument.html#status")},
+        {QStringLiteral("FindInstrument"), QStringLiteral("instrument.html#find")},
+        {QStringLiteral("ArchiveAssign"), QStringLiteral("archive.html#window")},
         {QStringLiteral("InitInst"), QStringLiteral("instrument.html#initialize")},
         {QStringLiteral("Abort"), QStringLiteral("instrument.html#initialize")},
         {QStringLiteral("recover"), QStringLiteral("instrument.html#recover")},

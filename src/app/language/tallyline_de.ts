@@ -3252,7 +3252,7 @@ An keinen Anschluss wird etwas gesandt. Ein Anschluss dauert etwa 10 Sekunden.</
         <translation>Noch nicht gespeichert (siehe die Hinweise oben):</translation>
     </message>
     <message>
-        <source>&amp;Archive...</source>
+        <source>Arc&amp;hive...</source>
         <translation>A&amp;rchiv...</translation>
     </message>
     <message>

@@ -3252,7 +3252,7 @@ No se envía nada a ningún puerto. Un puerto tarda unos 10 segundos.</translati
         <translation>Aún sin guardar (véanse los avisos de arriba):</translation>
     </message>
     <message>
-        <source>&amp;Archive...</source>
+        <source>Arc&amp;hive...</source>
         <translation>Archi&amp;vo histórico...</translation>
     </message>
     <message>

@@ -3252,7 +3252,7 @@ Rien n'est envoyé à aucun port. Un port prend environ 10 secondes.</translatio
         <translation>Pas encore enregistré (voir les avis ci-dessus) :</translation>
     </message>
     <message>
-        <source>&amp;Archive...</source>
+        <source>Arc&amp;hive...</source>
         <translation>A&amp;rchive...</translation>
     </message>
     <message>
