@@ -15,9 +15,9 @@ QChar accessKeyOf(const QObject& object);
 // A caption with that letter marked by "&".
 QString withAccessKey(const QString& caption, QChar key);
 
-// Gives every control of a window that is shown an access key: Alt and a letter of its caption or name. Captions
-// keep their wording: where they mark no letter, or one that another control has, the key is kept beside the
-// caption, and AccessStyle underlines it. Items of an open menu get their letter in the same way.
+// Gives every control of a window that is shown an access key: Alt and a letter of its caption or name.
+// Captions keep their wording: where they mark no letter, or one that another control has, the key is kept
+// beside the caption, and AccessStyle underlines it. Items of an open menu get their letter in the same way.
 class AccessKeys : public QObject {
     Q_OBJECT
 

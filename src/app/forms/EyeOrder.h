@@ -7,8 +7,8 @@ class QWidget;
 
 namespace tally {
 
-// Lets Tab go through a dialog as the eye does: line by line from the top, each from the left; what stands together
-// in a frame stays together.
+// Lets Tab go through a dialog as the eye does: line by line from the top, each from the left; what stands
+// together in a frame stays together.
 class EyeOrder : public QObject {
     Q_OBJECT
 
