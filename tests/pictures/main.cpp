@@ -3,6 +3,8 @@
 
 #include "app/TLY_Edit.h"
 #include "app/TLY_Paper.h"
+#include "app/forms/Access.h"
+#include "app/language/Speech.h"
 #include "control/MemoryLasts.h"
 #include "control/forms/InitInst.h"
 #include "link/forms/Dwnloaditem.h"
@@ -153,11 +155,13 @@ void link(Bench& bench) {
 
 // Draws the windows into a folder.
 int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
-    if (argc != 3) {
-        std::fputs("usage: tally_pictures FOLDER SAMPLES\n", stderr);
+    QApplication application(argc, argv);
+    if (argc != 3 && argc != 4) {
+        std::fputs("usage: tally_pictures FOLDER SAMPLES [LANGUAGE]\n", stderr);
         return 2;
     }
+    tally::easeAccess(application);
+    const tally::Speech speech(application, argc == 4 ? argv[3] : "en");
     try {
         tally::pictures::Bench bench(argv[1], argv[2]);
         for (const auto& draw : {tally::pictures::plots, tally::pictures::forced, tally::pictures::power,

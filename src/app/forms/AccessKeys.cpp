@@ -49,7 +49,8 @@ QString candidates(const QString& caption) {
         if (!c.isLetterOrNumber() || c.unicode() > 0xff)
             continue;
         const bool begins = i == 0 || !caption[i - 1].isLetterOrNumber();
-        const bool numbers = c.isDigit() && i + 1 == caption.size() && i > 0 && caption[i - 1].isLetter();
+        const bool ends = i + 1 == caption.size() || caption[i + 1].isSpace();
+        const bool numbers = c.isDigit() && ends && i > 0 && caption[i - 1].isLetter();
         if (numbers)
             first.prepend(c);
         else
