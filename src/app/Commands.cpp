@@ -22,7 +22,7 @@ Commands::Commands(const Services& services, Dispatcher& dispatcher, const Panes
       power(services, views, voltage, panes.status),
       edit(services, dispatcher, views, forced, panes.menus, &panes.window),
       paper(services, views, voltage, printing),
-      exports(services, views, voltage, folder, panes.menus),
+      exports(services, views, voltage, folder, panes.menus, &panes.window),
       instrument(services, downloads, panes.menus, panes.status, &panes.window),
       options(services, dispatcher, folder, panes.folderChoice),
       survey(services, dispatcher, folder, printing, &panes.window),

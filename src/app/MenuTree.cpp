@@ -30,6 +30,8 @@ constexpr std::array tree = {
               "Write the readings shown for a spreadsheet"},
     MenuEntry{2, "mnuItemexpdata1perLine", "Data: 1 Rdg per Line", false, "", false,
               "Write the table with one interval a line"},
+    MenuEntry{2, "mnuItemExportReadings", "&Readings...", false, "", line,
+              "Write readings, columns and range as you choose, for a spreadsheet"},
     MenuEntry{1, mruName, "", false, "", line, "Open this file again"},
     MenuEntry{1, mruName, "", false, "", false, "Open this file again"},
     MenuEntry{1, mruName, "", false, "", false, "Open this file again"},

@@ -81,6 +81,7 @@ void TLY::connectMenus() {
     on("mnuitemexprep", c.exports, &TLY_Export::mnuitemexprep_Click);
     on("MnuItemexpdatacsv", c.exports, &TLY_Export::MnuItemexpdatacsv_Click);
     on("mnuItemexpdata1perLine", c.exports, &TLY_Export::mnuItemexpdata1perLine_Click);
+    on("mnuItemExportReadings", c.exports, &TLY_Export::mnuItemExportReadings_Click);
     on("mnuItemPrintSum", c.paper, &TLY_Paper::mnuItemPrintSum_Click);
     on("mnuItemPrintpwrSum", c.paper, &TLY_Paper::mnuItemPrintpwrSum_Click);
     on("mnuItemPrintTable", c.paper, &TLY_Paper::mnuItemPrintTable_Click);

@@ -5,9 +5,15 @@
 #include "app/Menus.h"
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
+#include "app/forms/ExportForm.h"
 #include "export/CsvData.h"
 #include "export/Export.h"
+#include "export/TableCsv.h"
+#include "export/TableWorkbook.h"
 #include "export/expmv90.h"
+#include "platform/XlsxWriter.h"
+
+#include <filesystem>
 
 namespace tally {
 
@@ -15,6 +21,16 @@ namespace {
 
 bool isTable(View view) {
     return view == View::table || view == View::powerTable;
+}
+
+std::string rangeText(const char* what, const Recordings& recordings, const Range& range) {
+    const FileFacts& info = recordings.info(0);
+    return what + std::to_string(range.entries()) + (range.entries() == 1 ? " reading, " : " readings, ") +
+           screenTime(timeOf(info, range.first)) + " to " + screenTime(timeOf(info, range.last));
+}
+
+std::string nameFor(const Recordings& recordings, bool workbook) {
+    return std::filesystem::path(recordings.info(0).path).stem().string() + (workbook ? ".xlsx" : ".csv");
 }
 
 } // namespace
@@ -55,6 +71,51 @@ Done TLY_Export::exportTable(bool onePerLine) {
     if (!done)
         return tl::make_unexpected(done.error());
     exported(*done);
+    return {};
+}
+
+Done TLY_Export::mnuItemExportReadings_Click() {
+    const Recordings& recordings = services_.recordings;
+    if (!recordings.isOpen(0))
+        return refuse(std::string(noFileToExport));
+    const auto table = readingTable(recordings);
+    if (!table)
+        return tl::make_unexpected(table.error());
+    const Range whole = wholeFile(recordings, 0);
+    const Range shown = services_.display.displayed(recordings);
+    std::vector<std::string> columns;
+    for (const TableColumn& column : table->columns)
+        columns.push_back(column.name);
+    ExportForm form(rangeText("Everything: ", recordings, whole),
+                    shown == whole ? std::string() : rangeText("What is shown: ", recordings, shown), columns,
+                    window_);
+    return form.exec() == QDialog::Accepted ? writeReadings(form.choice()) : Done();
+}
+
+Done TLY_Export::writeReadings(const ExportChoice& choice) {
+    const Recordings& recordings = services_.recordings;
+    auto table = readingTable(recordings, choice.part ? std::optional(services_.display.displayed(recordings))
+                                                      : std::nullopt);
+    if (!table)
+        return tl::make_unexpected(table.error());
+    std::vector<TableColumn> columns;
+    for (const std::size_t column : choice.columns)
+        columns.push_back(table->columns[column]);
+    table->columns = std::move(columns);
+    const auto path = services_.prompt.chooseFile(
+        {.save = true,
+         .filter = choice.workbook ? "Workbook (*.xlsx)|*.xlsx" : "Text (*.csv)|*.csv",
+         .folder = folder_.forDialog(),
+         .name = nameFor(recordings, choice.workbook)});
+    if (!path)
+        return {};
+    if (const auto free = checkNotOpen(recordings, *path, services_.files); !free)
+        return free;
+    const CsvForm form{choice.separator, choice.decimal, choice.shownTime ? TimeForm::shown : TimeForm::iso};
+    const std::string bytes = choice.workbook
+                                  ? xlsxBytes(tableWorkbook(recordings, *table, services_.clock.localTime()))
+                                  : tableCsv(recordings, *table, form);
+    services_.prompt.tell(writeExport(services_.files, *path, bytes, " saved OK").message());
     return {};
 }
 

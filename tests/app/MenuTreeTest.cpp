@@ -32,6 +32,7 @@ constexpr Entry tree[] = {
     {2, "mnuitemexprep", "Metering Data Report"},
     {2, "MnuItemexpdatacsv", "Data: Table"},
     {2, "mnuItemexpdata1perLine", "Data: 1 Rdg per Line"},
+    {2, "mnuItemExportReadings", "&Readings..."},
     {1, "mnuMRU", ""},
     {1, "mnuMRU", ""},
     {1, "mnuMRU", ""},
