@@ -16,7 +16,8 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using testing::WindowTest;
 
-// Two files of four readings, downloaded at 10:00: the last interval before then is the one that ran, so that the newest
+// Two files of four readings, downloaded at 10:00: the last interval before then is the one that ran, so that
+// the newest
 class ExportReadings : public WindowTest {
 protected:
     void openBoth() {

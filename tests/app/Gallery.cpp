@@ -4,6 +4,7 @@
 #include "app/forms/About.h"
 #include "app/forms/DataSelect.h"
 #include "app/forms/EditNotes.h"
+#include "app/forms/ExportForm.h"
 #include "app/forms/ForceRdgs.h"
 #include "app/forms/MessageBox.h"
 #include "archive/forms/AssignForm.h"
@@ -62,6 +63,12 @@ void Gallery::addFileForms() {
     add("DataSelect", [this] { return std::make_unique<DataSelect>(two_, prompt); });
     add("EditNotes", [] {
         return std::make_unique<EditNotes>("/d/north.dat", std::array<std::string, 4>{"a", "b", "c", "d"});
+    });
+    add("ExportForm", [] {
+        return std::make_unique<ExportForm>(
+            "Everything: 4 readings, 08:45  Mar 15, 24 to 09:30  Mar 15, 24",
+            "What is shown: 2 readings, 09:00  Mar 15, 24 to 09:15  Mar 15, 24",
+            std::vector<std::string>{"north.dat", "south.dat"});
     });
     add("ForceRdgs", [] { return std::make_unique<ForceRdgs>("/d/north.dat", "0", "4"); });
     add("DisplaySel", [] { return std::make_unique<DisplaySel>(Statistic::average); });

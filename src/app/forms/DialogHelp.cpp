@@ -14,6 +14,7 @@ QString helpPageOf(const QString& dialog) {
         {QStringLiteral("MessageBox"), QStringLiteral("trouble.html")},
         {QStringLiteral("InputBox"), QStringLiteral("options.html#entries")},
         {QStringLiteral("DataSelect"), QStringLiteral("file.html#choose")},
+        {QStringLiteral("ExportForm"), QStringLiteral("file.html#export")},
         {QStringLiteral("EditNotes"), QStringLiteral("edit.html#notes")},
         {QStringLiteral("ForceRdgs"), QStringLiteral("edit.html#force")},
         {QStringLiteral("displaysel"), QStringLiteral("view.html#mma")},

@@ -8,6 +8,11 @@ namespace tally {
 namespace {
 
 constexpr std::array all = {
+    "Everything: %1 readings, %2 to %3",
+    "Everything: %1 reading, %2 to %3",
+    "What is shown: %1 readings, %2 to %3",
+    "What is shown: %1 reading, %2 to %3",
+    "%1 saved OK\nIt took the place of an earlier file.",
     "readings %1 to %2 of %3",
     "table of %1",
     "summary of %1",

@@ -3585,5 +3585,95 @@ Retten Sie noch einmal, bevor Sie das Gerät initialisieren.</translation>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>&amp;Readings...</source>
+        <translation>&amp;Messwerte...</translation>
+    </message>
+    <message>
+        <source>Write readings, columns and range as you choose, for a spreadsheet</source>
+        <translation>Messwerte, Spalten und Bereich nach Wahl für eine Tabellenkalkulation schreiben</translation>
+    </message>
+    <message>
+        <source>Export Readings</source>
+        <translation>Messwerte exportieren</translation>
+    </message>
+    <message>
+        <source>Everything: %1 readings, %2 to %3</source>
+        <translation>Alles: %1 Messwerte, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Everything: %1 reading, %2 to %3</source>
+        <translation>Alles: %1 Messwert, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 readings, %2 to %3</source>
+        <translation>Was gezeigt ist: %1 Messwerte, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 reading, %2 to %3</source>
+        <translation>Was gezeigt ist: %1 Messwert, %2 bis %3</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Bereich</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt for any spreadsheet (CSV)</source>
+        <translation>Te&amp;xt für jede Tabellenkalkulation (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Workbook with a chart (XLSX)</source>
+        <translation>Arbeits&amp;mappe mit Diagramm (XLSX)</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Semikolon</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tabulator</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punkt</translation>
+    </message>
+    <message>
+        <source>Se&amp;parator</source>
+        <translation>&amp;Trennzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Decimal sign</source>
+        <translation>&amp;Dezimalzeichen</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Zeit</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Speichern unter...</translation>
+    </message>
+    <message>
+        <source>%1 saved OK
+It took the place of an earlier file.</source>
+        <translation>%1 gespeichert
+Sie ersetzt eine frühere Datei.</translation>
+    </message>
+    <message>
+        <source>Workbook</source>
+        <translation>Arbeitsmappe</translation>
+    </message>
 </context>
 </TS>

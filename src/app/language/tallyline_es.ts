@@ -3585,5 +3585,95 @@ Recupere de nuevo antes de inicializar el instrumento.</translation>
         <source>&amp;Cancel</source>
         <translation>&amp;Cancelar</translation>
     </message>
+    <message>
+        <source>&amp;Readings...</source>
+        <translation>&amp;Lecturas...</translation>
+    </message>
+    <message>
+        <source>Write readings, columns and range as you choose, for a spreadsheet</source>
+        <translation>Escribir lecturas, columnas e intervalo a elección para una hoja de cálculo</translation>
+    </message>
+    <message>
+        <source>Export Readings</source>
+        <translation>Exportar lecturas</translation>
+    </message>
+    <message>
+        <source>Everything: %1 readings, %2 to %3</source>
+        <translation>Todo: %1 lecturas, de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Everything: %1 reading, %2 to %3</source>
+        <translation>Todo: %1 lectura, de %2 a %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 readings, %2 to %3</source>
+        <translation>Lo mostrado: %1 lecturas, de %2 a %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 reading, %2 to %3</source>
+        <translation>Lo mostrado: %1 lectura, de %2 a %3</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Intervalo</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Columnas</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt for any spreadsheet (CSV)</source>
+        <translation>Te&amp;xto para cualquier hoja de cálculo (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Workbook with a chart (XLSX)</source>
+        <translation>&amp;Libro con gráfico (XLSX)</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Coma</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Punto y coma</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tabulador</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Punto</translation>
+    </message>
+    <message>
+        <source>Se&amp;parator</source>
+        <translation>Se&amp;parador</translation>
+    </message>
+    <message>
+        <source>&amp;Decimal sign</source>
+        <translation>Signo &amp;decimal</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Hora</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Guardar como...</translation>
+    </message>
+    <message>
+        <source>%1 saved OK
+It took the place of an earlier file.</source>
+        <translation>%1 guardado
+Sustituye a un archivo anterior.</translation>
+    </message>
+    <message>
+        <source>Workbook</source>
+        <translation>Libro</translation>
+    </message>
 </context>
 </TS>

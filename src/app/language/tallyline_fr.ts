@@ -3585,5 +3585,95 @@ Récupérez à nouveau avant d'initialiser l'appareil.</translation>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
     </message>
+    <message>
+        <source>&amp;Readings...</source>
+        <translation>&amp;Mesures...</translation>
+    </message>
+    <message>
+        <source>Write readings, columns and range as you choose, for a spreadsheet</source>
+        <translation>Écrire mesures, colonnes et plage au choix pour un tableur</translation>
+    </message>
+    <message>
+        <source>Export Readings</source>
+        <translation>Exporter les mesures</translation>
+    </message>
+    <message>
+        <source>Everything: %1 readings, %2 to %3</source>
+        <translation>Tout : %1 mesures, du %2 au %3</translation>
+    </message>
+    <message>
+        <source>Everything: %1 reading, %2 to %3</source>
+        <translation>Tout : %1 mesure, du %2 au %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 readings, %2 to %3</source>
+        <translation>Ce qui est affiché : %1 mesures, du %2 au %3</translation>
+    </message>
+    <message>
+        <source>What is shown: %1 reading, %2 to %3</source>
+        <translation>Ce qui est affiché : %1 mesure, du %2 au %3</translation>
+    </message>
+    <message>
+        <source>Range</source>
+        <translation>Plage</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>Te&amp;xt for any spreadsheet (CSV)</source>
+        <translation>Te&amp;xte pour tout tableur (CSV)</translation>
+    </message>
+    <message>
+        <source>&amp;Workbook with a chart (XLSX)</source>
+        <translation>&amp;Classeur avec graphique (XLSX)</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Virgule</translation>
+    </message>
+    <message>
+        <source>Semicolon</source>
+        <translation>Point-virgule</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tabulation</translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation>Point</translation>
+    </message>
+    <message>
+        <source>Se&amp;parator</source>
+        <translation>Sé&amp;parateur</translation>
+    </message>
+    <message>
+        <source>&amp;Decimal sign</source>
+        <translation>Signe &amp;décimal</translation>
+    </message>
+    <message>
+        <source>&amp;Time</source>
+        <translation>&amp;Heure</translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Enregistrer sous...</translation>
+    </message>
+    <message>
+        <source>%1 saved OK
+It took the place of an earlier file.</source>
+        <translation>%1 enregistré
+Il remplace un fichier antérieur.</translation>
+    </message>
+    <message>
+        <source>Workbook</source>
+        <translation>Classeur</translation>
+    </message>
 </context>
 </TS>
