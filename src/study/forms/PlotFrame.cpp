@@ -16,8 +16,10 @@ std::vector<double> roundTicks(double from, double to, int wanted) {
     const double power = std::pow(10, std::floor(std::log10(raw)));
     const double part = raw / power;
     const double step = (part <= 1 ? 1 : part <= 2 ? 2 : part <= 5 ? 5 : 10) * power;
-    for (double tick = std::ceil(from / step) * step; tick <= to + step * 1e-6; tick += step)
-        ticks.push_back(std::fabs(tick) < step * 1e-6 ? 0 : tick);
+    const double first = std::ceil(from / step);
+    const int count = int(std::floor(to / step + 1e-6 - first)) + 1;
+    for (int i = 0; i < count; ++i)
+        ticks.push_back((first + i) * step);
     return ticks;
 }
 

@@ -4,6 +4,7 @@
 #include "study/Report.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tally::study {
 
@@ -27,7 +28,7 @@ std::optional<std::size_t> TimePlot::pointAt(const QRectF& place, QPointF at) co
     if (!box.contains(at))
         return {};
     const double part = (at.x() - box.left()) / box.width();
-    return std::size_t(part * (double(axis_.points) - 1) + 0.5);
+    return std::size_t(std::lround(part * (double(axis_.points) - 1)));
 }
 
 std::optional<ReadingTime> TimePlot::timeAt(const QRectF& place, QPointF at) const {
