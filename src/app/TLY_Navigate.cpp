@@ -18,7 +18,7 @@ namespace tally {
 
 namespace {
 
-constexpr int mostLines = 3;
+constexpr int limitLines = 3;
 constexpr double panPart = 0.1;
 
 std::string lineItem(int line) {
@@ -95,7 +95,7 @@ void TLY_Navigate::connectPictures(const Run&) {
     on("mnuItemBox", [this](Chart& chart) { chart.setBoxMode(menus_.item("mnuItemBox").isChecked()); });
     on("mnuItemEarlier", [](Chart& chart) { chart.pan(-panPart, 0); });
     on("mnuItemLater", [](Chart& chart) { chart.pan(panPart, 0); });
-    for (int line = 0; line < mostLines; ++line)
+    for (int line = 0; line < limitLines; ++line)
         on(lineItem(line), [line](Chart& chart) { chart.toggleLine(line); });
     menus_.handle("mnuItemFigures", [this] { showFigures(menus_.item("mnuItemFigures").isChecked()); });
 }
@@ -142,7 +142,7 @@ void TLY_Navigate::refresh() {
     menus_.item("mnuItemFigures").setChecked(figures);
     if (chart)
         screen_.chartBar().figures->setChecked(figures);
-    for (int line = 0; line < mostLines; ++line) {
+    for (int line = 0; line < limitLines; ++line) {
         QAction& item = menus_.item(lineItem(line));
         const bool there = chart && line < int(screen_.chart().plot().series.size());
         menus_.set(lineItem(line), there);
@@ -179,7 +179,7 @@ void TLY_Navigate::setSwitches() {
 
 Done TLY_Navigate::shownAgain() {
     const bool plot = isPlot(services_.display.view());
-    const Done done = views_.again();
+    Done done = views_.again();
     if (done && plot && services_.display.zoomed())
         menus_.apply(MenuEvent::zoomed);
     return done;
@@ -217,9 +217,9 @@ Done TLY_Navigate::step(Period period, int direction) {
 Done TLY_Navigate::align() {
     Display& display = services_.display;
     const bool byTime = !display.byTime();
-    if (const Done done = display.showByTime(services_.recordings, byTime); !done)
+    if (Done done = display.showByTime(services_.recordings, byTime); !done)
         return done;
-    const Done done = views_.again();
+    Done done = views_.again();
     if (done)
         views_.showTogether();
     return done;

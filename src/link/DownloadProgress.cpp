@@ -65,13 +65,13 @@ bool DownloadProgress::tick(std::size_t received) {
 
 // The pace is that of what has come so far.
 std::string DownloadProgress::remainingText(std::size_t received) const {
-    const std::size_t most = mostCharacters(session_.instrument);
+    const std::size_t maximum = maximumCharacters(session_.instrument);
     const std::int64_t took = session_.waiter.now() - begun_;
-    if (received == 0 || received >= most || took <= 0)
+    if (received == 0 || received >= maximum || took <= 0)
         return {};
-    const auto left = static_cast<double>(most - received) * static_cast<double>(took) /
+    const auto left = static_cast<double>(maximum - received) * static_cast<double>(took) /
                       static_cast<double>(received) / 1000;
-    return grouped(received) + " of at most " + grouped(most) + " characters, about " +
+    return grouped(received) + " of at most " + grouped(maximum) + " characters, about " +
            std::to_string(static_cast<std::int64_t>(std::ceil(left))) + " s left";
 }
 

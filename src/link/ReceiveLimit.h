@@ -21,7 +21,7 @@ constexpr std::size_t receiveLimit(const InstrumentState& instrument) {
 
 // What a full memory of the type in force sends at most: five characters a sample, two at the end of a line
 // of ten, and the header; never more than is received.
-constexpr std::size_t mostCharacters(const InstrumentState& instrument) {
+constexpr std::size_t maximumCharacters(const InstrumentState& instrument) {
     constexpr std::size_t header = 60;
     const auto samples = static_cast<std::size_t>(instrument.maxSamples);
     const std::size_t whole = samples * 5 + (samples + 9) / 10 * 2 + header;

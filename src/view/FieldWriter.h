@@ -21,7 +21,7 @@ public:
     // The longest field that a number can become.
     static constexpr std::size_t maximumChars = 64;
 
-    // Both may write up to mostChars characters and give the end of the field.
+    // Both may write up to maximumChars characters and give the end of the field.
     char* write(char* to, std::int16_t tenths) const;
     char* write(char* to, float value) const;
 

@@ -98,8 +98,8 @@ public:
     HeatMap(const Study& study, std::size_t channel)
         : axis_(study.axis),
           channel_(study.channels[channel]),
-          least_(study.figures[channel].duration.back()),
-          most_(study.figures[channel].duration.front()),
+          minimum_(study.figures[channel].duration.back()),
+          maximum_(study.figures[channel].duration.front()),
           firstDay_(dayOf(study.axis.start)),
           days_(study.days()),
           rows_(minutesPerDay / study.axis.interval) {}
@@ -155,7 +155,7 @@ private:
             // Midnight stands below.
             const int row = rows_ - 1 - minuteOfDay(time) / axis_.interval;
             pixels[row * days_ + int(dayOf(time) - firstDay_)] =
-                heatColour(most_ > least_ ? (value - least_) / (most_ - least_) : 0);
+                heatColour(maximum_ > minimum_ ? (value - minimum_) / (maximum_ - minimum_) : 0);
         }
     }
     // The point of the cell under a place; nothing off the map and in a cell without a reading.
@@ -175,8 +175,8 @@ private:
 
     const Axis& axis_;
     const Channel& channel_;
-    double least_;
-    double most_;
+    double minimum_;
+    double maximum_;
     std::int64_t firstDay_;
     int days_;
     int rows_; // slots of a day
