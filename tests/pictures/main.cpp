@@ -13,6 +13,7 @@
 #include "link/forms/Status.h"
 #include "survey/SurveyDesk.h"
 #include "survey/forms/LoadSurv.h"
+#include "view/forms/Chart.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -79,6 +80,21 @@ void paper(Bench& bench) {
         static_cast<QDialog&>(dialog).reject();
     });
     bench.window.findChild<QAction*>(QStringLiteral("chartPreview"))->trigger();
+}
+
+void readings(Bench& bench) {
+    bench.open(threePhases, false);
+    bench.whenOpen([&bench](QWidget& form) {
+        bench.grab(form, "export-readings");
+        static_cast<QDialog&>(form).reject();
+    });
+    bench.click("mnuItemExportReadings");
+    bench.click("mnuItemViewPlot");
+    bench.click("mnuItemFigures");
+    bench.window.screen().chart().markSpan(200, 400);
+    bench.grab(bench.window, "plot-figures");
+    bench.click("mnuItemViewStudy");
+    bench.grab(bench.window, "study");
 }
 
 void survey(Bench& bench) {
@@ -164,8 +180,9 @@ int main(int argc, char** argv) {
     const tally::Speech speech(application, argc == 4 ? argv[3] : "en");
     try {
         tally::pictures::Bench bench(argv[1], argv[2]);
-        for (const auto& draw : {tally::pictures::plots, tally::pictures::forced, tally::pictures::power,
-                                 tally::pictures::paper, tally::pictures::survey, tally::pictures::link})
+        for (const auto& draw :
+             {tally::pictures::plots, tally::pictures::forced, tally::pictures::readings,
+              tally::pictures::power, tally::pictures::paper, tally::pictures::survey, tally::pictures::link})
             draw(bench);
     } catch (const std::exception& problem) {
         std::fprintf(stderr, "tally_pictures: %s\n", problem.what());

@@ -9,6 +9,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace tally {
 namespace {
 
@@ -79,6 +81,15 @@ void SpanPanel::showFigures(const std::string& title, const std::vector<std::vec
             table_->setItem(row - 1, column - 1, item);
         }
     }
+    fitColumns();
+}
+
+// Three files stand side by side without scrolling; more than that would leave the plot too little room.
+void SpanPanel::fitColumns() {
+    constexpr int widest = 430;
+    const int wanted = table_->verticalHeader()->sizeHint().width() + table_->horizontalHeader()->length() +
+                       2 * table_->frameWidth();
+    table_->setMinimumWidth(std::min(wanted, widest));
 }
 
 void SpanPanel::copy() const {

@@ -23,6 +23,7 @@ public:
     void showFigures(const std::string& title, const std::vector<std::vector<std::string>>& rows,
                      const std::vector<std::string>& remarks, const std::string& text);
     void copy() const;
+    void fitColumns();
 
     QSize sizeHint() const override { return {330, 400}; }
 
