@@ -259,6 +259,7 @@ std::optional<Arguments> parseArguments(int argc, char** argv, ReadingTime clock
     describeLine(app, raw, arguments);
     describeProgram(app, arguments);
     app.footer(footer());
+    app.set_version_flag("--version", std::string("tallyline-sim ") + TALLY_VERSION);
     try {
         app.parse(argc, argv);
         fill(raw, arguments, clock, seconds);

@@ -60,6 +60,12 @@ std::string receive(const std::string& device, const std::string& settings = "96
     return all;
 }
 
+TEST(SimProgram, SaysItsVersion) {
+    Program program({QStringLiteral("--version")});
+    EXPECT_EQ(program.status(), 0);
+    EXPECT_TRUE(program.process.readAllStandardOutput().startsWith("tallyline-sim 0."));
+}
+
 TEST(SimProgram, AnnouncesItsDeviceAndEndsWhenAsked) {
     Program program(
         {QStringLiteral("--count"), QStringLiteral("5"), QStringLiteral("--speed"), QStringLiteral("0")});
