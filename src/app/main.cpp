@@ -26,6 +26,7 @@
 #include <QDir>
 #include <QTimer>
 
+#include <clocale>
 #include <optional>
 
 namespace {
@@ -70,6 +71,8 @@ int main(int argc, char** argv) {
         return *ended;
     auto check = std::make_optional<tally::DisplayCheck>();
     QApplication application(argc, argv);
+    // The toolkit has taken the user's locale; what a server says is understood in English.
+    std::setlocale(LC_MESSAGES, "C");
     check.reset();
     tally::easeAccess(application);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/tallyline.png")));

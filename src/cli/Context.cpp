@@ -8,6 +8,7 @@
 
 #include <QApplication>
 
+#include <clocale>
 #include <cstdio>
 
 namespace tally::cli {
@@ -150,11 +151,21 @@ void Context::warn(std::string_view text) {
     std::fwrite(lines.data(), 1, lines.size(), stderr);
 }
 
+namespace {
+
+// The toolkit takes the user's locale; what a server or the system says is understood and shown in English.
+void plainWords() {
+    std::setlocale(LC_MESSAGES, "C");
+}
+
+} // namespace
+
 void Context::needEventLoop() {
     if (application_ || shared_ != nullptr)
         return;
     qInstallMessageHandler(passMessageOn);
     application_ = std::make_unique<QCoreApplication>(argc_, argv_);
+    plainWords();
 }
 
 void Context::needPainting() {
@@ -166,6 +177,7 @@ void Context::needPainting() {
     // No command needs a display, and none may open one.
     qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(argc_, argv_);
+    plainWords();
 }
 
 bool Context::flush() {

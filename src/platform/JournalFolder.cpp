@@ -234,9 +234,10 @@ std::optional<std::string> JournalFolder::accepting(const std::string& id) const
 std::vector<std::string> JournalFolder::ids() const {
     std::vector<std::string> all;
     std::error_code ignored;
-    for (const auto& file : std::filesystem::directory_iterator(folder_, ignored))
-        if (file.path().extension() == logEnding && isId(file.path().stem().string()))
-            all.push_back(file.path().stem().string());
+    for (std::filesystem::directory_iterator file(folder_, ignored), end; file != end;
+         file.increment(ignored))
+        if (file->path().extension() == logEnding && isId(file->path().stem().string()))
+            all.push_back(file->path().stem().string());
     std::sort(all.rbegin(), all.rend());
     return all;
 }

@@ -9,6 +9,7 @@
 #include <xlsxwriter.h>
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <map>
 
@@ -19,6 +20,25 @@ namespace {
 constexpr double minutesPerDay = 24 * 60;
 constexpr double epochDay = 25569; // of 1970-01-01, counted as spreadsheets count days
 constexpr std::size_t maximumTextBytes = 32767;
+
+#ifndef _WIN32
+// The library writes numbers with the decimal sign of the locale, which the toolkit has set to the user's; a
+// workbook needs the point. For this thread and as long as the object lives.
+class PointAsDecimalSign {
+public:
+    PointAsDecimalSign() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(plain_)) {}
+    ~PointAsDecimalSign() {
+        uselocale(before_);
+        freelocale(plain_);
+    }
+    PointAsDecimalSign(const PointAsDecimalSign&) = delete;
+    PointAsDecimalSign& operator=(const PointAsDecimalSign&) = delete;
+
+private:
+    locale_t plain_;
+    locale_t before_;
+};
+#endif
 
 // A date and time as the number that stands in its cell.
 double dayNumber(ReadingTime time) {
@@ -153,6 +173,9 @@ void addSheet(lxw_workbook* book, Formats& formats, const Sheet& sheet) {
 } // namespace
 
 std::string xlsxBytes(const Workbook& workbook) {
+#ifndef _WIN32
+    const PointAsDecimalSign point;
+#endif
     QTemporaryFile file(QDir::tempPath() + QStringLiteral("/tallyline-XXXXXX.xlsx"));
     if (!file.open())
         throw fault::diskFull();

@@ -6,6 +6,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <limits>
 
 namespace tally {
@@ -43,6 +44,20 @@ TEST(XlsxWriter, NumbersAreNumbersAndTimesAreDays) {
     EXPECT_TRUE(holds(sheet, "<v>0.0625</v>"));
     EXPECT_TRUE(holds(sheet, "<v>3</v>"));
     EXPECT_TRUE(holds(sheet, R"(state="frozen")"));
+}
+
+TEST(XlsxWriter, NumbersHaveAPointInALocaleOfCommas) {
+    const QTemporaryDir locales;
+    if (QProcess::execute(QStringLiteral("localedef"),
+                          {QStringLiteral("-i"), QStringLiteral("de_DE"), QStringLiteral("-f"),
+                           QStringLiteral("UTF-8"), locales.filePath(QStringLiteral("de_DE.UTF-8"))}) != 0)
+        GTEST_SKIP() << "no locale can be made here";
+    qputenv("LOCPATH", QFile::encodeName(locales.path()));
+    ASSERT_NE(std::setlocale(LC_NUMERIC, "de_DE.UTF-8"), nullptr);
+    const auto sheet = part(oneSheet({{std::string("x")}, {NumberCell{12.5}}}), "xl/worksheets/sheet1.xml");
+    EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+    std::setlocale(LC_NUMERIC, "C");
+    EXPECT_TRUE(holds(sheet, "<v>12.5</v>")) << sheet;
 }
 
 TEST(XlsxWriter, DatesAndNumbersHaveTheirFormats) {
