@@ -4,7 +4,9 @@
 #include "app/forms/MessageBox.h"
 #include "core/forms/Words.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QCompleter>
 #include <QDir>
 #include <QLineEdit>
 
@@ -32,6 +34,20 @@ QList<NameFilter> nameFilters(const QString& filter) {
                      suffix == QStringLiteral("*") ? QString() : suffix});
     }
     return list;
+}
+
+QLineEdit* nameField(const QFileDialog& dialog) {
+    return dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
+
+// Return closes the dialog and leaves the list of names that begin like the one typed: it would take the keys
+// of the window below. Without a prefix it does not come late either, when a slow folder has been read.
+void endCompletion(const QFileDialog& dialog) {
+    const QLineEdit* const name = nameField(dialog);
+    if (!name || !name->completer())
+        return;
+    name->completer()->setCompletionPrefix({});
+    name->completer()->popup()->hide();
 }
 
 } // namespace
@@ -67,7 +83,7 @@ QFileDialog& QtPrompt::fileDialog() {
         fileDialog_->setParent(parent(), fileDialog_->windowFlags());
     }
     // The name that was chosen the time before.
-    if (auto* const name = fileDialog_->findChild<QLineEdit*>(QStringLiteral("fileNameEdit")))
+    if (QLineEdit* const name = nameField(*fileDialog_))
         name->clear();
     fileDialog_->setDefaultSuffix({});
     return *fileDialog_;
@@ -97,7 +113,9 @@ std::optional<std::string> QtPrompt::chooseFile(const FileQuestion& question) {
     }
     if (!question.name.empty())
         dialog.selectFile(words(question.name));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    const int ended = dialog.exec();
+    endCompletion(dialog);
+    if (ended != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().first().toStdString();
 }
