@@ -87,6 +87,7 @@ QPushButton* StudyForm::addButton(const char* name, const char* caption, const c
 
 void StudyForm::study(const Recordings& recordings, std::optional<Range> range) {
     subject_ = std::make_unique<Subject>(Subject{recordings, range});
+    showNothing(); // what is shown is of files that may have changed
     side_->fitTo(recordings);
     restudy();
 }
@@ -97,6 +98,7 @@ void StudyForm::clear() {
 }
 
 void StudyForm::showNothing() {
+    refusal_->hide();
     page_->setStudy(nullptr);
     study_.reset();
     for (QPushButton* button : buttons_)
@@ -107,16 +109,28 @@ void StudyForm::restudy() {
     if (!subject_)
         return;
     const auto options = side_->options();
-    if (!options)
-        return; // the side says what is wrong; the page stays as it was
-    auto made = studyOf(subject_->recordings, subject_->range, *options);
-    if (!made) {
-        showRefusal(made.error().message());
+    if (!options) {
+        // The side says what is wrong. While it is typed the page stays as it was.
+        if (!study_)
+            showRefusal(options.error().text);
         return;
     }
+    try {
+        auto made = studyOf(subject_->recordings, subject_->range, *options);
+        if (made)
+            showStudy(std::move(*made));
+        else
+            showRefusal(made.error().message());
+    } catch (const Fault& fault) {
+        // The fields stay in reach, so that what overflows can be changed.
+        showRefusal(fault.what());
+    }
+}
+
+void StudyForm::showStudy(Study&& made) {
     refusal_->hide();
     page_->setStudy(nullptr);
-    study_ = std::make_unique<Study>(std::move(*made));
+    study_ = std::make_unique<Study>(std::move(made));
     page_->setStudy(study_.get());
     for (QPushButton* button : buttons_)
         button->setEnabled(true);

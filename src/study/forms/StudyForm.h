@@ -60,6 +60,7 @@ private:
     QPushButton* addButton(const char* name, const char* caption, const char* tip,
                            void (StudyForm::*action)());
     void restudy();
+    void showStudy(Study&& made);
     void showNothing();
     void showRefusal(const std::string& text);
     void copyFigures();

@@ -42,7 +42,7 @@ StudySide::StudySide(Settings& settings, QWidget* parent) : QWidget(parent), set
     problem_->setWordWrap(true);
     form->addRow(problem_);
     connect(window_, &QComboBox::currentTextChanged, this, [this](const QString& text) {
-        keep(QStringLiteral("window"), text);
+        keep("window", text);
         Q_EMIT changed();
     });
 }
@@ -55,14 +55,19 @@ QLineEdit* StudySide::addField(QFormLayout& form, const char* name, const char* 
     field->setText(words(settings_.get(section, name)));
     form.addRow(QString::fromLatin1(caption), field);
     connect(field, &QLineEdit::textChanged, this, [this, field](const QString& text) {
-        keep(field->objectName(), text);
+        keep(keyOf(field), text);
         Q_EMIT changed();
     });
     return field;
 }
 
-void StudySide::keep(const QString& key, const QString& text) {
-    settings_.set(section, key.toStdString(), text.toStdString());
+void StudySide::keep(const std::string& key, const QString& text) {
+    settings_.set(section, key, text.toStdString());
+}
+
+std::string StudySide::keyOf(const QLineEdit* field) const {
+    const std::string name = field->objectName().toStdString();
+    return isOfVolts_ && (field == high_ || field == low_) ? name + "V" : name;
 }
 
 void StudySide::fitTo(const Recordings& recordings) {
@@ -75,6 +80,11 @@ void StudySide::fitTo(const Recordings& recordings) {
     const int kept = window_->findText(words(settings_.get(section, "window")));
     window_->setCurrentIndex(kept >= 0 ? kept : window_->findText(QString::number(usualWindow)));
     const bool amps = info.unit() == 'A';
+    isOfVolts_ = !amps;
+    for (QLineEdit* field : {high_, low_}) {
+        const QSignalBlocker quietField(field);
+        field->setText(words(settings_.get(section, keyOf(field))));
+    }
     for (QLineEdit* field : {rating_, add_, factor_})
         field->setEnabled(amps);
     for (QLineEdit* field : {volts_, pf_})
@@ -106,10 +116,10 @@ OptionEntries StudySide::entries() const {
     return entries;
 }
 
-std::optional<StudyOptions> StudySide::options() {
+Expected<StudyOptions> StudySide::options() {
     auto options = optionsOf(entries());
     problem_->setText(options ? QString() : words(options.error().text));
-    return options ? std::optional(std::move(*options)) : std::nullopt;
+    return options;
 }
 
 } // namespace tally::study

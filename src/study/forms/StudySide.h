@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "core/Refusal.h"
 #include "core/Settings.h"
 
 #include <QWidget>
@@ -34,8 +35,8 @@ public:
     // Offers the demand windows that fit the interval of the open files, and only the options that they
     // allow.
     void fitTo(const Recordings& recordings);
-    // The options as they stand; nothing, and a line that says why, when a field makes no sense.
-    std::optional<StudyOptions> options();
+    // The options as they stand. When a field makes no sense they are refused, and a line says why.
+    Expected<StudyOptions> options();
 
 Q_SIGNALS:
     void changed();
@@ -44,9 +45,12 @@ private:
     QLineEdit* addField(QFormLayout& form, const char* name, const char* caption, const char* tip);
     std::optional<std::string> entry(const QLineEdit* field) const;
     OptionEntries entries() const;
-    void keep(const QString& key, const QString& text);
+    void keep(const std::string& key, const QString& text);
+    // Where a field is kept: the limits of volts apart from those of amps.
+    std::string keyOf(const QLineEdit* field) const;
 
     Settings& settings_;
+    bool isOfVolts_ = false; // the open files
     QComboBox* window_;
     QLineEdit* high_;
     QLineEdit* low_;

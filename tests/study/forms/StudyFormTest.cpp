@@ -110,6 +110,49 @@ TEST_F(StudyForms, WhatMakesNoSenseIsSaidAndThePageStays) {
     EXPECT_EQ(control<QLabel>("optionProblem")->text(), QString());
 }
 
+TEST_F(StudyForms, WhatMakesNoSenseTakesThePageOfOtherReadingsAway) {
+    form->study(recordings, {});
+    type("high", "many");
+    EXPECT_TRUE(control<QPushButton>("savePdf")->isEnabled());
+    recordings.gReadings[0][60] = 900;
+    form->study(recordings, {});
+    EXPECT_FALSE(control<QPushButton>("savePdf")->isEnabled());
+    EXPECT_EQ(control<QLabel>("studyRefusal")->text(), control<QLabel>("optionProblem")->text());
+    EXPECT_FALSE(control<QLabel>("studyRefusal")->isHidden());
+    type("high", "");
+    EXPECT_TRUE(control<QLabel>("studyRefusal")->isHidden());
+    EXPECT_NE(copied().find("90.0"), std::string::npos);
+}
+
+TEST_F(StudyForms, WhatOverflowsIsSaidOnThePageAndCanBeTakenBack) {
+    for (const char* name : {"white.dat", "blue.dat"})
+        addFile(recordings, name, constant(192, 32767), {.start = toReadingTime({2024, 3, 4, 0, 0})});
+    settings.set("Study", "volts", "13800");
+    make();
+    form->study(recordings, {});
+    EXPECT_TRUE(faults.empty());
+    EXPECT_EQ(control<QLabel>("studyRefusal")->text(), QStringLiteral("Overflow"));
+    EXPECT_FALSE(control<QPushButton>("savePdf")->isEnabled());
+    type("volts", "");
+    EXPECT_TRUE(control<QPushButton>("savePdf")->isEnabled());
+    EXPECT_TRUE(control<QLabel>("studyRefusal")->isHidden());
+}
+
+TEST_F(StudyForms, LimitsOfAmpsAreNoneOfVolts) {
+    form->study(recordings, {});
+    type("high", "400");
+    recordings.closeAll();
+    addFile(recordings, "v.dat", constant(96, 1200), {.type = 'V'});
+    form->study(recordings, {});
+    EXPECT_EQ(control<QLineEdit>("high")->text(), QString());
+    type("high", "126");
+    recordings.closeAll();
+    addFile(recordings, "red.dat", constant(96, 1200));
+    form->study(recordings, {});
+    EXPECT_EQ(control<QLineEdit>("high")->text(), QStringLiteral("400"));
+    EXPECT_EQ(settings.get("Study", "highV"), "126");
+}
+
 TEST_F(StudyForms, OnlyWindowsThatFitAreOffered) {
     form->study(recordings, {});
     auto* window = control<QComboBox>("window");
