@@ -37,7 +37,9 @@ private:
         const TypicalDay& day = figures_.days[kind];
         const auto [from, to] = axisOver(figures_.duration.back(), figures_.duration.front());
         const PlotFrame frame = {boxIn(place, look), 0, minutesPerDay, from, to};
-        const QString days = QStringLiteral(" (%1 days)").arg(day.days);
+        const QString days = QStringLiteral(" (%1 %2)")
+                                 .arg(day.days)
+                                 .arg(day.days == 1 ? QStringLiteral("day") : QStringLiteral("days"));
         const QString title = kind == 0 ? words(channel_.name) + QStringLiteral(": weekday")
                                         : QString::fromUtf8(kindTitles[kind]);
         frame.paint(painter, look, title + days, words(unitName(channel_.unit)));
@@ -126,7 +128,7 @@ public:
                 QRectF(box.left() - 100, frame.y(hour * 60) - metrics.height(), 94, 2 * metrics.height()),
                 Qt::AlignRight | Qt::AlignVCenter,
                 QStringLiteral("%1:00").arg(hour, 2, 10, QLatin1Char('0')));
-        const int step = (days_ + 5) / 6; // six dates have room
+        const int step = int(labelStep(look, frame, std::size_t(days_), QStringLiteral("0000-00-00")));
         for (int day = step / 2; day < days_; day += step)
             frame.label(painter, look, day + 0.5,
                         words(formatTime({(firstDay_ + day) * minutesPerDay}, "%Y-%m-%d")));

@@ -70,6 +70,14 @@ void PlotFrame::label(QPainter& painter, const ChartLook& look, double value, co
                      Qt::AlignHCenter | Qt::AlignTop, text);
 }
 
+std::size_t labelStep(const ChartLook& look, const PlotFrame& frame, std::size_t points,
+                      const QString& sample) {
+    constexpr double usual = 6; // more would be a line of figures
+    constexpr double gap = 12;  // pixels
+    const double room = frame.box.width() / (QFontMetricsF(look.font).horizontalAdvance(sample) + gap);
+    return std::size_t(std::ceil(double(points) / std::clamp(std::floor(room), 1.0, usual)));
+}
+
 void paintLegend(QPainter& painter, const ChartLook& look, const QRectF& place,
                  const std::vector<std::pair<QString, QColor>>& names) {
     const QFontMetricsF metrics(look.font);

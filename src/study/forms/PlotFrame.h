@@ -39,6 +39,10 @@ QRectF boxIn(const QRectF& place, const ChartLook& look);
 // The ends of a y axis that shows these values with some room; from 0 on where they come near it.
 std::pair<double, double> axisOver(double minimum, double maximum);
 
+// How many points of an axis of so many lie from one label to the next, for labels as wide as a sample.
+std::size_t labelStep(const ChartLook& look, const PlotFrame& frame, std::size_t points,
+                      const QString& sample);
+
 // A legend in the right upper corner: names with the colours of their lines.
 void paintLegend(QPainter& painter, const ChartLook& look, const QRectF& place,
                  const std::vector<std::pair<QString, QColor>>& names);

@@ -17,8 +17,7 @@ PlotFrame TimePlot::frameIn(const QRectF& place, const ChartLook& look, double m
 }
 
 void TimePlot::paintTimes(QPainter& painter, const ChartLook& look, const PlotFrame& frame) const {
-    constexpr int labels = 6;
-    const std::size_t step = std::max<std::size_t>(axis_.points / labels, 1);
+    const std::size_t step = labelStep(look, frame, axis_.points, QStringLiteral("0000-00-00 00:00"));
     for (std::size_t point = step / 2; point < axis_.points; point += step)
         frame.label(painter, look, double(point), words(timeText(axis_.at(point))));
 }
