@@ -88,9 +88,12 @@ ReportSection daysSection(const Study& study) {
             section.table.rows.push_back(std::move(row));
         }
     const TypicalDays& days = study.figures.front().days;
-    section.lines.push_back("Days: " + std::to_string(days[0].days) + " weekdays, " +
-                            std::to_string(days[1].days) + " Saturdays, " + std::to_string(days[2].days) +
-                            " Sundays and holidays.");
+    const auto counted = [&](std::size_t kind, const char* one, const char* many) {
+        return count(static_cast<std::size_t>(days[kind].days), one, many);
+    };
+    section.lines.push_back("Days: " + counted(0, "weekday", "weekdays") + ", " +
+                            counted(1, "Saturday", "Saturdays") + ", " +
+                            counted(2, "Sunday or holiday", "Sundays and holidays") + ".");
     return section;
 }
 

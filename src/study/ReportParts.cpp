@@ -9,25 +9,31 @@ namespace tally::study {
 
 namespace {
 
-std::string count(std::size_t number, const char* one, const char* many) {
-    return std::to_string(number) + " " + (number == 1 ? one : many);
+// "4 readings were forced, 2024-03-04 00:15 to 2024-03-05 03:00": the times of the first and the last.
+std::string forcedText(const FileBasis& file) {
+    if (file.forcedReadings == 0)
+        return "readings were forced";
+    std::string text = count(static_cast<std::size_t>(file.forcedReadings), "reading was", "readings were") +
+                       " forced, " + timeText(file.firstForced);
+    return file.forcedReadings == 1 ? text : text + " to " + timeText(file.lastForced);
 }
 
 // "red.dat: 3 items could not be read, readings were forced."
-std::string doubtOf(const FileBasis& file) {
+std::string doubtOf(const FileBasis& file, bool single) {
     std::vector<std::string> doubts;
     if (file.unreadable > 0)
         doubts.push_back(count(static_cast<std::size_t>(file.unreadable), "item", "items") +
                          " could not be read as numbers; each counts with its leading number, or 0");
     if (file.forced)
-        doubts.emplace_back("readings were forced");
+        doubts.push_back(forcedText(file));
     if (!file.complete)
         doubts.emplace_back("the file ends without its end mark, it may have been cut");
     if (file.oddTriple)
         doubts.emplace_back("the incomplete oldest reading is left out");
     if (file.before + file.after > 0)
         doubts.push_back(count(static_cast<std::size_t>(file.before), "reading", "readings") +
-                         " before and " + std::to_string(file.after) + " after the common span are left out");
+                         " before and " + std::to_string(file.after) + " after the " +
+                         (single ? "chosen" : "common") + " span are left out");
     std::string text;
     for (const std::string& doubt : doubts)
         text += (text.empty() ? file.name + ": " : "; ") + doubt;
@@ -68,6 +74,10 @@ std::string runsLine(const Channel& channel, const std::vector<Run>& runs, std::
 
 } // namespace
 
+std::string count(std::size_t number, const char* one, const char* many) {
+    return std::to_string(number) + " " + (number == 1 ? one : many);
+}
+
 ReportSection basisSection(const Study& study) {
     ReportSection section = {Part::basis, "Load study", {spanLine(study)}, {}};
     section.table.headings = {"File", "Serial", "Unit", "Path"};
@@ -83,10 +93,13 @@ ReportSection basisSection(const Study& study) {
     if (study.options.power)
         section.lines.push_back(powerLine(*study.options.power));
     for (const FileBasis& file : study.basis)
-        if (const std::string doubt = doubtOf(file); !doubt.empty())
+        if (const std::string doubt = doubtOf(file, study.files == 1); !doubt.empty())
             section.lines.push_back(doubt);
-    section.lines.push_back("The figures speak of these " + std::to_string(study.days()) +
-                            " days; a season with a higher load may lie outside them.");
+    section.lines.push_back(study.days() == 1
+                                ? "The figures speak of this day; a season with a higher load "
+                                  "may lie outside it."
+                                : "The figures speak of these " + std::to_string(study.days()) +
+                                      " days; a season with a higher load may lie outside them.");
     return section;
 }
 

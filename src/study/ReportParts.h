@@ -5,6 +5,9 @@
 
 namespace tally::study {
 
+// "1 day", "2 days".
+std::string count(std::size_t number, const char* one, const char* many);
+
 // What the figures rest on: files, times, voltage and power factor, and what is to be doubted.
 ReportSection basisSection(const Study& study);
 // The first runs beyond the limits, of every channel.

@@ -3,6 +3,7 @@
 
 #include "core/ModeTable.h"
 #include "study/Channels.h"
+#include "view/PlotSeries.h"
 #include "view/Power.h"
 
 namespace tally::study {
@@ -18,13 +19,31 @@ PowerScale scaleOf(const PowerBase& power) {
     return {static_cast<float>(power.volts / 1000), factor == 0.0F ? 1.0F : factor};
 }
 
+// Names the forced readings of a file that take part.
+void addForced(FileBasis& basis, const Recordings& recordings, const TimeAxis& axis, int file) {
+    const Range range = {axis.reading(file, 0), axis.reading(file, axis.points - 1, axis.stride - 1)};
+    std::vector<std::pair<int, int>> runs;
+    for (int offset = 0; offset < axis.stride; ++offset)
+        for (const auto& run : forcedRuns(recordings, file, range, axis.stride, offset))
+            runs.push_back(run);
+    runs = mergedRuns(std::move(runs));
+    basis.forced = recordings.info(file).forced;
+    if (runs.empty()) {
+        basis.forced = basis.forced && recordings.forcedEdits.at(static_cast<std::size_t>(file)).empty();
+        return;
+    }
+    for (const auto& [first, last] : runs)
+        basis.forcedReadings += last - first + 1;
+    basis.firstForced = axis.timeOf(runs.front().first);
+    basis.lastForced = axis.timeOf(runs.back().second);
+}
+
 FileBasis basisOf(const FileFacts& info, const TimeAxis& axis, int file, const std::string& name) {
     FileBasis basis;
     basis.name = name;
     basis.path = info.path;
     basis.serial = info.serial;
     basis.unreadable = info.unreadable;
-    basis.forced = info.forced;
     basis.complete = info.complete;
     basis.minMaxAvg = isMinMaxAvg(info.modeLetter);
     basis.entries = info.count / axis.stride;
@@ -67,9 +86,11 @@ Expected<Study> studyOf(const Recordings& recordings, std::optional<Range> range
     study.axis = axisOf(*common);
     study.channels = fileChannels(recordings, *common);
     study.files = study.channels.size();
-    for (std::size_t file = 0; file < study.files; ++file)
-        study.basis.push_back(basisOf(recordings.info(static_cast<int>(file)), *common,
-                                      static_cast<int>(file), study.channels[file].name));
+    for (std::size_t file = 0; file < study.files; ++file) {
+        const int slot = static_cast<int>(file);
+        study.basis.push_back(basisOf(recordings.info(slot), *common, slot, study.channels[file].name));
+        addForced(study.basis.back(), recordings, *common, slot);
+    }
     if (options.power)
         study.channels.push_back(powerChannel(study.channels, scaleOf(*options.power)));
     for (const Channel& channel : study.channels)

@@ -41,8 +41,12 @@ struct FileBasis {
     std::string name; // of the channel
     std::string path;
     std::string serial;
-    int unreadable = 0;   // items that were no numbers
-    bool forced = false;  // readings were forced
+    int unreadable = 0;  // items that were no numbers
+    bool forced = false; // readings were forced; which ones may be unknown
+    // Of the forced readings (triples) those in the studied span: how many, the first and the last.
+    int forcedReadings = 0;
+    ReadingTime firstForced = {};
+    ReadingTime lastForced = {};
     bool complete = true; // the end mark is there
     bool minMaxAvg = false;
     int entries = 0;        // readings (triples) of the file

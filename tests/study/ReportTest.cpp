@@ -2,6 +2,7 @@
 #include "study/Report.h"
 
 #include "Some.h"
+#include "core/ForceReadings.h"
 #include "support/SampleFile.h"
 
 #include <gmock/gmock.h>
@@ -38,6 +39,33 @@ TEST_F(StudyReport, TheFirstPageSaysWhatTheFiguresRestOn) {
                 HasSubstr("white.dat: readings were forced; 0 readings before and 4 after the common span"));
     EXPECT_THAT(page, HasSubstr("Power at 13800 V and a power factor of 0.9; every kW rests on both."));
     EXPECT_THAT(page, HasSubstr("a season with a higher load may lie outside"));
+}
+
+TEST_F(StudyReport, TheFirstPageNamesTheForcedReadingsOfTheSpan) {
+    addFile(recordings, "red.dat", constant(96, 100), {.start = on(2024, 3, 4)});
+    float last = 0;
+    ASSERT_TRUE(forceReadings(recordings, 0, {2, 3}, "5", ForceWhich::all, last));
+    ASSERT_TRUE(forceReadings(recordings, 0, {3, 4}, "5", ForceWhich::all, last));
+    ASSERT_TRUE(forceReadings(recordings, 0, {90, 90}, "5", ForceWhich::all, last));
+    EXPECT_THAT(text(), HasSubstr("red.dat: 4 readings were forced, 2024-03-04 00:30 to 2024-03-04 22:30."));
+    const auto part = [&](Range range) { return textOf(reportOf(*studyOf(recordings, range, options))); };
+    EXPECT_THAT(part({80, 95}), HasSubstr("red.dat: 1 reading was forced, 2024-03-04 22:30; "));
+    EXPECT_THAT(part({10, 80}), Not(HasSubstr("forced")));
+}
+
+TEST_F(StudyReport, ATripleWithAForcedValueIsOneReading) {
+    addFile(recordings, "mma.dat", constant(96, 100), {.letter = 'g', .start = on(2024, 3, 4)});
+    float last = 0;
+    ASSERT_TRUE(forceReadings(recordings, 0, {4, 6}, "5", ForceWhich::all, last)); // of triples 1 and 2
+    EXPECT_THAT(text(), HasSubstr("mma.dat: 2 readings were forced, "));
+}
+
+TEST_F(StudyReport, OneOfAThingIsNoPlural) {
+    addFile(recordings, "red.dat", constant(96, 100), {.start = on(2024, 3, 9)}); // a Saturday
+    EXPECT_THAT(text(), HasSubstr("The figures speak of this day; a season with a higher load may lie"));
+    EXPECT_THAT(text(), HasSubstr("Days: 0 weekdays, 1 Saturday, 0 Sundays and holidays."));
+    EXPECT_THAT(textOf(reportOf(*studyOf(recordings, Range{8, 95}, options))),
+                HasSubstr("8 readings before and 0 after the chosen span are left out."));
 }
 
 TEST_F(StudyReport, TheFirstPageNamesAFileThatMayHaveBeenCut) {
