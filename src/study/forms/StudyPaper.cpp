@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "study/forms/StudyPaper.h"
 
+#include "core/Fault.h"
 #include "study/forms/StudySheet.h"
 
 #include <QBuffer>
@@ -59,7 +60,9 @@ std::string studyPdf(const Study& study) {
     writer.setResolution(1200); // fine enough that letters stand where they were measured
     writer.setTitle(QStringLiteral("Load study"));
     writer.setCreator(QStringLiteral("Tallyline"));
-    return paintStudy(study, writer) ? out.data().toStdString() : std::string();
+    if (!paintStudy(study, writer))
+        throw fault::deviceIo();
+    return out.data().toStdString();
 }
 
 std::string studyPicture(const Study& study) {
@@ -68,7 +71,7 @@ std::string studyPicture(const Study& study) {
     sheet.layOut(pageWidth);
     QImage image(pageWidth + 2 * margin, int(std::ceil(sheet.height())) + 2 * margin, QImage::Format_RGB32);
     if (image.isNull())
-        return {};
+        throw Fault(7, "Out of memory");
     image.fill(look.paper);
     QPainter painter(&image);
     painter.translate(margin, margin);
@@ -76,7 +79,8 @@ std::string studyPicture(const Study& study) {
     painter.end();
     QBuffer out;
     out.open(QIODevice::WriteOnly);
-    image.save(&out, "PNG");
+    if (!image.save(&out, "PNG"))
+        throw fault::deviceIo();
     return out.data().toStdString();
 }
 

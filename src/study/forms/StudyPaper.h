@@ -13,10 +13,10 @@ namespace tally::study {
 // `from` and `to` choose pages, counted from 1; 0 stands for the last one.
 bool paintStudy(const Study& study, QPagedPaintDevice& device, int from = 1, int to = 0);
 
-// The bytes of a PDF of A4 pages. Needs a QApplication, no display; any thread.
+// The bytes of a PDF of A4 pages. Needs a QApplication, no display; any thread. Throws a Fault when it fails.
 std::string studyPdf(const Study& study);
 
-// The bytes of one PNG picture of the whole page, on white.
+// The bytes of one PNG picture of the whole page, on white. Throws a Fault when it fails.
 std::string studyPicture(const Study& study);
 
 } // namespace tally::study
