@@ -60,11 +60,16 @@ Done TLY_Study::goTo(qint64 minutes) {
     const int first = axis->reading(0, clamped(entry - around));
     const int last = axis->reading(0, clamped(entry + around), axis->stride - 1);
     services_.display.startPlot(services_.recordings);
+    // The study laid the files side by side by time: so does the plot, or the others show another day.
+    if (startsDiffer(services_.recordings))
+        if (Done together = services_.display.showByTime(services_.recordings, true); !together)
+            return together;
     services_.display.applyRange(services_.recordings, first, last);
-    Done drawn = views_.redraw();
-    if (drawn)
-        menus_.apply(MenuEvent::zoomed);
-    return drawn;
+    if (Done drawn = views_.redraw(); !drawn)
+        return drawn;
+    views_.showTogether();
+    menus_.apply(MenuEvent::zoomed);
+    return {};
 }
 
 } // namespace tally

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
+#include "core/ForceReadings.h"
 #include "study/forms/StudyForm.h"
 
 #include <QClipboard>
@@ -53,6 +54,37 @@ TEST_F(StudyCommands, ATimeOfThePageIsShownInTheDataPlot) {
     EXPECT_EQ(display.displayed(recordings), (Range{52, 148})); // twelve hours to either side
     click("mnuItemViewStudy");
     EXPECT_TRUE(form()->isVisible());
+}
+
+TEST_F(StudyCommands, ATimeIsShownInAllFilesByTimeWhenTheyStartApart) {
+    open("/d/white.dat", dataFile('a', day, 'X', false, "03-15-24 11:00"));
+    click("mnuItemViewStudy");
+    Q_EMIT form()->timeChosen(timeOf(recordings.info(0), 100).minutes);
+    EXPECT_TRUE(display.byTime());
+    EXPECT_EQ(display.displayed(recordings), (Range{52, 148}));
+    EXPECT_THAT(window.findChild<NoticeBar*>()->text(QStringLiteral("together")).toStdString(),
+                ::testing::StartsWith("Readings are combined by time"));
+}
+
+TEST_F(StudyCommands, FilesThatStartTogetherStayByNumber) {
+    open("/d/white.dat", dataFile('a', day));
+    click("mnuItemViewStudy");
+    Q_EMIT form()->timeChosen(timeOf(recordings.info(0), 100).minutes);
+    EXPECT_FALSE(display.byTime());
+}
+
+TEST_F(StudyCommands, ForcingWithAnOptionThatMakesNoSenseLeavesNoOldStudy) {
+    click("mnuItemViewStudy");
+    form()->findChild<QLineEdit*>(QStringLiteral("high"))->setText(QStringLiteral("many"));
+    auto* save = form()->findChild<QPushButton*>(QStringLiteral("savePdf"));
+    EXPECT_TRUE(save->isEnabled());
+    float last = 0;
+    ASSERT_EQ(forceReadings(recordings, 0, {100, 100}, "5", ForceWhich::all, last), 1);
+    window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
+    EXPECT_FALSE(save->isEnabled());
+    EXPECT_EQ(recordings.reading(0, 100), 400);
+    form()->findChild<QLineEdit*>(QStringLiteral("high"))->clear();
+    EXPECT_TRUE(save->isEnabled());
 }
 
 TEST_F(StudyCommands, CloseTakesTheStudyAway) {
