@@ -79,7 +79,8 @@ SpanFigures frameOf(const Recordings& recordings, const Range& range) {
         const FileFacts& file = recordings.info(slot);
         if (file.unreadable > 0)
             figures.remarks.push_back(fileNameOf(file.path) + ": " + std::to_string(file.unreadable) +
-                                      " items of the file could not be read");
+                                      (file.unreadable == 1 ? " item" : " items") +
+                                      " of the file could not be read");
     }
     return figures;
 }

@@ -66,6 +66,8 @@ TEST_F(SpanFiguresOf, ItemsThatCouldNotBeReadAreNamed) {
     recordings.gInfo[0].unreadable = 2;
     EXPECT_EQ(figures(0, 1).remarks,
               std::vector<std::string>{"a.dat: 2 items of the file could not be read"});
+    recordings.gInfo[0].unreadable = 1;
+    EXPECT_EQ(figures(0, 1).remarks, std::vector<std::string>{"a.dat: 1 item of the file could not be read"});
 }
 
 TEST_F(SpanFiguresOf, OneFileOfTriplesHasItsThreeLines) {

@@ -208,6 +208,7 @@ constexpr std::array all = {
     "Readings are combined by time, %1 to %2",
     "Readings are combined by time, %1 to %2.",
     "%1: %2 items of the file could not be read",
+    "%1: %2 item of the file could not be read",
     "%1 has %2 of %3 readings",
     "%1 has no reading for the last %2; its current counts as 0 there",
     "%1 to %2 (%3, %4 readings)",

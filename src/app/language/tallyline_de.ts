@@ -2792,6 +2792,10 @@ Ohne Eingabe fallen sie weg</translation>
         <translation>%1: %2 Einträge der Datei waren nicht lesbar</translation>
     </message>
     <message>
+        <source>%1: %2 item of the file could not be read</source>
+        <translation>%1: %2 Eintrag der Datei war nicht lesbar</translation>
+    </message>
+    <message>
         <source>%1 has %2 of %3 readings</source>
         <translation>%1 hat %2 von %3 Messwerten</translation>
     </message>

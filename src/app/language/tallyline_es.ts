@@ -2792,6 +2792,10 @@ Nada las quita</translation>
         <translation>%1: %2 elementos del archivo no se pudieron leer</translation>
     </message>
     <message>
+        <source>%1: %2 item of the file could not be read</source>
+        <translation>%1: %2 elemento del archivo no se pudo leer</translation>
+    </message>
+    <message>
         <source>%1 has %2 of %3 readings</source>
         <translation>%1 tiene %2 de %3 lecturas</translation>
     </message>

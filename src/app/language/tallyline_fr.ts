@@ -2792,6 +2792,10 @@ Rien les retire</translation>
         <translation>%1 : %2 éléments du fichier n'ont pas pu être lus</translation>
     </message>
     <message>
+        <source>%1: %2 item of the file could not be read</source>
+        <translation>%1 : %2 élément du fichier n'a pas pu être lu</translation>
+    </message>
+    <message>
         <source>%1 has %2 of %3 readings</source>
         <translation>%1 a %2 mesures sur %3</translation>
     </message>
