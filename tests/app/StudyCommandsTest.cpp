@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "WindowTest.h"
 
-#include "core/ForceReadings.h"
 #include "study/forms/StudyForm.h"
 
 #include <QClipboard>
@@ -71,20 +70,6 @@ TEST_F(StudyCommands, FilesThatStartTogetherStayByNumber) {
     click("mnuItemViewStudy");
     Q_EMIT form()->timeChosen(timeOf(recordings.info(0), 100).minutes);
     EXPECT_FALSE(display.byTime());
-}
-
-TEST_F(StudyCommands, ForcingWithAnOptionThatMakesNoSenseLeavesNoOldStudy) {
-    click("mnuItemViewStudy");
-    form()->findChild<QLineEdit*>(QStringLiteral("high"))->setText(QStringLiteral("many"));
-    auto* save = form()->findChild<QPushButton*>(QStringLiteral("savePdf"));
-    EXPECT_TRUE(save->isEnabled());
-    float last = 0;
-    ASSERT_EQ(forceReadings(recordings, 0, {100, 100}, "5", ForceWhich::all, last), 1);
-    window.findChild<QAction*>(QStringLiteral("undoForced"))->trigger();
-    EXPECT_FALSE(save->isEnabled());
-    EXPECT_EQ(recordings.reading(0, 100), 400);
-    form()->findChild<QLineEdit*>(QStringLiteral("high"))->clear();
-    EXPECT_TRUE(save->isEnabled());
 }
 
 TEST_F(StudyCommands, CloseTakesTheStudyAway) {
