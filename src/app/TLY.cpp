@@ -141,7 +141,7 @@ void TLY::connectTexts() {
                                                       {QStringLiteral("Study"), "mnuItemViewStudy"}};
         menus_->item(items.at(view)).trigger();
     });
-    connect(screen_, &Screen::showAllWanted, this, command([&c] { return c.view.showAll(); }));
+    connect(screen_, &Screen::showAllWanted, this, [this] { menus_->item("mnuItemShowAll").trigger(); });
 }
 
 } // namespace tally

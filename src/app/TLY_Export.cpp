@@ -23,10 +23,16 @@ bool isTable(View view) {
     return view == View::table || view == View::powerTable;
 }
 
-std::string rangeText(const char* what, const Recordings& recordings, const Range& range) {
-    const FileFacts& info = recordings.info(0);
-    return what + std::to_string(range.entries()) + (range.entries() == 1 ? " reading, " : " readings, ") +
-           screenTime(timeOf(info, range.first)) + " to " + screenTime(timeOf(info, range.last));
+std::string rangeText(const char* what, const TimeAxis& axis) {
+    return what + std::to_string(axis.points) + (axis.points == 1 ? " reading, " : " readings, ") +
+           screenTime(axis.start) + " to " + screenTime(axis.timeOf(axis.points - 1));
+}
+
+// What is shown of all that can be written; empty for everything and for nothing.
+std::string shownText(const Recordings& recordings, const Display& display, const TimeAxis& all) {
+    const auto shown = timeAxis(recordings, display.displayed(recordings));
+    const bool part = shown && (shown->start != all.start || shown->points != all.points);
+    return part ? rangeText("What is shown: ", *shown) : std::string();
 }
 
 std::string nameFor(const Recordings& recordings, bool workbook) {
@@ -81,14 +87,11 @@ Done TLY_Export::mnuItemExportReadings_Click() {
     const auto table = readingTable(recordings);
     if (!table)
         return tl::make_unexpected(table.error());
-    const Range whole = wholeFile(recordings, 0);
-    const Range shown = services_.display.displayed(recordings);
     std::vector<std::string> columns;
     for (const TableColumn& column : table->columns)
         columns.push_back(column.name);
-    ExportForm form(rangeText("Everything: ", recordings, whole),
-                    shown == whole ? std::string() : rangeText("What is shown: ", recordings, shown), columns,
-                    window_);
+    ExportForm form(rangeText("Everything: ", table->axis),
+                    shownText(recordings, services_.display, table->axis), columns, window_);
     return form.exec() == QDialog::Accepted ? writeReadings(form.choice()) : Done();
 }
 

@@ -43,7 +43,7 @@ TLY_Navigate::TLY_Navigate(const Services& services, Dispatcher& dispatcher, Vie
 
 void TLY_Navigate::connectMenus(const Run& run) {
     connectRanges(run);
-    connectPictures(run);
+    connectPictures();
     QObject::connect(&screen_, &Screen::chartMade, &screen_, [this, run] { chartMade(run); });
     QObject::connect(&screen_, &Screen::currentChanged, &screen_, [this] { refresh(); });
     dispatcher_.after = [this] {
@@ -85,7 +85,7 @@ void TLY_Navigate::connectRanges(const Run& run) {
 }
 
 // What changes the picture only needs no command of the window.
-void TLY_Navigate::connectPictures(const Run&) {
+void TLY_Navigate::connectPictures() {
     const auto on = [this](std::string_view name, auto handler) {
         menus_.handle(name, [this, handler] { handler(screen_.chart()); });
     };

@@ -36,7 +36,7 @@ public:
 
 private:
     void connectRanges(const Run& run);
-    void connectPictures(const Run& run);
+    void connectPictures();
     void chartMade(const Run& run);
     Done goBack();
     Done goForward();

@@ -4,6 +4,7 @@
 #include "app/Printing.h"
 #include "app/Views.h"
 #include "app/VoltageQuestion.h"
+#include "view/FilesTogether.h"
 #include "view/Print.h"
 #include "view/Printinfo.h"
 #include "view/Printpwr.h"
@@ -53,7 +54,9 @@ Done TLY_Paper::mnuItemPrintpwrSum_Click() {
     if (!power)
         return tl::make_unexpected(power.error());
     printing_.print("Power summary", {},
-                    Printpwrinfo(files->recordings(), *power, services_.display.zoomed()), files->remark());
+                    Printpwrinfo(files->recordings(), *power, services_.display.zoomed(),
+                                 timeOfFiles(services_.recordings)),
+                    files->remark());
     return {};
 }
 

@@ -13,8 +13,13 @@ namespace tally {
 Done TLY_Power::mnuItemViewPower_Click() {
     if (Done file = needFile(services_.recordings); !file)
         return file;
+    const View view = services_.display.view();
+    const bool energyShown = view == View::summary && services_.display.powerKnown();
     if (!voltage_.ask())
         return {};
+    // A plot that is drawn takes this remark away; without one the old voltage is still shown.
+    if (isPowerView(view) || energyShown)
+        status_.remark(QStringLiteral("What is shown is no longer current."));
     services_.display.startPower(services_.recordings);
     return views_.redraw();
 }

@@ -86,11 +86,4 @@ Done TLY_View::mnuItemViewsummary_Click() {
     return slot == Recordings::cancelled ? Done() : views_.showSummary(slot);
 }
 
-Done TLY_View::showAll() {
-    if (Done file = needFile(services_.recordings); !file)
-        return file;
-    services_.display.showAll(services_.recordings);
-    return views_.again();
-}
-
 } // namespace tally

@@ -24,8 +24,6 @@ public:
     Done mnuZoom_Click();
     Done mnuItemScale_Click();
     Done mnuItemOnepgPlot_Click();
-    // Leaves the zoom; what is shown stays the view.
-    Done showAll();
 
 private:
     const Services& services_;

@@ -5,6 +5,7 @@
 #include "app/Screen.h"
 #include "app/forms/NoticeBar.h"
 #include "app/forms/StatusPanels.h"
+#include "core/Fault.h"
 #include "core/ModeTable.h"
 #include "core/forms/Words.h"
 #include "view/FilesTogether.h"
@@ -38,7 +39,16 @@ Expected<Power> Views::power(const FilesShown& files) {
     return power;
 }
 
+// They are made anew after each command, where nobody else would tell a fault.
 Expected<SpanFigures> Views::figures(const Range& range) const {
+    try {
+        return figuresOf(range);
+    } catch (const Fault& fault) {
+        return refuse(fault.what());
+    }
+}
+
+Expected<SpanFigures> Views::figuresOf(const Range& range) const {
     const Display& display = services_.display;
     const auto files = FilesShown::of(services_.recordings, display.byTime(), range);
     if (!files)
@@ -162,7 +172,9 @@ Done Views::showPowerSummary() {
     if (!made)
         return tl::make_unexpected(made.error());
     services_.display.textShown(View::powerSummary, 0);
-    screen_.showText({}, Printpwrinfo(shown->recordings(), *made, services_.display.zoomed()),
+    screen_.showText({},
+                     Printpwrinfo(shown->recordings(), *made, services_.display.zoomed(),
+                                  timeOfFiles(services_.recordings)),
                      "power summary");
     showPart(0);
     status_.remark(words(powerSource(shown->recordings(), *made)));
@@ -228,9 +240,11 @@ void Views::renewPower() {
 void Views::showTogether() {
     QStringList texts;
     const bool byTime = services_.display.byTime();
-    const auto shown = files();
-    if (byTime && shown)
-        texts.append(words(shown->remark()) + QLatin1Char('.'));
+    // The notice stays while zooms come and go, so it names all that the files share.
+    const auto common =
+        FilesShown::of(services_.recordings, byTime, services_.display.reach(services_.recordings));
+    if (byTime && common)
+        texts.append(words(common->remark()) + QLatin1Char('.'));
     else
         for (const std::string& warning : togetherWarnings(services_.recordings))
             texts.append(words(warning) + QLatin1Char('.'));

@@ -71,11 +71,13 @@ public:
     // Their power; what can be shown or written of it is enabled then.
     Expected<Power> power(const FilesShown& files);
     // The figures of a range of the first file, of the lines that the plot on the screen shows.
+    // Refused, too, when they overflow.
     Expected<SpanFigures> figures(const Range& range) const;
     // The summary of a file as it now is.
     std::string summary(int slot) const;
 
 private:
+    Expected<SpanFigures> figuresOf(const Range& range) const;
     Done redrawPower(const PlotRequest& request, const FilesShown& files);
     std::optional<SelectedSpan> selected(int slot) const;
     std::string energy() const;

@@ -39,7 +39,7 @@ study::Transformer transformerOf(const Options& options) {
     if (options.gradient.given())
         transformer.gradient = options.gradient.above0();
     if (options.hotSpotFactor.given())
-        transformer.hotSpotFactor = options.hotSpotFactor.atLeast1();
+        transformer.hotSpotFactor = options.hotSpotFactor.notBelow1();
     if (options.lossRatio.given())
         transformer.lossRatio = options.lossRatio.above0();
     return transformer;

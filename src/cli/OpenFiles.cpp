@@ -92,6 +92,7 @@ OpenFiles openFiles(Context& context, const std::vector<std::string>& paths) {
         warnOfFile(context, open.recordings.info(open.recordings.ginx));
     }
     open.recordings.ginx = 0;
+    open.time = timeOfFiles(open.recordings);
     open.display.opened(open.recordings, 0);
     return open;
 }

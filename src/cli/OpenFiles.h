@@ -5,6 +5,7 @@
 #include "core/Recordings.h"
 #include "core/TimeAxis.h"
 #include "view/Display.h"
+#include "view/FilesTogether.h"
 
 #include <memory>
 #include <optional>
@@ -24,6 +25,7 @@ struct RangeOptions {
 struct OpenFiles {
     Recordings recordings;
     Display display;
+    TimeOfFiles time; // of the files as they were opened
 
     // What a command covers of the first file: the applied range, else every whole interval.
     Range part() const { return display.displayed(recordings); }

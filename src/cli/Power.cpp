@@ -39,7 +39,7 @@ int run(Context& context, const Options& options) {
         const Table table = Printpwr(open.recordings, power);
         context.out(table.heading + "\r\n" + table.text);
     } else {
-        context.out(Printpwrinfo(open.recordings, power, open.display.zoomed()));
+        context.out(Printpwrinfo(open.recordings, power, open.display.zoomed(), open.time));
     }
     return 0;
 }

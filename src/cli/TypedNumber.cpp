@@ -27,7 +27,7 @@ double TypedNumber::above0() const {
     return number;
 }
 
-double TypedNumber::atLeast1() const {
+double TypedNumber::notBelow1() const {
     const double number = value();
     if (number < 1)
         throw wrong(*this, "is below 1");

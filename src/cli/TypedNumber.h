@@ -18,7 +18,7 @@ struct TypedNumber {
     std::optional<std::string> entry() const { return given() ? std::optional(text) : std::nullopt; }
     double value() const;
     double above0() const;
-    double atLeast1() const;
+    double notBelow1() const;
 };
 
 // Adds an option that takes a number.

@@ -115,7 +115,7 @@ Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<R
     if (range)
         common = narrowed(common, *range, stride, interval);
     if (common.entries == 0)
-        return refuse(axisNoTriple, info.path);
+        return refuse(range && range->entries() == 0 ? axisNothingCommon : axisNoTriple, info.path);
     const Stretch ofFirst = common;
     for (std::size_t i = 1; i < files.size(); ++i) {
         auto refusal = misfit(info, files[i]);

@@ -31,7 +31,7 @@ struct TimeAxis {
 // The axis of one to three files, from their latest first entry to their earliest last one. `range` counts in
 // readings of the first file and narrows it; a triple that it touches takes part whole. Refuses files of
 // another unit or interval than the first, a start that lies no whole interval from the first file's, and
-// files (or a range) without a common entry.
+// files without a common entry, also in a range; an empty range is one outside the common time.
 Expected<TimeAxis> timeAxis(const std::vector<FileFacts>& files, std::optional<Range> range = {});
 // The same of the files that are open.
 Expected<TimeAxis> timeAxis(const Recordings& recordings, std::optional<Range> range = {});

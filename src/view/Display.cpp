@@ -137,11 +137,15 @@ void Display::show(const Recordings& recordings, const ZoomTrail::Place& place) 
 
 // What is shown now is where the trail already stands.
 void Display::goBack(const Recordings& recordings) {
-    show(recordings, trail_.back());
+    do
+        show(recordings, trail_.back());
+    while (displayed(recordings).entries() == 0 && canGoBack());
 }
 
 void Display::goForward(const Recordings& recordings) {
-    show(recordings, trail_.forward());
+    do
+        show(recordings, trail_.forward());
+    while (displayed(recordings).entries() == 0 && canGoForward());
 }
 
 Expected<void> Display::showByTime(const Recordings& recordings, bool byTime) {

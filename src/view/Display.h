@@ -88,7 +88,8 @@ public:
     void startOnePage(const Recordings& recordings);
     void showAll(const Recordings& recordings);
 
-    // Through the ranges that were shown before; only when there is one.
+    // Through the ranges that were shown before; only when there is one. One that by time has nothing to show
+    // is passed over.
     bool canGoBack() const { return trail_.canGoBack(); }
     bool canGoForward() const { return trail_.canGoForward(); }
     void goBack(const Recordings& recordings);

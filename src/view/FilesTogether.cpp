@@ -24,6 +24,16 @@ std::string openNames(const Recordings& recordings) {
     return names;
 }
 
+TimeOfFiles timeOfFiles(const Recordings& recordings) {
+    TimeOfFiles time{recordings.info(0).start, recordings.info(0).start};
+    for (int slot = 0; slot < recordings.openCount(); ++slot) {
+        const FileFacts& info = recordings.info(slot);
+        time.start = std::min(time.start, info.start);
+        time.end = std::max(time.end, timeOf(info, info.count - 1));
+    }
+    return time;
+}
+
 std::string shorterFiles(const Recordings& recordings) {
     int longest = 0;
     for (int slot = 0; slot < Recordings::slotCount; ++slot)

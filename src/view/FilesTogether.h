@@ -11,6 +11,13 @@ namespace tally {
 // The names of the open files, joined by ", ".
 std::string openNames(const Recordings& recordings);
 
+// From the oldest to the newest reading of all open files.
+struct TimeOfFiles {
+    ReadingTime start;
+    ReadingTime end;
+};
+TimeOfFiles timeOfFiles(const Recordings& recordings);
+
 // Which of the open files are shorter than the longest; empty when all have the same length.
 std::string shorterFiles(const Recordings& recordings);
 

@@ -58,7 +58,7 @@ PowerScale PowerBasis::scale() const {
 }
 
 bool hasVline(const Settings& settings) {
-    return Val(settings.get(section, key)) != 0;
+    return Val(ungrouped(settings.get(section, key))) != 0;
 }
 
 std::string vlineOf(const Settings& settings) {

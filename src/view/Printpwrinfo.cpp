@@ -5,8 +5,6 @@
 #include "core/Numbers.h"
 #include "view/Summary.h"
 
-#include <algorithm>
-
 namespace tally {
 
 namespace {
@@ -17,16 +15,9 @@ std::string kilowatts(std::int16_t tenths, const PowerBasis& basis) {
     return Format(static_cast<float>(tenths) / 10.0F * basis.factor * volts / 1000.0F, "###0.0");
 }
 
-// The oldest and the newest time of all open files.
-std::string allFilesLine(const Recordings& recordings) {
-    ReadingTime start = recordings.info(0).start;
-    ReadingTime end = start;
-    for (int slot = 0; slot < recordings.openCount(); ++slot) {
-        const FileFacts& info = recordings.info(slot);
-        start = std::min(start, info.start);
-        end = std::max(end, timeOf(info, info.count - 1));
-    }
-    return "All Files:  Start:  " + screenTime(start) + "                End:  " + screenTime(end) + "\r\n";
+std::string allFilesLine(const TimeOfFiles& all) {
+    return "All Files:  Start:  " + screenTime(all.start) + "                End:  " + screenTime(all.end) +
+           "\r\n";
 }
 
 std::string selectedLines(const Recordings& recordings, const Range& range, const std::string& min,
@@ -39,7 +30,8 @@ std::string selectedLines(const Recordings& recordings, const Range& range, cons
 
 } // namespace
 
-std::string Printpwrinfo(const Recordings& recordings, const Power& power, bool selected) {
+std::string Printpwrinfo(const Recordings& recordings, const Power& power, bool selected,
+                         const TimeOfFiles& all) {
     if (!recordings.isOpen(0))
         throw fault::subscript();
     const std::string min = kilowatts(power.extremeMin, power.basis);
@@ -49,7 +41,7 @@ std::string Printpwrinfo(const Recordings& recordings, const Power& power, bool 
     for (int slot = 0; slot < recordings.openCount(); ++slot)
         text += fileLine(recordings.info(slot));
     text += "Mode:  " + modeFacts(recordings.info(0)) + "\r\n";
-    text += allFilesLine(recordings);
+    text += allFilesLine(all);
     text += "         Min: " + min + " KW" + "                                      Max: " + max + " KW    " +
             "\r\n";
     text += "Line Voltage: " + power.basis.vline + "   " +

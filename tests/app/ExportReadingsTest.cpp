@@ -80,6 +80,18 @@ TEST_F(ExportReadings, WhatIsShownIsOfferedWhileAPartIsShown) {
     EXPECT_EQ(files.contents["/out/a.csv"], "Time,a.dat\r\n2024-03-15 09:00,2.0\r\n2024-03-15 09:15,3.0\r\n");
 }
 
+// b.dat starts half an hour, two readings, after a.dat.
+TEST_F(ExportReadings, EverythingIsWhatTheFilesShare) {
+    open("/d/a.dat", dataFile('a', {10, 20, 30, 40}));
+    open("/d/b.dat", dataFile('a', {110, 210, 310, 410}, 'X', false, "03-15-24 10:30"));
+    run("/out/a.csv", [](ExportForm& form) {
+        EXPECT_EQ(form.findChild<QRadioButton*>(QStringLiteral("rangeWhole"))->text().toStdString(),
+                  "Everything: 2 readings, 09:15  Mar 15, 24 to 09:30  Mar 15, 24");
+    });
+    EXPECT_EQ(files.contents["/out/a.csv"],
+              "Time,a.dat,b.dat\r\n2024-03-15 09:15,3.0,11.0\r\n2024-03-15 09:30,4.0,21.0\r\n");
+}
+
 TEST_F(ExportReadings, AWorkbookNeedsNoSigns) {
     openBoth();
     run("/out/a.xlsx", [](ExportForm& form) {

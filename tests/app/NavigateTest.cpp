@@ -175,6 +175,22 @@ TEST_F(NavigateTest, FiguresOfAPowerPlotNameTheEnergy) {
     EXPECT_EQ(cell(9), QStringLiteral("508 KWHR")); // (1010 + 1020) / 4 = 507.5
 }
 
+// Kilowatts of a power factor of 1e37 are more than single precision holds.
+TEST_F(NavigateTest, FiguresThatOverflowAreSaidWhereTheyWouldStand) {
+    openPlot(5);
+    prompt.inputs.push_back("13800");
+    click("mnuItemViewPower");
+    click("mnuItemFigures");
+    prompt.inputs.push_back("1e37");
+    click("mnuItemPF");
+    const auto* panel = window.findChild<QTableWidget*>(QStringLiteral("spanTable"));
+    EXPECT_EQ(panel->columnCount(), 0);
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 6: Overflow"));
+    prompt.inputs.push_back("1");
+    click("mnuItemPF");
+    EXPECT_EQ(cell(9), QStringLiteral("1,408 KWHR")); // 102 A at 13.8 KV for an hour
+}
+
 TEST_F(NavigateTest, AFixedAxisHoldsUntilItIsReleased) {
     openPlot();
     prompt.inputs = {"0 to 400"};
@@ -274,6 +290,54 @@ TEST_F(ByTimeTest, ZoomTableSummaryAndPowerKeepToTheTime) {
     click("mnuItemViewPwrTable");
     EXPECT_THAT(window.screen().text().text().toStdString(),
                 HasSubstr(screenTime(timeOf(recordings.info(0), 8))));
+}
+
+TEST_F(ByTimeTest, TheNoticeNamesTheWholeCommonTimeWhateverIsZoomedTo) {
+    zoomTo(10, 12);
+    click("mnuItemAlign");
+    const std::string common =
+        screenTime(timeOf(recordings.info(1), 0)) + " to " + screenTime(timeOf(recordings.info(0), 19));
+    EXPECT_EQ(notice(), "Readings are combined by time, " + common + ".");
+    click("mnuItemShowAll");
+    EXPECT_EQ(points(), 12);
+    EXPECT_EQ(notice(), "Readings are combined by time, " + common + ".");
+}
+
+// Readings 1 to 3 of a.dat lie before b.dat starts.
+TEST_F(ByTimeTest, BackPassesOverARangeOutsideTheCommonTime) {
+    zoomTo(1, 3);
+    click("mnuItemShowAll");
+    zoomTo(10, 12);
+    click("mnuItemAlign");
+    for (int backs = 0; backs < 2; ++backs)
+        click("mnuItemBack");
+    EXPECT_FALSE(display.zoomed());
+    EXPECT_EQ(points(), 12);
+    EXPECT_FALSE(enabled("mnuItemBack"));
+    click("mnuItemForward");
+    EXPECT_FALSE(display.zoomed());
+    click("mnuItemForward");
+    EXPECT_EQ(display.displayed(recordings), (Range{10, 12}));
+    EXPECT_TRUE(prompt.shown.empty());
+}
+
+TEST_F(ByTimeTest, ForwardToARangeOutsideTheCommonTimeSaysThatThereIsNone) {
+    zoomTo(1, 3);
+    click("mnuItemBack");
+    click("mnuItemAlign");
+    click("mnuItemForward");
+    EXPECT_THAT(prompt.texts(), ElementsAre(HasSubstr("The files have no reading in common")));
+    EXPECT_FALSE(display.zoomed());
+    EXPECT_EQ(points(), 12);
+}
+
+TEST_F(ByTimeTest, TheTimeOfAllFilesIsNotTheCommonOne) {
+    const std::string all = "All Files:  Start:  " + screenTime(timeOf(recordings.info(0), 0)) +
+                            "                End:  " + screenTime(timeOf(recordings.info(1), 19)) + "\r\n";
+    click("mnuItemAlign");
+    prompt.inputs.push_back("10000");
+    click("mnuItemViewpwrsummry");
+    EXPECT_THAT(window.screen().text().text().toStdString(), HasSubstr(all));
 }
 
 TEST_F(ByTimeTest, OpeningAFileEndsIt) {

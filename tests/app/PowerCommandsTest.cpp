@@ -108,6 +108,22 @@ TEST_F(PowerCommands, OverflowOfThreeFilesRestoresTheDisplay) {
     EXPECT_EQ(display.gDatastart(), 2);
 }
 
+// Hundred amperes at 1e38 volts are more kilowatts than single precision holds.
+TEST_F(PowerCommands, APowerTableOfTheVoltageBeforeIsMarkedWhenTheNewOneOverflows) {
+    open("/d/a.dat", dataFile('a', constant(8, 1000)));
+    prompt.inputs.push_back("13800");
+    click("mnuItemViewPower");
+    click("mnuItemViewPwrTable");
+    prompt.inputs.push_back("1e38");
+    click("mnuItemViewPower");
+    EXPECT_THAT(prompt.texts(), ElementsAre("Error number 6: Overflow"));
+    EXPECT_EQ(display.view(), View::powerTable);
+    EXPECT_EQ(remark(), QStringLiteral("What is shown is no longer current."));
+    prompt.inputs.push_back("4160");
+    click("mnuItemViewPower");
+    EXPECT_THAT(remark().toStdString(), ::testing::StartsWith("Power of a.dat at 4.16 KV"));
+}
+
 TEST_F(PowerCommands, PowerSummaryAsksForTheVoltageOnceAndPowerTableNoMore) {
     open("/d/a.dat", dataFile('a', constant(8, 1000), 'X', true));
     click("mnuItemViewPlot");

@@ -200,6 +200,15 @@ std::string WalkDesk::differentPowerSummary(const std::string& text) {
     if (!near(behind(text, "Line Voltage: "), model_.volts()) ||
         !near(behind(text, "Power Factor: "), model_.factor))
         return "the power summary says another voltage or factor";
+    ReadingTime oldest = model_.open[0].time(0);
+    ReadingTime newest = model_.open[0].now.newest;
+    for (const OpenFile& file : model_.open) {
+        oldest = std::min(oldest, file.time(0));
+        newest = std::max(newest, file.now.newest);
+    }
+    if (!has(text,
+             "All Files:  Start:  " + screenTime(oldest) + "                End:  " + screenTime(newest)))
+        return "the power summary names other times of all files";
     const OpenFile& first = model_.open[0];
     const std::string selected = "Start  " + screenTime(first.time(range.first)) +
                                  "                Finish  " + screenTime(first.time(range.last));

@@ -226,9 +226,16 @@ void WalkDesk::goTo(bool forward) {
     if (forward ? model_.place + 1 >= model_.trail.size() : model_.place == 0)
         return;
     click(forward ? "mnuItemForward" : "mnuItemBack");
-    model_.place += forward ? 1 : std::size_t(-1);
-    const auto range = model_.trail[model_.place];
-    model_.zoom = range;
+    const auto empty = [this] { return model_.displayed().last < model_.displayed().first; };
+    do {
+        model_.place += forward ? 1 : std::size_t(-1);
+        model_.zoom = model_.trail[model_.place];
+    } while (empty() && (forward ? model_.place + 1 < model_.trail.size() : model_.place > 0));
+    if (empty()) {
+        model_ = before;
+        return refused();
+    }
+    const auto range = model_.zoom;
     model_.span = range.value_or(Span{0, model_.open[0].now.intervals() - 1});
     shownAgain(before);
 }

@@ -166,6 +166,13 @@ TEST_F(StudyCommand, PlotAndPowerAlignFilesByTime) {
     EXPECT_NEAR(together["kw"][3].get<double>(), 10 * (50 + 30.0), 1e-3);
     const Json part = json({"power", long1, red, "--volts", "10000", "--align", "--from", "4"});
     EXPECT_EQ(part["kw"].size(), 2U);
+    const auto allFiles = [&](std::vector<std::string> arguments) {
+        const std::string text = runProgram("tallyline-cli", arguments).out;
+        return text.substr(text.find("All Files:"), text.find("         Min:") - text.find("All Files:"));
+    };
+    EXPECT_EQ(allFiles({"power", long1, red, "--align", "--from", "2", "--to", "3"}),
+              allFiles({"power", long1, red}))
+        << "the time of the files as they are";
     const Json plot = json({"plot", long1, red, "--align"});
     EXPECT_EQ(plot["series"][0]["points"], 4);
     EXPECT_EQ(plot["labels"][0], "Mar 04 22:45");

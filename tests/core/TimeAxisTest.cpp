@@ -89,6 +89,15 @@ TEST(TimeAxis, ARangeCountsInReadingsOfTheFirstFile) {
     EXPECT_EQ(axis->first, (std::vector{2, 0}));
 }
 
+TEST(TimeAxis, AnEmptyRangeIsOneOutsideTheCommonTime) {
+    Recordings recordings;
+    addFile(recordings, "a.dat", ramp(10));
+    addFile(recordings, "b.dat", ramp(10), {.start = twoOClock + 30});
+    const auto axis = timeAxis(recordings, Range{2, 1});
+    ASSERT_FALSE(axis);
+    EXPECT_EQ(axis.error().text, axisNothingCommon);
+}
+
 TEST(TimeAxis, ATripleThatARangeTouchesTakesPartWhole) {
     Recordings recordings;
     addFile(recordings, "g.dat", ramp(10), {.letter = 'g'}); // triples 1 to 3, 4 to 6, 7 to 9

@@ -37,6 +37,16 @@ TEST(LineVoltage, StoredZeroCountsAsNone) {
     }
 }
 
+// A comma that groups thousands hides no digit behind it.
+TEST(LineVoltage, StoredTextIsNoneOnlyWhenItsVoltsAre) {
+    testing::MemorySettings settings;
+    settings.set("Settings", "Vline", "0,138");
+    EXPECT_TRUE(hasVline(settings));
+    EXPECT_EQ(voltsOf(vlineOf(settings)), 138);
+    settings.set("Settings", "Vline", "0,000");
+    EXPECT_FALSE(hasVline(settings));
+}
+
 TEST(LineVoltage, OnlyAnotherAnswerIsKept) {
     class Counting : public testing::MemorySettings {
     public:

@@ -12,14 +12,16 @@ using testing::constant;
 
 class PowerSummary : public testing::ShownFiles {
 protected:
-    std::string summary() { return Printpwrinfo(recordings, power(), display.zoomed()); }
+    std::string summary() {
+        return Printpwrinfo(recordings, power(), display.zoomed(), timeOfFiles(recordings));
+    }
     bool has(const std::string& text, const std::string& part) {
         return text.find(part) != std::string::npos;
     }
 };
 
 TEST_F(PowerSummary, NoFileIsASubscriptFault) {
-    EXPECT_THROW(Printpwrinfo(recordings, {}, false), Fault);
+    EXPECT_THROW(Printpwrinfo(recordings, {}, false, {}), Fault);
 }
 
 TEST_F(PowerSummary, ThreeFilesOfAHundredAmps) {

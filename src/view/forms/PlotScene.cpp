@@ -112,13 +112,13 @@ std::pair<double, double> PlotScene::wholeAcross() const {
 
 std::pair<double, double> PlotScene::wholeUp() const {
     const bool two = plot_.axes.size() > 1;
-    const double least = two ? plot_.axes[0].min : plot_.yMin;
-    const double greatest = two ? plot_.axes[0].max : plot_.yMax;
-    const bool usable = std::isfinite(least) && std::isfinite(greatest);
-    if (!usable || std::abs(least) > 1e30 || std::abs(greatest) > 1e30)
+    const double smallest = two ? plot_.axes[0].min : plot_.yMin;
+    const double largest = two ? plot_.axes[0].max : plot_.yMax;
+    const bool usable = std::isfinite(smallest) && std::isfinite(largest);
+    if (!usable || std::abs(smallest) > 1e30 || std::abs(largest) > 1e30)
         return {0, 10};
     // A scale that begins above the readings is shown all the same.
-    return least < greatest ? std::pair(least, greatest) : std::pair(least, least + 10);
+    return smallest < largest ? std::pair(smallest, largest) : std::pair(smallest, smallest + 10);
 }
 
 void PlotScene::resetView() {
