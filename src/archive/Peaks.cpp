@@ -33,12 +33,20 @@ DaysById daysOf(ArchiveStore& store, const std::vector<Id>& ids) {
     return days;
 }
 
+// The figures of the days in the range. A recording whose days are not there was removed since it was found,
+// or they were lost: it gives none.
+Figures figuresIn(const Range& range, const Entry& entry, const DaysById& days) {
+    if (range.holds(entry))
+        return entry.figures;
+    const auto kept = days.find(entry.id);
+    return kept == days.end() ? Figures() : kept->second.between(range.from, range.to);
+}
+
 // From the figures that were kept of each recording.
 CircuitFigures sumApart(const Circuit& circuit, const Range& range, const DaysById& days) {
     CircuitFigures sum;
     for (const Entry* entry : circuit) {
-        const Figures figures =
-            range.holds(*entry) ? entry->figures : days.at(entry->id).between(range.from, range.to);
+        const Figures figures = figuresIn(range, *entry, days);
         const bool higher =
             figures.points > 0 && (sum.figures.points == 0 || figures.highest > sum.figures.highest);
         sum.figures.add(figures);

@@ -4,6 +4,7 @@
 #include "cli/Endings.h"
 #include "core/Fault.h"
 
+#include <exception>
 #include <memory>
 
 namespace tally::cli {
@@ -28,6 +29,9 @@ Ended runAction(Context& context) {
     } catch (const Fault& fault) {
         return {status::refused,
                 onLines({fault.what(), fault.subject(), fault.subject().empty() ? "" : faultAdvice(fault)})};
+    } catch (const std::exception& error) {
+        // Nothing that goes wrong in a command may end the program without a word.
+        return {status::refused, error.what()};
     }
 }
 

@@ -80,6 +80,19 @@ TEST_F(Questions, LooksOnlyAtTheReadingsOfTheDates) {
     EXPECT_TRUE(peaks("2020-01-08", "").peaks.empty());
 }
 
+TEST_F(Questions, LeavesOutARecordingWhoseDaysAreGone) {
+    add({.values = constant(100, 50), .serial = "1", .circuit = "Maple"}); // into 2020-01-07
+    add({.values = constant(100, 40), .serial = "2", .circuit = "Oak"});
+    const Id gone = named("Maple").at(0).id;
+    Connection connection(place, Connection::Mode::write);
+    connection.run(std::string("DELETE FROM ") + (onServer() ? "tallyline." : "") + "daily WHERE id = ?",
+                   {gone});
+    const Peaks found = peaks("2020-01-07", "2020-01-07");
+    ASSERT_EQ(found.peaks.size(), 1U);
+    EXPECT_EQ(found.peaks[0].entry->belonging.circuit, "Oak");
+    EXPECT_DOUBLE_EQ(found.peaks[0].max, 40);
+}
+
 TEST_F(Questions, CountsAReadingOnceWhereRecordingsOverlap) {
     add({.values = {10, 20, 30}, .serial = "1"});                                   // 00:00 to 00:30
     add({.start = {2020, 1, 6, 0, 15}, .values = {90, 80, 40, 60}, .serial = "2"}); // 00:15 to 01:00
