@@ -18,7 +18,7 @@ StoreThread::~StoreThread() {
     {
         const std::lock_guard lock(mutex_);
         over_ = true;
-        tasks_.clear();
+        dropQuestions();
     }
     wake_.notify_one();
     thread_.join();
@@ -28,8 +28,15 @@ void StoreThread::use(const Place& place) {
     const std::lock_guard lock(mutex_);
     place_ = place;
     changed_ = true;
-    tasks_.clear();
+    dropQuestions();
+    for (Task& order : tasks_)
+        if (!order.place)
+            order.place = place;
     oldest_ = asked_;
+}
+
+void StoreThread::dropQuestions() {
+    std::erase_if(tasks_, [](const Task& task) { return !task.topic.empty(); });
 }
 
 void StoreThread::makeFirst() {
@@ -44,24 +51,27 @@ void StoreThread::ask(const std::string& topic, Question question) {
             std::erase_if(tasks_, [&](const Task& task) { return task.topic == topic; });
             newest_[topic] = asked_ + 1;
         }
-        tasks_.push_back({topic, ++asked_, std::move(question)});
+        tasks_.push_back({topic, ++asked_, std::move(question), place_});
     }
     wake_.notify_one();
 }
 
 void StoreThread::work() {
     std::unique_ptr<ArchiveStore> store;
+    std::string opened; // where the store stands
     for (;;) {
         std::unique_lock lock(mutex_);
         wake_.wait(lock, [this] { return over_ || (place_ && !tasks_.empty()); });
-        if (over_)
+        if (!place_ || tasks_.empty())
             return;
         const Task task = std::move(tasks_.front());
         tasks_.pop_front();
-        const Place place = *place_;
-        const bool make = std::exchange(make_, false);
-        if (std::exchange(changed_, false))
+        const Place place = *task.place;
+        // What is still to be done in an archive that was left makes none there.
+        const bool make = place.text() == place_->text() && std::exchange(make_, false);
+        if (std::exchange(changed_, false) || opened != place.text())
             store.reset();
+        opened = place.text();
         lock.unlock();
         run(task, store, place, make);
     }

@@ -30,15 +30,15 @@ public:
     using Question = std::function<Answer(ArchiveStore&)>;
 
     explicit StoreThread(const Archives& archives, QObject* parent = nullptr);
-    // Waits for the question in hand, at most as long as opening an archive may take.
+    // Waits for the question in hand, and until every order is carried out.
     ~StoreThread() override;
 
-    // Asks another archive from now on; what was asked of the last one is dropped.
+    // Asks another archive from now on; questions to the last one are dropped, and so are all its answers.
     void use(const Place& place);
     // Makes an archive at the place before the next question, where there is none.
     void makeFirst();
     void ask(const std::string& topic, Question question);
-    // An order is never dropped.
+    // An order is never dropped; the archive that it was given for carries it out.
     void order(Question question) { ask({}, std::move(question)); }
 
 Q_SIGNALS:
@@ -50,9 +50,11 @@ private:
         std::string topic;
         std::uint64_t number = 0;
         Question question;
+        std::optional<Place> place; // nothing until the first place is known
     };
 
     void work();
+    void dropQuestions();
     void run(const Task& task, std::unique_ptr<ArchiveStore>& store, const Place& place, bool make);
     Opened open(const Place& place, bool make) const;
     void deliver(const Task& task, std::function<void()> what);

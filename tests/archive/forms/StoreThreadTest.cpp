@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 #include <future>
+#include <thread>
 
 namespace tally {
 namespace {
@@ -58,6 +59,51 @@ TEST_F(StoreThread, ForgetsTheArchiveThatIsLeft) {
     EXPECT_TRUE(comes([this] { return answers.size() == 2; }));
     QTest::qWait(50);
     EXPECT_EQ(answers, (std::vector{1, 3}));
+}
+
+TEST_F(StoreThread, CarriesOrdersOutInTheArchiveThatIsLeft) {
+    const archive::Place other = archive::parsePlace(folder.path("other.sqlite")).value();
+    ASSERT_TRUE(initArchive(other));
+    (*openArchive(other, archives.tools()))->add({testing::keptOf({})});
+    std::vector<std::int64_t> recordings; // in the archive of each order
+    std::promise<void> go;
+    thread.use(archives.place);
+    thread.order([&](ArchiveStore&) {
+        go.get_future().wait();
+        return archive::StoreThread::Answer();
+    });
+    const auto count = [&](ArchiveStore& store) {
+        recordings.push_back(store.stats().recordings);
+        return archive::StoreThread::Answer();
+    };
+    thread.order(count);
+    thread.use(other);
+    thread.order(count);
+    thread.order(answer(1));
+    go.set_value();
+    EXPECT_TRUE(comes([this] { return answers.size() == 1; }));
+    EXPECT_EQ(recordings, (std::vector<std::int64_t>{0, 1}));
+}
+
+TEST_F(StoreThread, EndsWhenEveryOrderIsCarriedOut) {
+    std::atomic<int> done = 0;
+    std::atomic<int> asked = 0;
+    {
+        archive::StoreThread ending(archives);
+        ending.use(archives.place);
+        for (int number = 0; number < 3; ++number)
+            ending.order([&](ArchiveStore&) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(20));
+                ++done;
+                return archive::StoreThread::Answer();
+            });
+        ending.ask("search", [&](ArchiveStore&) {
+            ++asked;
+            return archive::StoreThread::Answer();
+        });
+    }
+    EXPECT_EQ(done, 3);
+    EXPECT_EQ(asked, 0);
 }
 
 TEST_F(StoreThread, OpensAgainAfterAFault) {
