@@ -17,6 +17,13 @@ struct Options {
     std::shared_ptr<bool> json;
 };
 
+// Neither file is written unless both can be.
+void checkPlaces(const Options& options, const archive::Given& given) {
+    checkPlace(options.output, given.bytes.size());
+    if (given.notesFile)
+        checkPlace(notesPath(options.output), given.notesFile->size());
+}
+
 int get(Context& context, const Options& options) {
     const std::string notes = notesPath(options.output);
     if (notes == options.output)
@@ -26,6 +33,7 @@ int get(Context& context, const Options& options) {
     const auto given = archive::giveBack(*store, entry, archiveTools());
     if (!given)
         throw Refused(onLines(given.error()));
+    checkPlaces(options, *given);
     writeFile(context, options.output, given->bytes);
     // Notes of another recording must not stay beside this one.
     std::error_code ignored;

@@ -10,6 +10,7 @@
 #include "core/Numbers.h"
 #include "core/TimeAxis.h"
 #include "platform/FilePath.h"
+#include "platform/OutputPlace.h"
 #include "view/FilesTogether.h"
 
 #include <charconv>
@@ -55,6 +56,10 @@ WrongUsage noWholeInterval(const Range& range, const FileFacts& info) {
                       oldest + " of this file are less than three. " +
                       (whole < info.count ? "Take a range that reaches reading " + oldest
                                           : "It has no others; leave the range out"));
+}
+
+Refused notWritten(const std::string& path, const Fault& fault) {
+    return Refused(std::string(fault.what()) + "\n" + path + " was not written.\n" + faultAdvice(fault));
 }
 
 } // namespace
@@ -145,7 +150,15 @@ void writeFile(Context& context, const std::string& path, const std::string& byt
     try {
         context.results().write(path, bytes);
     } catch (const Fault& fault) {
-        throw Refused(std::string(fault.what()) + "\n" + path + " was not written.\n" + faultAdvice(fault));
+        throw notWritten(path, fault);
+    }
+}
+
+void checkPlace(const std::string& path, std::uint64_t bytes) {
+    try {
+        checkOutputPlace(path, bytes);
+    } catch (const Fault& fault) {
+        throw notWritten(path, fault);
     }
 }
 

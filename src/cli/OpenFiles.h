@@ -7,6 +7,7 @@
 #include "view/Display.h"
 #include "view/FilesTogether.h"
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -61,5 +62,7 @@ void warnTogether(Context& context, const OpenFiles& open);
 
 // Writes a file as a whole. Throws Refused that names the file and the cause.
 void writeFile(Context& context, const std::string& path, const std::string& bytes);
+// Looks whether a file of so many bytes could be written, before anything is. Throws as writeFile() would.
+void checkPlace(const std::string& path, std::uint64_t bytes);
 
 } // namespace tally::cli

@@ -224,6 +224,16 @@ TEST_F(ArchiveCommand, GivesBackTheFileAndItsNotes) {
     EXPECT_EQ(archive({"get", plain, "-o", folder.path("nowhere/back.dat")}).status, 1);
 }
 
+TEST_F(ArchiveCommand, GivesNeitherFileWhenTheNotesCannotBeWritten) {
+    addBoth();
+    folder.write("back.dat", "an older file");
+    std::filesystem::create_directory(folder.path("back.not"));
+    const Finished run = archive({"get", idOf("Maple"), "-o", folder.path("back.dat")});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find(folder.path("back.not") + " was not written"), std::string::npos) << run.err;
+    EXPECT_EQ(TemporaryFolder::read(folder.path("back.dat")), "an older file");
+}
+
 TEST_F(ArchiveCommand, AnswersAboutLoads) {
     addBoth();
     const json peaks = document({"peaks"});
