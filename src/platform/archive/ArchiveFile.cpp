@@ -22,6 +22,8 @@ namespace {
 constexpr std::string_view magic = std::string_view("SQLite format 3\0", 16);
 constexpr mode_t onlyOwner = 0600;
 
+} // namespace
+
 StoreFault cannotMake(const std::string& path, int error) {
     const bool full = error == ENOSPC || error == EDQUOT;
     const bool readOnly = error == EROFS || error == EACCES || error == EPERM;
@@ -34,8 +36,6 @@ StoreFault cannotMake(const std::string& path, int error) {
                        : StoreTrouble::other,
             "The archive cannot be made (" + path + "): " + why};
 }
-
-} // namespace
 
 FileFound lookAtFile(const std::string& path) {
     const QFileInfo info(QString::fromStdString(path));

@@ -11,6 +11,9 @@ namespace tally {
 enum class FileFound { nothing, empty, database, foreign, unreadable };
 FileFound lookAtFile(const std::string& path);
 
+// Why a file cannot be made, from the system's error.
+archive::StoreFault cannotMake(const std::string& path, int error);
+
 // How the file can be opened: for writing, or as it stands on a medium that cannot be written.
 Connection::Mode modeFor(const std::string& path);
 

@@ -141,9 +141,17 @@ QSqlQuery& Connection::run(const std::string& sql, const SqlRow& values) {
     return query;
 }
 
+bool Connection::next(QSqlQuery& query) const {
+    if (query.next())
+        return true;
+    if (query.lastError().isValid())
+        throw fault(query.lastError());
+    return false;
+}
+
 std::int64_t Connection::number(const std::string& sql, const SqlRow& values) {
     QSqlQuery& query = run(sql, values);
-    const std::int64_t value = query.next() ? query.value(0).toLongLong() : 0;
+    const std::int64_t value = next(query) ? query.value(0).toLongLong() : 0;
     query.finish();
     return value;
 }

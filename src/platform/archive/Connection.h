@@ -35,6 +35,8 @@ public:
     // Runs a statement with values bound to its "?"; gives its rows, to be read before the next call of the
     // same statement.
     QSqlQuery& run(const std::string& sql, const SqlRow& values = {});
+    // Goes on to the next row; false after the last one. Rows that cannot be read are no end of them: throws.
+    bool next(QSqlQuery& query) const;
     // The first value of the first row as a number; 0 without a row.
     std::int64_t number(const std::string& sql, const SqlRow& values = {});
     // Runs statements that stand alone (no values, not kept).

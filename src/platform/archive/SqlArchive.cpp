@@ -37,7 +37,7 @@ std::vector<Entry> SqlArchive::find(const Selection& selection) {
         sql += " LIMIT " + std::to_string(selection.maximum);
     std::vector<Entry> entries;
     QSqlQuery& query = connection_->run(sql, where.values);
-    while (query.next()) {
+    while (connection_->next(query)) {
         Entry entry = rows::entryFrom(query);
         if (!selection.id || selection.id->fits(entry.sha))
             entries.push_back(std::move(entry));
@@ -57,7 +57,7 @@ void SqlArchive::addSources(std::vector<Entry>& entries) {
     inPortions(ids, [&](const std::string& list, const SqlRow& values) {
         QSqlQuery& query = connection_->run(
             "SELECT id, path, names FROM source WHERE id IN " + list + " ORDER BY id, place", values);
-        while (query.next())
+        while (connection_->next(query))
             byId.at(query.value(0).toLongLong())
                 ->sources.push_back(rows::sourceFrom(query.value(1).toString().toStdString(),
                                                      query.value(2).toString().toStdString()));
@@ -70,7 +70,7 @@ std::vector<Entry> SqlArchive::page(std::int64_t after, std::size_t maximum) {
     QSqlQuery& query = connection_->run("SELECT " + rows::entryColumns() +
                                             " FROM recording WHERE added > ? ORDER BY added LIMIT ?",
                                         {after, static_cast<std::int64_t>(maximum)});
-    while (query.next())
+    while (connection_->next(query))
         entries.push_back(rows::entryFrom(query));
     query.finish();
     addSources(entries);
@@ -82,7 +82,7 @@ std::vector<archive::DaySpan> SqlArchive::spans(const Selection& selection) {
     QSqlQuery& query = connection_->run(
         "SELECT DISTINCT first_day, last_day FROM recording" + where.condition, where.values);
     std::vector<archive::DaySpan> spans;
-    while (query.next())
+    while (connection_->next(query))
         spans.push_back({query.value(0).toInt(), query.value(1).toInt()});
     query.finish();
     return spans;
@@ -92,7 +92,7 @@ archive::Stats SqlArchive::stats() {
     archive::Stats stats;
     QSqlQuery& whole = connection_->run(
         "SELECT count(*), sum(readings), sum(size), min(first_day), max(last_day) FROM recording");
-    if (whole.next() && whole.value(0).toLongLong() > 0) {
+    if (connection_->next(whole) && whole.value(0).toLongLong() > 0) {
         stats.recordings = whole.value(0).toLongLong();
         stats.readings = whole.value(1).toLongLong();
         stats.bytes = whole.value(2).toLongLong();
@@ -112,7 +112,7 @@ void SqlArchive::receiveBlobs(const std::string& table, const std::string& colum
     inPortions(ids, [&](const std::string& list, const SqlRow& values) {
         QSqlQuery& query =
             connection_->run("SELECT id, " + column + " FROM " + table + " WHERE id IN " + list, values);
-        while (query.next()) {
+        while (connection_->next(query)) {
             const QByteArray bytes = query.value(1).toByteArray();
             receive(query.value(0).toLongLong(),
                     std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
@@ -132,7 +132,7 @@ void SqlArchive::readings(const std::vector<Id>& ids, const Receive& receive) {
 std::optional<archive::Body> SqlArchive::body(Id id) {
     archive::Body body;
     QSqlQuery& query = connection_->run("SELECT bytes, notes, readings FROM body WHERE id = ?", {id});
-    const bool found = query.next();
+    const bool found = connection_->next(query);
     if (found) {
         body.bytes = bytesAt(query, 0);
         if (!query.value(1).isNull())
@@ -143,7 +143,7 @@ std::optional<archive::Body> SqlArchive::body(Id id) {
     if (!found)
         return std::nullopt;
     QSqlQuery& daily = connection_->run("SELECT figures FROM daily WHERE id = ?", {id});
-    if (daily.next())
+    if (connection_->next(daily))
         body.days = bytesAt(daily, 0);
     daily.finish();
     return body;
@@ -153,7 +153,7 @@ std::optional<Entry> SqlArchive::entry(Id id) {
     std::vector<Entry> entries;
     QSqlQuery& query =
         connection_->run("SELECT " + rows::entryColumns() + " FROM recording WHERE id = ?", {id});
-    if (query.next())
+    if (connection_->next(query))
         entries.push_back(rows::entryFrom(query));
     query.finish();
     if (entries.empty())

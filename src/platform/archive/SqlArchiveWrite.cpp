@@ -74,7 +74,7 @@ std::map<Id, SqlArchive::Known> SqlArchive::known(const std::vector<Kept>& recor
     inPortions(ids, [&](const std::string& list, const SqlRow& values) {
         QSqlQuery& query =
             connection_->run("SELECT id, sha, noted FROM recording WHERE id IN " + list, values);
-        while (query.next())
+        while (connection_->next(query))
             found[query.value(0).toLongLong()] = {
                 query.value(1).toByteArray().toStdString(), query.value(2).toInt() != 0, {}};
         query.finish();
@@ -84,7 +84,7 @@ std::map<Id, SqlArchive::Known> SqlArchive::known(const std::vector<Kept>& recor
         ids.push_back(id);
     inPortions(ids, [&](const std::string& list, const SqlRow& values) {
         QSqlQuery& query = connection_->run("SELECT id, path FROM source WHERE id IN " + list, values);
-        while (query.next())
+        while (connection_->next(query))
             found[query.value(0).toLongLong()].paths.insert(query.value(1).toString().toStdString());
         query.finish();
     });

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "archive/CopyArchive.h"
-#include "platform/archive/ArchiveFile.h"
 #include "platform/archive/OpenArchive.h"
+#include "platform/archive/PartFile.h"
 #include "platform/archive/SqlArchive.h"
 
 namespace tally {
@@ -26,19 +26,16 @@ void copyInto(archive::ArchiveStore& from, const archive::ArchiveTools& tools, c
 } // namespace
 
 void SqlArchive::backup(const std::string& path) {
-    if (lookAtFile(path) != FileFound::nothing)
-        throw StoreFault(StoreTrouble::other, "There is a file of this name already: " + path);
-    // The file is made first, for this user alone; a failure takes it away again.
-    const NewFile file(path);
+    PartFile file(path);
     Place place;
     place.engine = Engine::sqlite;
-    place.path = path;
+    place.path = file.name();
     // Copying the file itself while somebody writes would give a damaged one.
     if (connection_->engine() == Engine::sqlite)
-        connection_->run("VACUUM INTO ?", {path}).finish();
+        connection_->run("VACUUM INTO ?", {file.name()}).finish();
     else
         copyInto(*this, tools_, place);
-    file.keep();
+    file.finish();
 }
 
 } // namespace tally

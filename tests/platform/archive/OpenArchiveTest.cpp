@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+
 namespace tally::archive {
 namespace {
 
@@ -108,6 +110,64 @@ TEST_F(OpenArchive, WritesABackupThatIsAnArchive) {
     EXPECT_TRUE(verifyArchive(**opened, tools()).bad.empty());
 }
 
+// Looks for a file whenever it is asked for the case of letters.
+class WatchingTools : public QtArchiveTools {
+public:
+    explicit WatchingTools(std::string path) : path_(std::move(path)) {}
+    std::string fold(std::string_view text) const override {
+        ++asked;
+        seen += QFileInfo::exists(QString::fromStdString(path_)) ? 1 : 0;
+        return QtArchiveTools::fold(text);
+    }
+    mutable int asked = 0;
+    mutable int seen = 0;
+
+private:
+    std::string path_;
+};
+
+TEST_F(OpenArchive, GivesABackupItsNameOnlyWhenItIsWhole) {
+    make();
+    open();
+    add({});
+    const std::string path = folder.path("backup.sqlite");
+    const WatchingTools watching(path);
+    const auto opened = openArchive(place, watching);
+    ASSERT_TRUE(opened) << opened.error().message();
+    (*opened)->backup(path);
+    // A file is copied by its own engine, which asks for no letters.
+    EXPECT_EQ(watching.asked > 0, onServer());
+    EXPECT_EQ(watching.seen, 0);
+    for (const char* suffix : {"-wal", "-shm", ".part", ".part-wal", ".part-shm"})
+        EXPECT_FALSE(QFileInfo::exists(QString::fromStdString(path + suffix))) << suffix;
+}
+
+TEST_F(OpenArchive, WritesABackupAnewThatAKilledProgramLeft) {
+    make();
+    open();
+    add({});
+    const std::string path = folder.path("backup.sqlite");
+    store->backup(path);
+    std::filesystem::rename(path, path + ".part");
+    add({.serial = "2"});
+    store->backup(path);
+    EXPECT_FALSE(std::filesystem::exists(path + ".part"));
+    Place copy;
+    copy.path = path;
+    const auto opened = openArchive(copy, tools());
+    ASSERT_TRUE(opened) << opened.error().message();
+    EXPECT_EQ((*opened)->stats().recordings, 2);
+}
+
+TEST_F(OpenArchive, LeavesAFileOfAnotherProgramBesideABackupAlone) {
+    make();
+    open();
+    const std::string other = folder.write("backup.sqlite.part", "a letter");
+    EXPECT_THROW(store->backup(folder.path("backup.sqlite")), StoreFault);
+    EXPECT_EQ(tally::testing::TemporaryFolder::read(other), "a letter");
+    EXPECT_FALSE(std::filesystem::exists(folder.path("backup.sqlite")));
+}
+
 TEST_F(OpenArchive, CopiesEverythingInTheOrderOfAdding) {
     make();
     open();
@@ -186,6 +246,33 @@ TEST_F(ArchiveInFile, MakesNothingWhereThereIsNoFolder) {
     const auto made = initArchive(place);
     ASSERT_FALSE(made);
     EXPECT_NE(made.error().text.find("no such folder"), std::string::npos);
+}
+
+// A table whose last row cannot be read, though those before it can.
+TEST_F(ArchiveInFile, TakesRowsThatCannotBeReadForNoEnd) {
+    make();
+    open();
+    for (const char* serial : {"1", "2", "3"})
+        add({.serial = serial});
+    std::vector<Id> ids;
+    for (const Entry& entry : find())
+        ids.push_back(entry.id);
+    const auto nothing = [](Id, std::string_view) {};
+    EXPECT_NO_THROW(store->dayFigures(ids, nothing));
+    Connection connection(place, Connection::Mode::write);
+    const std::string broken = "CASE WHEN id = (SELECT max(id) FROM whole) "
+                               "THEN abs(-9223372036854775807 - 1) ELSE ";
+    connection.execute("ALTER TABLE daily RENAME TO whole");
+    connection.execute("CREATE VIEW daily AS SELECT id, " + broken + "figures END AS figures FROM whole");
+    EXPECT_THROW(store->dayFigures(ids, nothing), StoreFault);
+    connection.execute("DROP VIEW daily");
+    connection.execute("ALTER TABLE whole RENAME TO daily");
+    EXPECT_NO_THROW(store->dayFigures(ids, nothing));
+    connection.execute("ALTER TABLE recording RENAME TO whole");
+    connection.execute("CREATE VIEW recording AS SELECT id, first_day, last_day, " + broken +
+                       "sha END AS sha, noted FROM whole");
+    EXPECT_THROW(store->add({keptOf({.serial = "1"}), keptOf({.serial = "2"}), keptOf({.serial = "3"})}),
+                 StoreFault);
 }
 
 TEST_F(ArchiveInFile, SaysThatAFileIsDamaged) {
