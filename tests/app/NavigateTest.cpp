@@ -188,7 +188,7 @@ TEST_F(NavigateTest, FiguresThatOverflowAreSaidWhereTheyWouldStand) {
     EXPECT_THAT(prompt.texts(), ElementsAre("Error number 6: Overflow"));
     prompt.inputs.push_back("1");
     click("mnuItemPF");
-    EXPECT_EQ(cell(9), QStringLiteral("1,408 KWHR")); // 102 A at 13.8 KV for an hour
+    EXPECT_EQ(cell(9), QStringLiteral("1,415 KWHR")); // (101 + 102 + 103 + 104) / 4 A at 13.8 KV
 }
 
 TEST_F(NavigateTest, AFixedAxisHoldsUntilItIsReleased) {
@@ -333,7 +333,7 @@ TEST_F(ByTimeTest, ForwardToARangeOutsideTheCommonTimeSaysThatThereIsNone) {
 
 TEST_F(ByTimeTest, TheTimeOfAllFilesIsNotTheCommonOne) {
     const std::string all = "All Files:  Start:  " + screenTime(timeOf(recordings.info(0), 0)) +
-                            "                End:  " + screenTime(timeOf(recordings.info(1), 19)) + "\r\n";
+                            "                End:  " + screenTime(timeOf(recordings.info(1), 19)) + "\n";
     click("mnuItemAlign");
     prompt.inputs.push_back("10000");
     click("mnuItemViewpwrsummry");

@@ -69,7 +69,9 @@ QWidget* ExportForm::makeRange(const std::string& whole, const std::string& part
     rows->addWidget(all);
     rows->addWidget(part_);
     part_->setVisible(!part.empty());
-    (part.empty() ? all : part_)->setChecked(true);
+    QRadioButton* const usual = part.empty() ? all : part_;
+    usual->setChecked(true);
+    usual->setFocus();
     return group;
 }
 

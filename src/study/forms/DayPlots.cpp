@@ -113,6 +113,8 @@ public:
         if (image_.isNull())
             fill();
         painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
+        // A cell is a figure: paper must not blur its colour.
+        painter.setRenderHint(QPainter::LosslessImageRendering);
         painter.drawImage(box, image_);
         painter.setPen(look.frame);
         painter.setBrush(Qt::NoBrush);

@@ -64,8 +64,11 @@ void SpanPanel::showFigures(const std::string& title, const std::vector<std::vec
         lines.append(words(remark));
     remarks_->setText(lines.join(u'\n'));
     remarks_->setVisible(!lines.isEmpty());
-    if (rows.empty())
+    if (rows.empty()) {
+        table_->setRowCount(0);
+        table_->setColumnCount(0);
         return;
+    }
     table_->setRowCount(int(rows.size()) - 1);
     table_->setColumnCount(int(rows.front().size()) - 1);
     for (int column = 1; column < int(rows.front().size()); ++column)
